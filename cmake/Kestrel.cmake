@@ -1,0 +1,61 @@
+# Settings shared by every target, and the functions that make a library or a test of a folder.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
+add_compile_definitions(QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+                        QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+if(KESTREL_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+    add_compile_definitions(_GLIBCXX_ASSERTIONS)
+else()
+    # Hardening, as a program deserves that opens files it did not write.
+    add_compile_options(-fstack-protector-strong -fstack-clash-protection
+                        $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE> $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
+    add_link_options(-Wl,-z,relro,-z,now)
+    include(CheckPIESupported)
+    check_pie_supported()
+endif()
+
+# kestrel_library(NAME [QT] [LINK target...]): the library of src/NAME, made of whatever sources stand there.
+function(kestrel_library name)
+    cmake_parse_arguments(ARG "QT" "" "LINK" ${ARGN})
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp ${CMAKE_SOURCE_DIR}/src/${name}/*.h)
+    if(NOT sources MATCHES "\\.cpp")
+        add_library(${name} INTERFACE)
+        target_link_libraries(${name} INTERFACE ${ARG_LINK})
+        return()
+    endif()
+    add_library(${name} STATIC ${sources})
+    target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+    target_link_libraries(${name} PUBLIC ${ARG_LINK})
+    set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_QT})
+endfunction()
+
+# kestrel_test(NAME [QT] [LINK target...]): one test program of the sources in tests/NAME.
+# With QT it gets an application and runs without a screen.
+function(kestrel_test name)
+    cmake_parse_arguments(ARG "QT" "" "LINK" ${ARGN})
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${name}/*.cpp)
+    if(NOT sources)
+        return()
+    endif()
+    add_executable(test_${name} ${sources})
+    set_target_properties(test_${name} PROPERTIES AUTOMOC ${ARG_QT})
+    target_compile_definitions(test_${name} PRIVATE KESTREL_INSTALL_DIR="${KESTREL_INSTALL_DIR}"
+                               KESTREL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+    target_link_libraries(test_${name} PRIVATE ${ARG_LINK} GTest::gmock $<IF:$<BOOL:${ARG_QT}>,qt_test_main,GTest::gtest_main>)
+    add_test(NAME ${name} COMMAND test_${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT
+        "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/leaks.supp;UBSAN_OPTIONS=print_stacktrace=1")
+endfunction()
