@@ -1,0 +1,95 @@
+#include "Database.h"
+
+#include "Hardening.h"
+#include "LikeFunction.h"
+#include "VerseTable.h"
+#include <filesystem>
+#include <map>
+
+namespace {
+
+/// The path as an address that the engine takes literally, whatever characters it holds. The file counts as
+/// unchangeable, so the engine neither locks it nor looks for a journal beside it.
+std::string readOnlyUri(const std::string& path)
+{
+    std::string uri = path.starts_with('/') ? "file://" : "file:";
+    constexpr char hex[] = "0123456789ABCDEF";
+    for (const char c : path) {
+        const auto byte = static_cast<unsigned char>(c);
+        const bool plain = std::string_view("/-._~").find(c) != std::string_view::npos ||
+                           (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+        if (plain)
+            uri += c;
+        else
+            uri.append({'%', hex[byte >> 4], hex[byte & 15]});
+    }
+    return uri + "?mode=ro&immutable=1";
+}
+
+} // namespace
+
+std::shared_ptr<Database> Database::open(const std::string& path)
+{
+    static std::map<std::string, std::weak_ptr<Database>> opened;
+    auto& known = opened[path];
+    auto database = known.lock();
+    if (!database) {
+        database = std::make_shared<Database>(path);
+        known = database;
+    }
+    return database;
+}
+
+Database::Database(const std::string& path)
+{
+    // Opening a pipe would wait for ever, and a folder fails late with a message that misleads.
+    if (!std::filesystem::is_regular_file(path))
+        throw DataError(SQLITE_CANTOPEN, sqlite3_errstr(SQLITE_CANTOPEN));
+    sqlite3* connection = nullptr;
+    const int result = sqlite3_open_v2(readOnlyUri(path).c_str(), &connection,
+                                       SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX, nullptr);
+    m_connection.reset(connection);
+    if (result != SQLITE_OK)
+        throw connection ? engineError(connection) : DataError(result, sqlite3_errstr(result));
+    setUp();
+    readVerses(std::filesystem::file_size(path));
+    allowReadingOnly(connection);
+}
+
+void Database::setUp()
+{
+    limitEngine(m_connection.get(), m_steps);
+    if (registerLike(m_connection.get(), &m_verses) != SQLITE_OK ||
+        registerVerseTable(m_connection.get(), &m_verses) != SQLITE_OK)
+        throw engineError(m_connection.get());
+    execute("PRAGMA temp_store = MEMORY");
+    execute("PRAGMA cache_size = -256");
+    execute("CREATE VIRTUAL TABLE temp.VerseRows USING VerseRows");
+    // The order is part of the query itself here, so that it holds whatever plan the engine makes; where the
+    // rows come in order anyway, it costs nothing.
+    execute("CREATE TEMP VIEW NewTestament AS SELECT VerseId, VerseNumber, KJVerseText FROM temp.VerseRows "
+            "ORDER BY VerseNumber");
+    execute("PRAGMA query_only = ON");
+}
+
+void Database::readVerses(std::size_t fileSize)
+{
+    try {
+        m_verses.block.emplace(m_connection.get(), fileSize);
+        m_verses.keys.emplace(*m_verses.block);
+    } catch (const DataError& error) {
+        m_verses.damage = error;
+    }
+}
+
+void Database::execute(const char* sql)
+{
+    if (sqlite3_exec(m_connection.get(), sql, nullptr, nullptr, nullptr) != SQLITE_OK)
+        throw engineError(m_connection.get());
+}
+
+Statement Database::prepare(const std::string& sql)
+{
+    m_steps = 0;
+    return ::prepare(m_connection.get(), sql);
+}

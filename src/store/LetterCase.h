@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// Letter case of the Latin, Greek and Cyrillic scripts, the same in every locale.
+///
+/// Only pairs count: one capital and one small letter that stand for each other and are equally long in
+/// UTF-8. So folding never moves a byte, and the Kelvin sign, the dotted I, the sharp s and the final sigma
+/// equal only themselves.
+char32_t toSmallLetter(char32_t character);
+
+/// The other letter of the pair; the character itself when it has none.
+char32_t toOtherCase(char32_t character);
+
+/// The text with every capital of a pair made small; of the same length.
+std::string foldCase(std::string_view text);

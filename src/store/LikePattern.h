@@ -1,0 +1,68 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// A LIKE pattern, compiled once and matched against whole texts.
+///
+///     *          any run of characters, also none
+///     ?          one character
+///     #          one digit, 0 to 9
+///     [abc]      one of these characters; "*", "?", "#", "[" and "!" (unless first) stand for themselves
+///     [a-f]      one of a range by code point; a "-" that is first or last, or follows a range, is itself
+///     [!...]     one character that the class does not hold
+///     [!]        an exclamation mark
+///     []         nothing: the empty text
+///     other      the character itself, "]" and "!" among them
+///
+/// A letter equals its other case (see LetterCase.h), in classes too: [a-z] holds "K". A class ends at its
+/// first "]"; one that never ends and a range that descends make the pattern invalid. "?" and [!...] need a
+/// character: they match nothing at the end of a text. Bytes that are no UTF-8 are one character each and
+/// equal only themselves.
+class LikePattern
+{
+public:
+    /// Throws DataError 93, "Invalid pattern string".
+    explicit LikePattern(std::string_view pattern);
+
+    /// Takes time in proportion to the lengths of text and pattern multiplied, at worst.
+    bool matches(std::string_view text) const;
+
+    /// What every match begins with, once folded by foldCase().
+    const std::string& prefix() const { return m_prefix; }
+
+    /// The longest of the pieces that every match contains, small letters for both cases. Only characters
+    /// that differ from their other case in bit 0x20 of their last byte, if at all: ASCII and the accented
+    /// letters of Latin-1.
+    const std::string& piece() const { return m_piece; }
+
+private:
+    enum class Kind { AnyRun, AnyCharacter, Digit, Letter, Class };
+    struct Step
+    {
+        Kind kind;
+        char32_t value; ///< the folded letter, or the place of the class
+    };
+    struct Range
+    {
+        char32_t first;
+        char32_t last;
+    };
+    struct Class
+    {
+        bool negated;
+        std::vector<Range> ranges;
+
+        bool holds(char32_t character) const;
+    };
+
+    void readClass(const char*& at, const char* end);
+    void findPieces();
+    bool accepts(const Step& step, char32_t character) const;
+
+    std::vector<Step> m_steps;
+    std::vector<Class> m_classes;
+    std::string m_prefix;
+    std::string m_piece;
+};

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "LikePattern.h"
+#include "VerseBlock.h"
+
+/// Finds the rows of a block whose text matches a pattern, in order. The block must outlive it.
+///
+/// Instead of trying the pattern on every row it sweeps over all texts for the two rarest bytes of the
+/// pattern's longest piece, letter case aside, in a loop that the compiler turns into vector instructions.
+class TextSearch
+{
+public:
+    /// Throws DataError 93, "Invalid pattern string".
+    TextSearch(const VerseBlock& block, std::string_view pattern);
+
+    bool matches(std::size_t row) const { return m_pattern.matches(m_block.text(row)); }
+
+    /// The first matching row from `row` on and before `end`; `end` if there is none.
+    std::size_t next(std::size_t row, std::size_t end) const;
+
+private:
+    struct Probe
+    {
+        std::size_t offset;
+        unsigned char byte;
+    };
+
+    void chooseProbes();
+    const char* findPiece(const char* at, const char* end) const;
+    bool pieceStandsAt(const char* at) const;
+
+    const VerseBlock& m_block;
+    LikePattern m_pattern;
+    Probe m_rarest{};
+    Probe m_second{};
+};

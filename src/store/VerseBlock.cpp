@@ -1,0 +1,94 @@
+#include "VerseBlock.h"
+
+#include "Engine.h"
+#include <algorithm>
+#include <functional>
+
+namespace {
+
+/// More than any sound file can hold; less than offsets of 32 bits can count.
+constexpr std::size_t mostBytes = 64 << 20;
+constexpr std::size_t sampleEvery = 16;
+
+const char* columnText(sqlite3_stmt* statement, int column)
+{
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+    return text ? text : "";
+}
+
+} // namespace
+
+VerseBlock::VerseBlock(sqlite3* connection, std::size_t expectedBytes)
+{
+    m_texts.reserve(std::min(expectedBytes, mostBytes));
+    // The file is built in order, which is quickest to read; any other is read again and sorted by the
+    // engine.
+    if (!read(connection, ""))
+        read(connection, " ORDER BY VerseNumber");
+    countBytes();
+}
+
+/// False, with part of the rows read, when they do not come in the order of their numbers.
+bool VerseBlock::read(sqlite3* connection, const char* order)
+{
+    m_numbers.clear();
+    m_keys.clear();
+    m_texts.clear();
+    m_keyStarts.assign(1, 0);
+    m_textStarts.assign(1, 0);
+    const bool sorted = *order != '\0';
+    const auto rows = prepare(
+        connection, std::string("SELECT VerseId, VerseNumber, KJVerseText FROM main.NewTestament") + order);
+    int result;
+    while ((result = sqlite3_step(rows.get())) == SQLITE_ROW) {
+        if (sqlite3_column_type(rows.get(), 1) != SQLITE_INTEGER)
+            continue;
+        const std::int64_t number = sqlite3_column_int64(rows.get(), 1);
+        if (!m_numbers.empty() && number <= m_numbers.back()) {
+            if (!sorted)
+                return false;
+            continue;
+        }
+        const char* text = columnText(rows.get(), 2);
+        m_numbers.push_back(number);
+        m_keys.append(columnText(rows.get(), 0)).push_back('\0');
+        m_texts.append(*text == ' ' ? "" : " ").append(text).push_back('\0');
+        if (m_keys.size() > mostBytes || m_texts.size() > mostBytes)
+            throw DataError(SQLITE_TOOBIG, sqlite3_errstr(SQLITE_TOOBIG));
+        m_keyStarts.push_back(static_cast<std::uint32_t>(m_keys.size()));
+        m_textStarts.push_back(static_cast<std::uint32_t>(m_texts.size()));
+    }
+    if (result != SQLITE_DONE)
+        throw engineError(connection);
+    return true;
+}
+
+void VerseBlock::countBytes()
+{
+    for (std::size_t row = 0; row < size(); row += sampleEvery) {
+        for (const char c : text(row))
+            ++m_byteCounts[static_cast<unsigned char>(c) | 0x20];
+    }
+}
+
+std::size_t VerseBlock::rowNotBelow(std::int64_t number) const
+{
+    return std::lower_bound(m_numbers.begin(), m_numbers.end(), number) - m_numbers.begin();
+}
+
+std::size_t VerseBlock::rowAbove(std::int64_t number) const
+{
+    return std::upper_bound(m_numbers.begin(), m_numbers.end(), number) - m_numbers.begin();
+}
+
+bool VerseBlock::holds(const char* address) const
+{
+    const std::less<const char*> before;
+    return !before(address, m_texts.data()) && before(address, m_texts.data() + m_texts.size());
+}
+
+std::size_t VerseBlock::rowAt(const char* address) const
+{
+    const auto offset = static_cast<std::uint32_t>(address - m_texts.data());
+    return std::upper_bound(m_textStarts.begin(), m_textStarts.end(), offset) - m_textStarts.begin() - 1;
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "LikePattern.h"
+#include "TextSearch.h"
+#include "Verses.h"
+#include <algorithm>
+
+/// A walk over the rows of a block that fulfil every condition given, in order.
+class VerseCursor
+{
+public:
+    explicit VerseCursor(const Verses& verses);
+
+    void keepNone() { m_end = m_row = 0; }
+    void keepFrom(std::size_t row) { m_row = std::max(m_row, row); }
+    void keepBefore(std::size_t row) { m_end = std::min(m_end, row); }
+    void keepKey(std::string_view key);
+    void keepKeysLike(std::string_view pattern);
+    void keepTextsLike(std::string_view pattern);
+
+    /// Stands on the first row, once all conditions are given.
+    void start() { seek(); }
+    void next() { ++m_row, seek(); }
+    bool atEnd() const { return m_row >= m_end; }
+    std::size_t row() const { return m_row; }
+
+private:
+    void seek();
+    bool fits(std::size_t row) const;
+    std::size_t nextCandidate(std::size_t row) const;
+    void narrowToPrefix(std::string_view folded);
+
+    const VerseBlock& m_block;
+    const KeyIndex& m_keys;
+    std::size_t m_row = 0;
+    std::size_t m_end;
+    std::vector<std::uint64_t> m_candidates; ///< one bit a row; empty when the index was not asked
+    std::vector<LikePattern> m_keyPatterns;
+    std::vector<TextSearch> m_textSearches;
+};

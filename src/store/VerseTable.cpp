@@ -1,0 +1,240 @@
+#include "VerseTable.h"
+
+#include "Engine.h"
+#include "VerseCursor.h"
+
+namespace {
+
+enum Column { VerseId, VerseNumber, KJVerseText };
+
+/// What VerseCursor can do with a condition; the plan is one of these letters an argument.
+enum Use : char {
+    NumberEqual = '=',
+    NumberBelow = '<',
+    NumberUpTo = '(',
+    NumberAbove = '>',
+    NumberFrom = ')',
+    KeyEqual = 'k',
+    KeyLike = 'K',
+    TextLike = 'T',
+    None = '\0'
+};
+
+struct Table : sqlite3_vtab
+{
+    const Verses* verses;
+};
+
+struct Cursor : sqlite3_vtab_cursor
+{
+    std::optional<VerseCursor> rows;
+
+    const Verses& verses() const { return *static_cast<Table*>(pVtab)->verses; }
+};
+
+Cursor* asCursor(sqlite3_vtab_cursor* cursor)
+{
+    return static_cast<Cursor*>(cursor);
+}
+
+int fail(sqlite3_vtab* table, const DataError& error)
+{
+    sqlite3_free(table->zErrMsg);
+    table->zErrMsg = sqlite3_mprintf("%s", error.what());
+    return error.number();
+}
+
+int connectTable(sqlite3* connection, void* verses, int, const char* const*, sqlite3_vtab** table, char**)
+{
+    sqlite3_vtab_config(connection, SQLITE_VTAB_INNOCUOUS);
+    const int result = sqlite3_declare_vtab(
+        connection, "CREATE TABLE rows (VerseId TEXT, VerseNumber INTEGER, KJVerseText TEXT)");
+    if (result == SQLITE_OK)
+        *table = new (std::nothrow) Table{{}, static_cast<const Verses*>(verses)};
+    return result == SQLITE_OK && !*table ? SQLITE_NOMEM : result;
+}
+
+int disconnectTable(sqlite3_vtab* table)
+{
+    delete static_cast<Table*>(table);
+    return SQLITE_OK;
+}
+
+Use useOf(int column, int comparison)
+{
+    switch (comparison) {
+    case SQLITE_INDEX_CONSTRAINT_EQ:
+        return column == VerseNumber ? NumberEqual : column == VerseId ? KeyEqual : None;
+    case SQLITE_INDEX_CONSTRAINT_LT:
+        return column == VerseNumber ? NumberBelow : None;
+    case SQLITE_INDEX_CONSTRAINT_LE:
+        return column == VerseNumber ? NumberUpTo : None;
+    case SQLITE_INDEX_CONSTRAINT_GT:
+        return column == VerseNumber ? NumberAbove : None;
+    case SQLITE_INDEX_CONSTRAINT_GE:
+        return column == VerseNumber ? NumberFrom : None;
+    case SQLITE_INDEX_CONSTRAINT_LIKE:
+        return column == VerseId ? KeyLike : column == KJVerseText ? TextLike : None;
+    default:
+        return None;
+    }
+}
+
+/// The share of the rows that a condition leaves, roughly.
+double share(Use use)
+{
+    switch (use) {
+    case NumberEqual:
+    case KeyEqual:
+        return 0;
+    case KeyLike:
+        return 0.01;
+    default:
+        return 0.5;
+    }
+}
+
+int planQuery(sqlite3_vtab*, sqlite3_index_info* info)
+try {
+    constexpr double allRows = 31102;
+    double rows = allRows;
+    std::string plan;
+    for (int i = 0; i < info->nConstraint; ++i) {
+        const auto& constraint = info->aConstraint[i];
+        const Use use = constraint.usable ? useOf(constraint.iColumn, constraint.op) : None;
+        if (use == None)
+            continue;
+        plan += use;
+        info->aConstraintUsage[i].argvIndex = static_cast<int>(plan.size());
+        // Comparisons are narrowed by only; the engine knows best how it compares values of different types.
+        info->aConstraintUsage[i].omit = use == KeyLike || use == TextLike;
+        rows *= share(use);
+    }
+    info->idxStr = sqlite3_mprintf("%s", plan.c_str());
+    info->needToFreeIdxStr = 1;
+    info->estimatedRows = static_cast<sqlite3_int64>(rows) + 1;
+    info->estimatedCost = rows + 1;
+    info->orderByConsumed =
+        info->nOrderBy == 1 && info->aOrderBy[0].iColumn == VerseNumber && !info->aOrderBy[0].desc;
+    return info->idxStr ? SQLITE_OK : SQLITE_NOMEM;
+} catch (const std::bad_alloc&) {
+    return SQLITE_NOMEM;
+}
+
+int openCursor(sqlite3_vtab* table, sqlite3_vtab_cursor** cursor)
+{
+    if (const auto& damage = static_cast<Table*>(table)->verses->damage)
+        return fail(table, *damage);
+    *cursor = new (std::nothrow) Cursor{};
+    return *cursor ? SQLITE_OK : SQLITE_NOMEM;
+}
+
+int closeCursor(sqlite3_vtab_cursor* cursor)
+{
+    delete asCursor(cursor);
+    return SQLITE_OK;
+}
+
+void narrowByNumber(VerseCursor& rows, const VerseBlock& block, char use, sqlite3_int64 number)
+{
+    if (use == NumberEqual || use == NumberFrom)
+        rows.keepFrom(block.rowNotBelow(number));
+    if (use == NumberEqual || use == NumberUpTo)
+        rows.keepBefore(block.rowAbove(number));
+    if (use == NumberAbove)
+        rows.keepFrom(block.rowAbove(number));
+    if (use == NumberBelow)
+        rows.keepBefore(block.rowNotBelow(number));
+}
+
+void narrow(VerseCursor& rows, const VerseBlock& block, char use, sqlite3_value* value)
+{
+    const int type = sqlite3_value_type(value);
+    if (type == SQLITE_NULL)
+        return rows.keepNone();
+    const bool byNumber = use != KeyEqual && use != KeyLike && use != TextLike;
+    if (byNumber && type == SQLITE_INTEGER)
+        return narrowByNumber(rows, block, use, sqlite3_value_int64(value));
+    if (byNumber || (use == KeyEqual && type != SQLITE_TEXT))
+        return;
+    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+    if (!text)
+        throw std::bad_alloc();
+    const std::string_view operand(text, static_cast<std::size_t>(sqlite3_value_bytes(value)));
+    if (use == KeyEqual)
+        rows.keepKey(operand);
+    else if (use == KeyLike)
+        rows.keepKeysLike(operand);
+    else
+        rows.keepTextsLike(operand);
+}
+
+int startRows(sqlite3_vtab_cursor* cursor, int, const char* plan, int count, sqlite3_value** values)
+try {
+    const Verses& verses = asCursor(cursor)->verses();
+    VerseCursor& rows = asCursor(cursor)->rows.emplace(verses);
+    for (int i = 0; i < count; ++i)
+        narrow(rows, *verses.block, plan[i], values[i]);
+    rows.start();
+    return SQLITE_OK;
+} catch (const DataError& error) {
+    return fail(cursor->pVtab, error);
+} catch (const std::bad_alloc&) {
+    return SQLITE_NOMEM;
+}
+
+int nextRow(sqlite3_vtab_cursor* cursor)
+{
+    asCursor(cursor)->rows->next();
+    return SQLITE_OK;
+}
+
+int atEnd(sqlite3_vtab_cursor* cursor)
+{
+    return asCursor(cursor)->rows->atEnd();
+}
+
+int readColumn(sqlite3_vtab_cursor* cursor, sqlite3_context* context, int column)
+{
+    const VerseBlock& block = *asCursor(cursor)->verses().block;
+    const std::size_t row = asCursor(cursor)->rows->row();
+    // Both texts end with NUL; without a given length the engine takes them as they lie, uncopied.
+    if (column == VerseNumber)
+        sqlite3_result_int64(context, block.number(row));
+    else
+        sqlite3_result_text(context, (column == VerseId ? block.key(row) : block.text(row)).data(), -1,
+                            SQLITE_STATIC);
+    return SQLITE_OK;
+}
+
+int readRowid(sqlite3_vtab_cursor* cursor, sqlite3_int64* rowid)
+{
+    *rowid = static_cast<sqlite3_int64>(asCursor(cursor)->rows->row());
+    return SQLITE_OK;
+}
+
+sqlite3_module makeModule()
+{
+    sqlite3_module module{};
+    module.xCreate = connectTable;
+    module.xConnect = connectTable;
+    module.xBestIndex = planQuery;
+    module.xDisconnect = disconnectTable;
+    module.xDestroy = disconnectTable;
+    module.xOpen = openCursor;
+    module.xClose = closeCursor;
+    module.xFilter = startRows;
+    module.xNext = nextRow;
+    module.xEof = atEnd;
+    module.xColumn = readColumn;
+    module.xRowid = readRowid;
+    return module;
+}
+
+} // namespace
+
+int registerVerseTable(sqlite3* connection, const Verses* verses)
+{
+    static const sqlite3_module module = makeModule();
+    return sqlite3_create_module(connection, "VerseRows", &module, const_cast<Verses*>(verses));
+}

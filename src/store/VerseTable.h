@@ -1,0 +1,17 @@
+#pragma once
+
+struct sqlite3;
+struct Verses;
+
+/// Registers the module `VerseRows`: a virtual table over the block, with the columns and the order of
+/// `NewTestament`.
+///
+/// It narrows the rows to visit by comparisons and LIKE, whatever their number:
+///
+///     VerseNumber  = < <= > >=   by binary search
+///     VerseId      = LIKE        by the key index, as far as the key's beginning is known
+///     KJVerseText  LIKE          by TextSearch
+///
+/// Everything else is left to the engine. Rows come in ascending VerseNumber order, which the table tells the
+/// engine. The verses must outlive the connection. Returns the engine's result code.
+int registerVerseTable(sqlite3* connection, const Verses* verses);
