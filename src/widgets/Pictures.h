@@ -1,0 +1,53 @@
+// Every picture of the program, drawn by code and sharp at any size.
+#pragma once
+
+#include <QIcon>
+#include <QList>
+#include <QPixmap>
+
+enum class PictureId {
+    // Toolbar
+    SelectVerse,
+    Notepad,
+    Search,
+    StudyAids,
+    About,
+    // Selection window
+    DisplayVerse,
+    Examples,
+    // Reading and chapter windows
+    PreviousVerse,
+    NextVerse,
+    Chapter,
+    Copy,
+    FontSize,
+    FontFace,
+    Tip,
+    // Search window
+    Cancel,
+    Help,
+    NewSearch,
+    CopyResults,
+    // Map window
+    Zoom,
+    CopyMap,
+    // About window and study aids
+    MoreInfo,
+    Donation,
+    DiscOffer,
+    Ok,
+    Mail,
+    Web,
+    // The program itself
+    Application,
+};
+
+// A scalable icon. Painted, it takes the ink that suits the painter's background brush; asked for a pixmap,
+// the ink that suits the application's button face.
+QIcon picture(PictureId id);
+
+// All of them in the order above, for tests and contact sheets.
+const QList<PictureId>& allPictures();
+
+// The picture of the start window, 480 x 300 device-independent pixels.
+QPixmap splashPicture(qreal devicePixelRatio);
