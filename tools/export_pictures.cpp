@@ -43,7 +43,7 @@ class PosingButton : public SoftBttn
 {
 public:
     PosingButton(PictureId id, Look look, QWidget* parent)
-        : SoftBttn(id, QString(), parent)
+        : SoftBttn(QString(), id, QString(), parent)
     {
         setDown(look == Look::Pressed);
         setEnabled(look != Look::Disabled);

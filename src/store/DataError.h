@@ -4,12 +4,14 @@
 #include <string>
 
 /// An error of the data engine: its number and its own description.
-/// Numbers are the engine's result codes, or 93 ("Invalid pattern string") for a LIKE pattern that cannot be valid.
+/// Numbers are the engine's result codes, or 93 ("Invalid pattern string") for a LIKE pattern that cannot be
+/// valid.
 class DataError : public std::runtime_error
 {
 public:
     DataError(int errorNumber, const std::string& description)
-        : std::runtime_error(description), m_number(errorNumber)
+        : std::runtime_error(description)
+        , m_number(errorNumber)
     {
     }
 

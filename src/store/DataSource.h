@@ -7,9 +7,10 @@
 
 /// A window's view of the database: an SQL text, run by refresh(), whose rows are then walked one at a time.
 ///
-/// All texts are UTF-8. The database is opened at the first refresh() after setDatabaseName(), read-only; every data
-/// source of the process on the same path shares it. Rows of `NewTestament` always come in ascending `VerseNumber`
-/// order. Operations that reach the engine throw DataError with the engine's own text.
+/// All texts are UTF-8. The database is opened at the first refresh() after setDatabaseName(), read-only;
+/// every data source of the process on the same path shares it. Rows of `NewTestament` always come in
+/// ascending `VerseNumber` order. Operations that reach the engine throw DataError with the engine's own
+/// text.
 class DataSource
 {
 public:
@@ -36,12 +37,13 @@ public:
     /// Steps to the next row; does nothing at the end.
     void moveNext();
 
-    /// A column of the current row as text (a BLOB as its bytes); empty at the end and for NULL or an unknown column.
-    /// Valid until the next operation.
+    /// A column of the current row as text (a BLOB as its bytes); empty at the end and for NULL or an unknown
+    /// column. Valid until the next operation.
     std::string_view field(int position) const;
     std::string_view field(std::string_view column) const;
 
-    /// Called after refresh() and moveNext(), when the current row is another one (or none), for bound controls.
+    /// Called after refresh() and moveNext(), when the current row is another one (or none), for bound
+    /// controls.
     std::function<void()> currentRowChanged;
 
 private:

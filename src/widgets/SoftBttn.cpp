@@ -34,9 +34,10 @@ SoftBttn::SoftBttn(QWidget* parent)
     });
 }
 
-SoftBttn::SoftBttn(PictureId id, const QString& toolTip, QWidget* parent)
+SoftBttn::SoftBttn(const QString& name, PictureId id, const QString& toolTip, QWidget* parent)
     : SoftBttn(parent)
 {
+    setObjectName(name);
     setPicture(::picture(id));
     setToolTip(toolTip);
 }

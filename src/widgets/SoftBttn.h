@@ -17,7 +17,8 @@ class SoftBttn : public QAbstractButton
 public:
     explicit SoftBttn(QWidget* parent = nullptr);
     // The tooltip is also the name that a screen reader speaks.
-    SoftBttn(PictureId id, const QString& toolTip, QWidget* parent = nullptr);
+    // name is the one in the code, as in "cmdGo".
+    SoftBttn(const QString& name, PictureId id, const QString& toolTip, QWidget* parent = nullptr);
 
     QIcon picture() const { return m_picture; }
     void setPicture(const QIcon& picture);

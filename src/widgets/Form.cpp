@@ -1,0 +1,169 @@
+#include "widgets/Form.h"
+
+#include "widgets/Menus.h"
+#include "widgets/Twips.h"
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+
+Form::Form(Shell& shell, const QString& name)
+    : m_shell(shell)
+{
+    setObjectName(name);
+    qApp->installEventFilter(this);
+}
+
+Form::~Form() = default;
+
+void Form::loadInto(QMdiArea& area)
+{
+    QMdiSubWindow* window = area.addSubWindow(this);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setObjectName(objectName() + "Window");
+    connect(window, &QMdiSubWindow::windowStateChanged, this, &Form::windowStateChanged);
+    m_loaded = true;
+    Form_Load();
+    window->show();
+}
+
+QString Form::caption() const
+{
+    return windowTitle();
+}
+
+void Form::setCaption(const QString& caption)
+{
+    setWindowTitle(caption);
+}
+
+Form::WindowState Form::state() const
+{
+    const QMdiSubWindow* window = subWindow();
+    if (!window)
+        return Normal;
+    return window->isMinimized() ? Minimized : window->isMaximized() ? Maximized : Normal;
+}
+
+void Form::setState(WindowState state)
+{
+    QMdiSubWindow* window = subWindow();
+    if (!window || state == this->state())
+        return;
+    if (state == Minimized)
+        window->showMinimized();
+    else if (state == Maximized)
+        window->showMaximized();
+    else
+        window->showNormal();
+}
+
+void Form::activate()
+{
+    QMdiSubWindow* window = subWindow();
+    if (!window)
+        return;
+    window->mdiArea()->setActiveSubWindow(window);
+    window->raise();
+    window->setFocus();
+}
+
+void Form::restoreAndActivate()
+{
+    if (state() == Minimized)
+        setState(Normal);
+    activate();
+}
+
+int Form::outerWidth() const
+{
+    return subWindow() ? toTwips(subWindow()->width()) : 0;
+}
+
+int Form::outerHeight() const
+{
+    return subWindow() ? toTwips(subWindow()->height()) : 0;
+}
+
+void Form::becomeActive(bool active)
+{
+    if (active == m_active)
+        return;
+    m_active = active;
+    if (active)
+        Form_Activate();
+    else
+        Form_Deactivate();
+}
+
+void Form::makeMenus(const QList<QMenu*>& own, bool plainToolsItem)
+{
+    m_menus = {Menus::file(*this, m_shell)};
+    m_menus += own;
+    m_menus += {Menus::search(*this, m_shell), Menus::tools(*this, m_shell, plainToolsItem),
+                Menus::window(*this, m_shell), Menus::help(*this, m_shell)};
+}
+
+void Form::setOuterSize(int widthTwips, int heightTwips)
+{
+    if (subWindow() && state() == Normal)
+        subWindow()->resize(twips(widthTwips), twips(heightTwips));
+}
+
+void Form::setOuterPosition(int leftTwips, int topTwips)
+{
+    if (subWindow() && state() == Normal)
+        subWindow()->move(twips(leftTwips), twips(topTwips));
+}
+
+QSize Form::innerSize() const
+{
+    const QMargins margins = subWindow() ? subWindow()->contentsMargins() : QMargins();
+    return (subWindow() ? subWindow()->size().shrunkBy(margins) : size()) * twipsPerPixel;
+}
+
+QSize Form::frameInnerSize() const
+{
+    return subWindow() ? subWindow()->mdiArea()->viewport()->size() * twipsPerPixel : QSize();
+}
+
+bool Form::eventFilter(QObject* watched, QEvent* event)
+{
+    // Only the widget with the focus: a key that it leaves alone travels up through its parents and passes
+    // here again.
+    if (event->type() == QEvent::KeyPress && watched == QApplication::focusWidget()) {
+        auto* widget = static_cast<QWidget*>(watched);
+        if (widget == this || isAncestorOf(widget) || widget == subWindow())
+            return Form_KeyDown(static_cast<QKeyEvent&>(*event));
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void Form::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (m_loaded)
+        Form_Resize();
+}
+
+void Form::closeEvent(QCloseEvent* event)
+{
+    becomeActive(false);
+    Form_Unload();
+    Q_EMIT unloaded();
+    event->accept();
+}
+
+QMdiSubWindow* Form::subWindow() const
+{
+    return qobject_cast<QMdiSubWindow*>(parentWidget());
+}
+
+void Form::windowStateChanged(Qt::WindowStates oldState, Qt::WindowStates newState)
+{
+    constexpr auto shape = Qt::WindowMinimized | Qt::WindowMaximized;
+    if ((oldState & shape) != (newState & shape))
+        Form_Resize();
+}

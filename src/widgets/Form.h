@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QList>
+#include <QWidget>
+
+class QKeyEvent;
+class QMdiArea;
+class QMdiSubWindow;
+class QMenu;
+class Shell;
+
+/// A child window of the main frame: the one place that knows how such a window lives in the frame's area.
+///
+/// Its life: made with its controls, loadInto() runs Form_Load and shows it, Form_Activate and
+/// Form_Deactivate follow the active window, Form_Resize every change of size or state, Form_Unload its
+/// closing, which deletes it. Outer sizes and positions are those of the whole window with its title bar and
+/// border, in twips.
+class Form : public QWidget
+{
+    Q_OBJECT
+
+public:
+    enum WindowState { Normal = 0, Minimized = 1, Maximized = 2 };
+
+    ~Form() override;
+
+    /// Puts the window into the area, runs Form_Load and shows it.
+    void loadInto(QMdiArea& area);
+
+    QString caption() const;
+    void setCaption(const QString& caption);
+
+    WindowState state() const;
+    void setState(WindowState state);
+    /// Brings the window to the front and gives it the keyboard focus.
+    void activate();
+    /// What every window does that hands something to this one: restore it if it is minimised, then activate
+    /// it.
+    void restoreAndActivate();
+
+    int outerWidth() const;
+    int outerHeight() const;
+
+    /// The menus that replace the frame's while this window is the active one, in their order on the bar.
+    const QList<QMenu*>& menus() const { return m_menus; }
+
+    /// The frame tells the window that it became the active one, or that another did.
+    void becomeActive(bool active);
+
+Q_SIGNALS:
+    /// The window was closed; the next reference loads a fresh one.
+    void unloaded();
+
+protected:
+    /// name: the window's class name, by which tests and assistive tools know it.
+    Form(Shell& shell, const QString& name);
+
+    virtual void Form_Load() {}
+    virtual void Form_Activate() {}
+    virtual void Form_Deactivate() {}
+    virtual void Form_Resize() {}
+    virtual void Form_Unload() {}
+    /// A key goes down anywhere in the window, before the control with the focus sees it. The control sees it
+    /// all the same, unless this returns true.
+    virtual bool Form_KeyDown(QKeyEvent&) { return false; }
+
+    /// Sets the window's menu bar: the shared menus with the window's own between File and Search.
+    void makeMenus(const QList<QMenu*>& own, bool plainToolsItem = false);
+
+    /// Both do nothing unless the window is in its normal state.
+    void setOuterSize(int widthTwips, int heightTwips);
+    void setOuterPosition(int leftTwips, int topTwips);
+    /// The inner (client) size of this window and of the frame, in twips.
+    QSize innerSize() const;
+    QSize frameInnerSize() const;
+
+    Shell& shell() const { return m_shell; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    QMdiSubWindow* subWindow() const;
+    void windowStateChanged(Qt::WindowStates oldState, Qt::WindowStates newState);
+
+    Shell& m_shell;
+    QList<QMenu*> m_menus;
+    bool m_loaded = false;
+    bool m_active = false;
+};

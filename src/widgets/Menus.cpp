@@ -1,0 +1,102 @@
+#include "widgets/Menus.h"
+
+#include "widgets/Form.h"
+#include "widgets/Shell.h"
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+
+namespace {
+
+QMdiArea* areaOf(const Form& form)
+{
+    const auto* window = qobject_cast<QMdiSubWindow*>(form.parentWidget());
+    return window ? window->mdiArea() : nullptr;
+}
+
+// Everything below the separator after "Arrange Icons" is the list of windows, made anew each time.
+void listWindows(QMenu& menu, const Form& form)
+{
+    for (QAction* entry : menu.actions())
+        if (entry->objectName().isEmpty())
+            delete entry;
+    const QMdiArea* area = areaOf(form);
+    if (!area)
+        return;
+    int number = 0;
+    for (QMdiSubWindow* window : area->subWindowList()) {
+        const QString caption = QString(window->windowTitle()).replace("&", "&&");
+        QAction* entry = menu.addAction(QString("&%1 %2").arg(++number).arg(caption));
+        entry->setCheckable(true);
+        entry->setChecked(window == area->currentSubWindow());
+        QObject::connect(entry, &QAction::triggered, window, [window] {
+            if (auto* chosen = qobject_cast<Form*>(window->widget()))
+                chosen->restoreAndActivate();
+        });
+    }
+}
+
+} // namespace
+
+QMenu* Menus::make(QWidget& owner, const QString& name, const QString& caption)
+{
+    auto* menu = new QMenu(caption, &owner);
+    menu->setObjectName(name);
+    return menu;
+}
+
+void Menus::addItem(QMenu* menu, const QString& name, const QString& caption, const QKeySequence& shortcut,
+                    std::function<void()> command)
+{
+    QAction* item = menu->addAction(caption);
+    item->setObjectName(name);
+    item->setShortcut(shortcut);
+    QObject::connect(item, &QAction::triggered, menu, std::move(command));
+}
+
+void Menus::addSeparator(QMenu* menu, const QString& name)
+{
+    menu->addSeparator()->setObjectName(name);
+}
+
+QMenu* Menus::file(QWidget& owner, Shell& shell)
+{
+    QMenu* menu = make(owner, "mnuFile", "&File");
+    addItem(menu, "mnuSelect", "&Select Verse for Reading", Qt::Key_F2, [&shell] { shell.openSelection(); });
+    addSeparator(menu, "mnuSep");
+    addItem(menu, "mnuNote", "&Launch Notepad", Qt::CTRL | Qt::Key_N, [&shell] { shell.launchNotepad(); });
+    addSeparator(menu, "mnuSep1");
+    addItem(menu, "mnuQuit", "E&xit", {}, [&shell] { shell.exit(); });
+    return menu;
+}
+
+QMenu* Menus::search(QWidget& owner, Shell& shell)
+{
+    QMenu* menu = make(owner, "mnutopSearch", "&Search");
+    addItem(menu, "mnuSearch", "&Search", Qt::Key_F3, [&shell] { shell.openSearch(); });
+    return menu;
+}
+
+QMenu* Menus::tools(QWidget& owner, Shell& shell, bool plainItem)
+{
+    QMenu* menu = make(owner, "mnutopTools", "&Tools");
+    addItem(menu, "mnuTools", plainItem ? "Study Aids" : "&Study Aids",
+            plainItem ? QKeySequence() : Qt::Key_F8, [&shell] { shell.openStudyAids(); });
+    return menu;
+}
+
+QMenu* Menus::window(Form& owner, Shell& shell)
+{
+    QMenu* menu = make(owner, "mnuWindow", "&Window");
+    addItem(menu, "mnuArrangeIco", "&Arrange Icons", {}, [&shell] { shell.arrangeIcons(); });
+    addSeparator(menu, "mnuSepWindows");
+    QObject::connect(menu, &QMenu::aboutToShow, &owner, [menu, &owner] { listWindows(*menu, owner); });
+    return menu;
+}
+
+QMenu* Menus::help(QWidget& owner, Shell& shell)
+{
+    QMenu* menu = make(owner, "mnuHelp", "&Help");
+    addItem(menu, "mnuAbout", "&About...", {}, [&shell] { shell.about(); });
+    return menu;
+}

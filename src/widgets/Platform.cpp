@@ -1,0 +1,72 @@
+#include "widgets/Platform.h"
+
+#include <cerrno>
+#include <cstddef>
+#include <cstring>
+#include <QApplication>
+#include <QCryptographicHash>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QProcess>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace {
+
+// An abstract socket lives in no folder, is taken by one process at a time in one step, and is free again the
+// moment its owner ends, however it ends. Its name holds the user and the executable.
+bool takeInstanceName(const QByteArray& name)
+{
+    const int handle = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    if (handle < 0)
+        return true;
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    std::memcpy(address.sun_path + 1, name.constData(), static_cast<std::size_t>(name.size()));
+    const auto length =
+        static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + static_cast<std::size_t>(name.size()));
+    if (bind(handle, reinterpret_cast<const sockaddr*>(&address), length) == 0)
+        return true; // the handle stays open until the process ends
+    const bool taken = errno == EADDRINUSE;
+    close(handle);
+    return !taken;
+}
+
+Platform* replacement = nullptr;
+
+} // namespace
+
+bool Platform::previousInstance()
+{
+    const QString executable = QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
+    const QByteArray digest =
+        QCryptographicHash::hash(executable.toUtf8(), QCryptographicHash::Sha256).toHex().left(32);
+    return !takeInstanceName("kestrel-reader-" + QByteArray::number(getuid()) + "-" + digest);
+}
+
+bool Platform::startProgram(const QString& program)
+{
+    return QProcess::startDetached(program, {});
+}
+
+void Platform::openLink(const QUrl& link)
+{
+    QDesktopServices::openUrl(link);
+}
+
+void Platform::beep()
+{
+    QApplication::beep();
+}
+
+Platform& Platform::current()
+{
+    static Platform services;
+    return replacement ? *replacement : services;
+}
+
+void Platform::replace(Platform* services)
+{
+    replacement = services;
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+/// The services of the desktop that a test wants to watch or refuse. One door: Platform::current().
+class Platform
+{
+public:
+    virtual ~Platform() = default;
+
+    /// Whether another copy of this executable already runs for this user. The first call that finds none
+    /// makes this process the running copy, until it ends. No file is written.
+    virtual bool previousInstance();
+    /// Starts a program by its path in a session of its own and does not wait for it. False when it cannot be
+    /// started.
+    virtual bool startProgram(const QString& program);
+    /// Opens a web or mail address the way the desktop does.
+    virtual void openLink(const QUrl& link);
+    virtual void beep();
+
+    static Platform& current();
+    /// Replaces the services; nullptr brings the real ones back. The caller keeps the ownership.
+    static void replace(Platform* services);
+};
