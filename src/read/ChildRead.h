@@ -1,0 +1,62 @@
+#pragma once
+
+#include "store/DataSource.h"
+#include "widgets/Form.h"
+#include <QTimer>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class SoftBttn;
+class VerseLabel;
+
+/// The reading window: one verse in large type, stepped through by hand or on a timer.
+///
+/// Another window hands a verse over by setting the record source of `DataCtl` to an SQL text whose first row
+/// is the verse, refreshing it, and calling restoreAndActivate(). The labels tell which verse is current.
+class ChildRead : public Form
+{
+    Q_OBJECT
+
+public:
+    explicit ChildRead(Shell& shell);
+
+    DataSource DataCtl;
+    VerseLabel* VerseText;
+    QLabel* lblSerial;  ///< hidden; the running number
+    QLabel* lblVerseId; ///< the verse key
+    SoftBttn* cmdPrev;
+    SoftBttn* cmdNext;
+    SoftBttn* cmdChap;
+    SoftBttn* cmdCopy;
+    SoftBttn* cmdFont;
+    SoftBttn* cmdFntFace;
+    QCheckBox* chkAuto;
+    QComboBox* cboSeconds;
+    QLabel* Label2;
+    QTimer* Timer1;
+
+protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_Deactivate() override;
+    void Form_Resize() override;
+
+private:
+    void DataCtl_Reposition();
+    void lblVerseId_Change();
+    void cmdPrev_Click();
+    void cmdNext_Click();
+    void Timer1_Timer();
+    void chkAuto_Click();
+    void cboSeconds_Click();
+    void cmdFont_Click();
+    void cmdFntFace_Click();
+    void cmdCopy_Click();
+    void cmdChap_Click();
+
+    void showVerse(int number);
+    void resumeTimer();
+
+    bool m_otherFace = false;
+};

@@ -1,0 +1,31 @@
+#include "select/BookTree.h"
+
+#include "store/BookCatalog.h"
+#include "widgets/Text.h"
+#include <QTreeWidget>
+
+namespace {
+
+// The catalog stands in the order of the tree, so a node is either the last one of its parent or new.
+QTreeWidgetItem* lastChild(QTreeWidgetItem& parent, const QString& text)
+{
+    QTreeWidgetItem* last = parent.childCount() > 0 ? parent.child(parent.childCount() - 1) : nullptr;
+    return last && last->text(0) == text ? last : new QTreeWidgetItem(&parent, {text});
+}
+
+} // namespace
+
+void fillBookTree(QTreeWidget& tree)
+{
+    auto* root = new QTreeWidgetItem(&tree, {"Books of the Kestrel Reader"});
+    for (const Book& book : bookCatalog()) {
+        QTreeWidgetItem* parent = lastChild(*root, toText(book.testament));
+        if (!book.group.empty())
+            parent = lastChild(*parent, toText(book.group));
+        new QTreeWidgetItem(parent, {QString::fromStdString(book.treeText())});
+    }
+    root->setExpanded(true);
+    for (int i = 0; i < root->childCount(); ++i)
+        root->child(i)->setExpanded(true);
+    tree.setCurrentItem(root->child(0));
+}
