@@ -1,10 +1,10 @@
 // The main function of every test program that shows windows.
-#include <QApplication>
+#include "app/Application.h"
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv)
 {
     testing::InitGoogleTest(&argc, argv);
-    QApplication application(argc, argv);
+    Application application(argv);
     return RUN_ALL_TESTS();
 }

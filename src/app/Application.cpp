@@ -1,0 +1,42 @@
+#include "app/Application.h"
+
+#include "app/FrameStyle.h"
+#include "widgets/Fonts.h"
+#include "widgets/MsgBox.h"
+#include <exception>
+
+int Application::argumentCount = 1;
+
+Application::Application(char* programName[])
+    : QApplication(argumentCount, programName)
+{
+    setApplicationName("kestrel-reader");
+    setApplicationDisplayName(""); // captions are the windows' own
+    setDesktopFileName("io.github.kestrelreader.KestrelReader");
+    setStyle(new FrameStyle);
+    Fonts::install();
+    setFont(Fonts::tahomaOf(9));
+}
+
+bool Application::notify(QObject* receiver, QEvent* event)
+{
+    if (m_ending && event->type() == QEvent::Timer)
+        return true;
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception& error) {
+        endWith(QString::fromUtf8(error.what()));
+        return true;
+    }
+}
+
+void Application::endWith(const QString& message)
+{
+    if (m_ending)
+        return;
+    m_ending = true;
+    while (overrideCursor())
+        restoreOverrideCursor();
+    MsgBox::show(message, MsgIcon::Stop);
+    exit(1);
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QApplication>
+
+/// The application object: fonts, style and name of the program, and its top level, where an error that no
+/// handler caught is shown with the engine's own text before the program ends.
+class Application : public QApplication
+{
+    Q_OBJECT
+
+public:
+    /// The program takes no command-line arguments; none are looked at.
+    explicit Application(char* programName[]);
+
+    bool notify(QObject* receiver, QEvent* event) override;
+
+private:
+    void endWith(const QString& message);
+
+    static int argumentCount;
+    bool m_ending = false;
+};

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QProxyStyle>
+
+/// The one style of all windows, on every desktop: the windows' sizes count their title bars and borders in.
+class FrameStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    FrameStyle()
+        : QProxyStyle("Fusion")
+    {
+    }
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
+    {
+        if (metric == PM_TitleBarHeight)
+            return 20;
+        if (metric == PM_MdiSubWindowFrameWidth)
+            return 4;
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};

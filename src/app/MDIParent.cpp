@@ -1,0 +1,195 @@
+#include "app/MDIParent.h"
+
+#include "app/ArrangeIcons.h"
+#include "app/Program.h"
+#include "widgets/Menus.h"
+#include "widgets/SoftBttn.h"
+#include "widgets/Twips.h"
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QScreen>
+#include <QToolBar>
+#include <stdexcept>
+
+MDIParent::MDIParent(Program& program)
+    : picToolbar(new QToolBar(this))
+    , cmdSelect(new SoftBttn("cmdSelect", PictureId::SelectVerse, "Select Verse to read", this))
+    , cmdNote(new SoftBttn("cmdNote", PictureId::Notepad, "Notepad", this))
+    , cmdSearch(new SoftBttn("cmdSearch", PictureId::Search, "Search", this))
+    , cmdTools(new SoftBttn("cmdTools", PictureId::StudyAids, "Study Aids", this))
+    , cmdAbout(new SoftBttn("cmdAbout", PictureId::About, "About/QORV CD-ROM Offer", this))
+    , m_program(program)
+    , m_area(new QMdiArea(this))
+{
+    setObjectName("MDIParent");
+    setWindowTitle("Kestrel Reader: Portuguese Version - Freeware");
+    setWindowIcon(picture(PictureId::Application));
+    m_area->setAccessibleName("Windows");
+    m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder);
+    setCentralWidget(m_area);
+    makeToolbar();
+    m_menus = {Menus::file(*this, *this), Menus::search(*this, *this), Menus::tools(*this, *this),
+               Menus::help(*this, *this)};
+    showMenus(m_menus);
+    connect(m_area, &QMdiArea::subWindowActivated, this, &MDIParent::childActivated);
+    connect(cmdSelect, &SoftBttn::clicked, this, &MDIParent::openSelection);
+    connect(cmdNote, &SoftBttn::clicked, this, &MDIParent::launchNotepad);
+    connect(cmdSearch, &SoftBttn::clicked, this, &MDIParent::openSearch);
+    connect(cmdTools, &SoftBttn::clicked, this, &MDIParent::openStudyAids);
+    connect(cmdAbout, &SoftBttn::clicked, this, &MDIParent::about);
+}
+
+MDIParent::~MDIParent()
+{
+    m_area->disconnect(this); // it deletes its windows after this object is gone
+}
+
+void MDIParent::load()
+{
+    const QSize room = screen()->availableSize();
+    resize(qMin(1024, room.width() * 9 / 10), qMin(740, room.height() * 9 / 10));
+    QMainWindow::show();
+    MDIForm_Load();
+    // A desktop that does not give the focus to new windows must not leave the splash standing.
+    QMetaObject::invokeMethod(this, &MDIParent::MDIForm_Activate, Qt::QueuedConnection);
+}
+
+void MDIParent::makeToolbar()
+{
+    picToolbar->setObjectName("picToolbar");
+    picToolbar->setWindowTitle("Toolbar");
+    picToolbar->setMovable(false);
+    auto* strip = new QWidget(picToolbar);
+    int left = 30;
+    for (SoftBttn* button : {cmdSelect, cmdNote, cmdSearch, cmdTools, cmdAbout}) {
+        button->setParent(strip);
+        place(*button, left, 0, 360, 360);
+        left += 360;
+    }
+    strip->setFixedSize(twips(left), twips(360));
+    picToolbar->addWidget(strip);
+    addToolBar(picToolbar);
+    setContextMenuPolicy(Qt::NoContextMenu); // the toolbar cannot be hidden
+}
+
+template <class Window>
+Window& MDIParent::single(QPointer<Window>& window)
+{
+    if (!window) {
+        window = new Window(*this);
+        connect(window, &Form::unloaded, this, [&window] { window.clear(); });
+        window->loadInto(*m_area);
+    }
+    return *window;
+}
+
+void MDIParent::show(Form& window)
+{
+    window.restoreAndActivate();
+}
+
+void MDIParent::openSelection()
+{
+    show(single(m_select));
+}
+
+void MDIParent::openSearch() {}
+
+void MDIParent::openStudyAids() {}
+
+void MDIParent::launchNotepad() {}
+
+void MDIParent::about() {}
+
+void MDIParent::exit()
+{
+    close();
+}
+
+void MDIParent::arrangeIcons()
+{
+    ::arrangeIcons(*m_area);
+}
+
+void MDIParent::openHelp() {}
+
+ChildRead& MDIParent::readingWindow()
+{
+    return single(m_reading);
+}
+
+ChapRead& MDIParent::chapterWindow()
+{
+    throw std::logic_error("not built yet");
+}
+
+ChildMapDsp& MDIParent::mapWindow()
+{
+    throw std::logic_error("not built yet");
+}
+
+ProgramFlags& MDIParent::flags()
+{
+    return m_program.flags;
+}
+
+QString MDIParent::basePath() const
+{
+    return m_program.basePath;
+}
+
+void MDIParent::MDIForm_Load()
+{
+    openSelection();
+}
+
+void MDIParent::MDIForm_Activate()
+{
+    m_program.unloadStartWindow();
+    while (QApplication::overrideCursor())
+        QApplication::restoreOverrideCursor();
+}
+
+void MDIParent::MDIForm_Unload()
+{
+    QCoreApplication::quit();
+}
+
+bool MDIParent::event(QEvent* event)
+{
+    const bool handled = QMainWindow::event(event);
+    if (event->type() == QEvent::WindowActivate)
+        MDIForm_Activate();
+    return handled;
+}
+
+void MDIParent::closeEvent(QCloseEvent* event)
+{
+    event->accept();
+    MDIForm_Unload();
+}
+
+void MDIParent::childActivated(QMdiSubWindow*)
+{
+    // Not the window of the signal: it is none while another program is in front, when nothing changes here.
+    QMdiSubWindow* window = m_area->currentSubWindow();
+    Form* form = window ? qobject_cast<Form*>(window->widget()) : nullptr;
+    if (form == m_activeForm && form)
+        return;
+    if (m_activeForm)
+        m_activeForm->becomeActive(false);
+    m_activeForm = form;
+    showMenus(form ? form->menus() : m_menus);
+    if (form)
+        form->becomeActive(true);
+}
+
+void MDIParent::showMenus(const QList<QMenu*>& menus)
+{
+    menuBar()->clear();
+    for (QMenu* menu : menus)
+        menuBar()->addMenu(menu);
+}

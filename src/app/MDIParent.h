@@ -1,0 +1,75 @@
+#pragma once
+
+#include "read/ChildRead.h"
+#include "select/ChildSelect.h"
+#include "widgets/Shell.h"
+#include <QMainWindow>
+#include <QPointer>
+
+class Form;
+class Program;
+class QMdiArea;
+class QMdiSubWindow;
+class QMenu;
+class QToolBar;
+class SoftBttn;
+
+/// The main frame: toolbar, menus, the child windows in its area, and the commands they share. It hands out
+/// the single instance of every child window.
+class MDIParent : public QMainWindow, public Shell
+{
+    Q_OBJECT
+
+public:
+    explicit MDIParent(Program& program);
+    ~MDIParent() override;
+
+    /// Shows the frame and runs MDIForm_Load.
+    void load();
+
+    QToolBar* picToolbar;
+    SoftBttn* cmdSelect;
+    SoftBttn* cmdNote;
+    SoftBttn* cmdSearch;
+    SoftBttn* cmdTools;
+    SoftBttn* cmdAbout;
+
+    void openSelection() override;
+    void openSearch() override;
+    void openStudyAids() override;
+    void launchNotepad() override;
+    void about() override;
+    void exit() override;
+    void arrangeIcons() override;
+    void openHelp() override;
+    ChildRead& readingWindow() override;
+    ChapRead& chapterWindow() override;
+    ChildMapDsp& mapWindow() override;
+    ProgramFlags& flags() override;
+    QString basePath() const override;
+
+    QMdiArea* area() const { return m_area; }
+
+protected:
+    bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void MDIForm_Load();
+    void MDIForm_Activate();
+    void MDIForm_Unload();
+
+    void makeToolbar();
+    template <class Window>
+    Window& single(QPointer<Window>& window);
+    void show(Form& window);
+    void childActivated(QMdiSubWindow* window);
+    void showMenus(const QList<QMenu*>& menus);
+
+    Program& m_program;
+    QMdiArea* m_area;
+    QList<QMenu*> m_menus;
+    QPointer<Form> m_activeForm;
+    QPointer<ChildSelect> m_select;
+    QPointer<ChildRead> m_reading;
+};

@@ -1,0 +1,35 @@
+#include "app/Program.h"
+
+#include "app/MDIParent.h"
+#include "widgets/BasePath.h"
+
+Program::Program(const QString& directory)
+    : basePath(::basePath(directory))
+{
+}
+
+Program::~Program()
+{
+    delete m_startWindow;
+}
+
+bool Program::start()
+{
+    m_startWindow = new frmStart(*this);
+    if (!m_startWindow->load())
+        return false;
+    m_startWindow->show();
+    return true;
+}
+
+void Program::showFrame()
+{
+    m_frame = std::make_unique<MDIParent>(*this);
+    m_frame->load();
+}
+
+void Program::unloadStartWindow()
+{
+    if (m_startWindow)
+        m_startWindow->close();
+}

@@ -1,0 +1,37 @@
+#include "app/StartupChecks.h"
+
+#include "widgets/BasePath.h"
+#include "widgets/MsgBox.h"
+#include "widgets/Platform.h"
+#include <QFileInfo>
+
+bool isPresent(const QString& path)
+{
+    // The kind of file is asked first, because opening a pipe would wait for its writer.
+    QFile file(path);
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly);
+}
+
+bool isUnmodified(const QString& path)
+{
+    const QFileInfo file(path);
+    const qint64 seconds = file.lastModified().toSecsSinceEpoch();
+    const qint64 length = file.size();
+    return seconds == databaseTime.toSecsSinceEpoch() && length == databaseLength;
+}
+
+std::optional<Refusal> startupRefusal(const QString& basePath)
+{
+    if (Platform::current().previousInstance())
+        return Refusal{"Cannot start more than one copy of Kestrel Reader (PT).",
+                       "Kestrel Reader (PT) is already running"};
+    if (!isPresent(basePath + clipFileName))
+        return Refusal{"Couldn't find file 'SEARCH.AVI'. Please run Setup.", applicationTitle};
+    if (!isPresent(basePath + databaseFileName))
+        return Refusal{"Couldn't find file 'KESTRPT.DAT'. Please run Setup.", applicationTitle};
+    if (!isUnmodified(basePath + databaseFileName))
+        return Refusal{"Can't continue; file 'KESTRPT.DAT' has been modified. "
+                       "Please uninstall the program then run Setup again.",
+                       applicationTitle};
+    return {};
+}

@@ -1,0 +1,181 @@
+// The main frame: toolbar, menus, shared commands, single instances.
+#include "support/Session.h"
+#include "widgets/SoftBttn.h"
+#include <QComboBox>
+#include <QSignalSpy>
+#include <QToolBar>
+
+using Frame = Session;
+
+namespace {
+
+/// What a menu shows: its items as "name|caption|shortcut".
+QStringList itemsOf(const QMenu& menu)
+{
+    QStringList items;
+    for (const QAction* item : menu.actions())
+        items << item->objectName() + "|" + (item->isSeparator() ? "-" : item->text()) + "|" +
+                     item->shortcut().toString();
+    return items;
+}
+
+QMenu* menuOf(MDIParent& frame, const QString& caption)
+{
+    for (const QAction* entry : frame.menuBar()->actions())
+        if (entry->text() == caption)
+            return entry->menu();
+    return nullptr;
+}
+
+} // namespace
+
+TEST_F(Frame, HasItsCaption)
+{
+    EXPECT_EQ(frame().windowTitle(), "Kestrel Reader: Portuguese Version - Freeware");
+}
+
+TEST_F(Frame, OpensTheSelectionWindowWithTheFocus)
+{
+    ASSERT_NE(open<ChildSelect>(), nullptr);
+    EXPECT_EQ(activeForm(), open<ChildSelect>());
+    EXPECT_TRUE(get<ChildSelect>().isAncestorOf(QApplication::focusWidget()));
+}
+
+TEST_F(Frame, HasFiveToolbarButtonsInOrder)
+{
+    const QList<SoftBttn*> buttons = {frame().cmdSelect, frame().cmdNote, frame().cmdSearch, frame().cmdTools,
+                                      frame().cmdAbout};
+    const QStringList names = {"cmdSelect", "cmdNote", "cmdSearch", "cmdTools", "cmdAbout"};
+    const QStringList tips = {"Select Verse to read", "Notepad", "Search", "Study Aids",
+                              "About/QORV CD-ROM Offer"};
+    int left = 2; // 30 twips
+    for (int i = 0; i < buttons.size(); ++i) {
+        EXPECT_EQ(buttons[i]->objectName(), names[i]);
+        EXPECT_EQ(buttons[i]->toolTip(), tips[i]);
+        EXPECT_EQ(buttons[i]->accessibleName(), tips[i]);
+        EXPECT_EQ(buttons[i]->geometry(), QRect(left, 0, 24, 24));
+        left += 24;
+    }
+}
+
+TEST_F(Frame, ShowsItsOwnMenusWhileNoChildIsOpen)
+{
+    EXPECT_EQ(menuBarCaptions(), QStringList({"&File", "&Search", "&Tools", "&Window", "&Help"}));
+    outer(get<ChildSelect>()).close();
+    EXPECT_EQ(menuBarCaptions(), QStringList({"&File", "&Search", "&Tools", "&Help"}));
+    EXPECT_EQ(menuItem("mnuArrangeIco"), nullptr);
+}
+
+TEST_F(Frame, HasTheSharedMenuItemsInOrder)
+{
+    outer(get<ChildSelect>()).close();
+    EXPECT_EQ(itemsOf(*menuOf(frame(), "&File")),
+              QStringList({"mnuSelect|&Select Verse for Reading|F2", "mnuSep|-|",
+                           "mnuNote|&Launch Notepad|Ctrl+N", "mnuSep1|-|", "mnuQuit|E&xit|"}));
+    EXPECT_EQ(itemsOf(*menuOf(frame(), "&Search")), QStringList({"mnuSearch|&Search|F3"}));
+    EXPECT_EQ(itemsOf(*menuOf(frame(), "&Tools")), QStringList({"mnuTools|&Study Aids|F8"}));
+    EXPECT_EQ(itemsOf(*menuOf(frame(), "&Help")), QStringList({"mnuAbout|&About...|"}));
+}
+
+TEST_F(Frame, F2BringsTheOneSelectionWindowForward)
+{
+    ChildSelect* select = open<ChildSelect>();
+    frame().readingWindow().activate();
+    EXPECT_EQ(activeForm(), open<ChildRead>());
+    press(Qt::Key_F2);
+    EXPECT_EQ(activeForm(), select);
+    EXPECT_EQ(open<ChildSelect>(), select);
+    EXPECT_TRUE(select->isAncestorOf(QApplication::focusWidget()));
+}
+
+TEST_F(Frame, F2RestoresAMinimisedSelectionWindow)
+{
+    get<ChildSelect>().setState(Form::Minimized);
+    frame().readingWindow().activate();
+    press(Qt::Key_F2);
+    EXPECT_EQ(get<ChildSelect>().state(), Form::Normal);
+    EXPECT_EQ(activeForm(), open<ChildSelect>());
+}
+
+TEST_F(Frame, F2LeavesAMaximisedSelectionWindowMaximised)
+{
+    get<ChildSelect>().setState(Form::Maximized);
+    press(Qt::Key_F2);
+    EXPECT_EQ(get<ChildSelect>().state(), Form::Maximized);
+}
+
+TEST_F(Frame, F2LoadsAFreshSelectionWindowAfterItWasClosed)
+{
+    get<ChildSelect>().Combo1->setEditText("Rv:1");
+    outer(get<ChildSelect>()).close();
+    EXPECT_EQ(open<ChildSelect>(), nullptr);
+    choose("mnuSelect");
+    ASSERT_NE(open<ChildSelect>(), nullptr);
+    EXPECT_EQ(get<ChildSelect>().Combo1->currentText(), "Mt");
+}
+
+TEST_F(Frame, ReopeningAnOpenWindowKeepsItsContents)
+{
+    get<ChildSelect>().Combo1->setEditText("Rv:1");
+    choose("mnuSelect");
+    EXPECT_EQ(get<ChildSelect>().Combo1->currentText(), "Rv:1");
+}
+
+TEST_F(Frame, TheToolbarButtonDoesWhatItsMenuItemDoes)
+{
+    frame().readingWindow().activate();
+    click(*frame().cmdSelect);
+    EXPECT_EQ(activeForm(), open<ChildSelect>());
+}
+
+TEST_F(Frame, ExitInAChildEndsTheProgramWithoutAskingTheChildren)
+{
+    QSignalSpy quit(qApp, &QCoreApplication::aboutToQuit);
+    frame().readingWindow().activate();
+    QTimer::singleShot(0, [this] { choose("mnuQuit"); });
+    QTimer::singleShot(3000, [] { QCoreApplication::exit(7); });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_NE(open<ChildRead>(), nullptr);
+    EXPECT_FALSE(frame().isVisible());
+}
+
+TEST_F(Frame, ActivatingAgainWithoutAStartWindowDoesNoHarm)
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    QEvent activate(QEvent::WindowActivate);
+    QApplication::sendEvent(&frame(), &activate);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(Frame, TheWindowMenuListsTheOpenWindowsAndChecksTheActiveOne)
+{
+    frame().readingWindow().activate();
+    QMenu* menu = menuOf(frame(), "&Window");
+    ASSERT_NE(menu, nullptr);
+    QMetaObject::invokeMethod(menu, "aboutToShow");
+    const QList<QAction*> items = menu->actions();
+    ASSERT_EQ(items.size(), 4);
+    EXPECT_EQ(items[0]->text(), "&Arrange Icons");
+    EXPECT_EQ(items[2]->text(), "&1 Select Verse for Reading");
+    EXPECT_EQ(items[3]->text(), "&2 Reading Window -- Mt:1:1");
+    EXPECT_FALSE(items[2]->isChecked());
+    EXPECT_TRUE(items[3]->isChecked());
+    items[2]->trigger();
+    EXPECT_EQ(activeForm(), open<ChildSelect>());
+}
+
+TEST_F(Frame, ArrangesMinimisedWindowsAlongTheBottom)
+{
+    ChildRead& reading = frame().readingWindow();
+    reading.setState(Form::Minimized);
+    get<ChildSelect>().setState(Form::Minimized);
+    outer(reading).move(200, 30);
+    outer(get<ChildSelect>()).move(300, 100);
+    get<ChildSelect>().activate();
+    choose("mnuArrangeIco");
+    const int bottom = frame().area()->viewport()->height();
+    EXPECT_EQ(outer(get<ChildSelect>()).geometry().bottom() + 1, bottom);
+    EXPECT_EQ(outer(reading).geometry().bottom() + 1, bottom);
+    EXPECT_FALSE(outer(reading).geometry().intersects(outer(get<ChildSelect>()).geometry()));
+    EXPECT_EQ(qMin(outer(reading).x(), outer(get<ChildSelect>()).x()), 0);
+}

@@ -1,0 +1,107 @@
+#pragma once
+
+#include "app/MDIParent.h"
+#include "app/Program.h"
+#include "support/Recorders.h"
+#include <gtest/gtest.h>
+#include <memory>
+#include <QApplication>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+
+/// The running program under test: the real frame and its real windows over the assembled database, driven by
+/// events. Message boxes are recorded and answered, services recorded.
+class Session : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        program = std::make_unique<Program>(KESTREL_INSTALL_DIR);
+        program->showFrame();
+        QApplication::setActiveWindow(&frame());
+        QTest::qWait(0);
+    }
+
+    void TearDown() override
+    {
+        program.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "the default pointer is not back";
+    }
+
+    MDIParent& frame() { return *program->frame(); }
+
+    /// The open instance of a window class; nullptr when there is none.
+    template <class Window>
+    Window* open()
+    {
+        Window* found = nullptr;
+        for (QMdiSubWindow* window : frame().area()->subWindowList())
+            if (auto* form = qobject_cast<Window*>(window->widget())) {
+                EXPECT_EQ(found, nullptr) << "a second instance of a window";
+                found = form;
+            }
+        return found;
+    }
+
+    template <class Window>
+    Window& get()
+    {
+        Window* window = open<Window>();
+        if (!window)
+            throw std::runtime_error("the window is not open");
+        return *window;
+    }
+
+    /// The window of the area that is active.
+    QWidget* activeForm()
+    {
+        const QMdiSubWindow* window = frame().area()->currentSubWindow();
+        return window ? window->widget() : nullptr;
+    }
+
+    static QMdiSubWindow& outer(QWidget& form) { return *qobject_cast<QMdiSubWindow*>(form.parentWidget()); }
+
+    /// Captions of the menus on the bar now.
+    QStringList menuBarCaptions()
+    {
+        QStringList captions;
+        for (const QAction* menu : frame().menuBar()->actions())
+            captions << menu->text();
+        return captions;
+    }
+
+    /// An item of the menu bar as it is now, by its name.
+    QAction* menuItem(const QString& name)
+    {
+        for (const QAction* entry : frame().menuBar()->actions())
+            for (QAction* item : entry->menu()->actions())
+                if (item->objectName() == name)
+                    return item;
+        return nullptr;
+    }
+
+    void choose(const QString& name)
+    {
+        QAction* item = menuItem(name);
+        ASSERT_NE(item, nullptr) << name.toStdString() << " is not on the menu bar";
+        item->trigger();
+    }
+
+    /// A key press to whatever has the focus.
+    static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        ASSERT_NE(QApplication::focusWidget(), nullptr) << "nothing has the focus";
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    }
+
+    static void click(QWidget& control) { QTest::mouseClick(&control, Qt::LeftButton); }
+
+    RecordedBoxes boxes;
+    RecordedServices services;
+    std::unique_ptr<Program> program;
+};
