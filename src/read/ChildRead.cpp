@@ -56,6 +56,14 @@ ChildRead::ChildRead(Shell& shell)
     Label2->setBuddy(cboSeconds);
     place(*Label2, 3750, 4585, 900, 255);
     Timer1->setObjectName("Timer1");
+    Timer1->setTimerType(Qt::PreciseTimer);
+    setTabOrder(cmdNext, cmdPrev); // the focus starts on the button that readers press most
+    setTabOrder(cmdPrev, chkAuto);
+    setTabOrder(chkAuto, cboSeconds);
+    setTabOrder(cboSeconds, cmdFont);
+    setTabOrder(cmdFont, cmdFntFace);
+    setTabOrder(cmdFntFace, cmdCopy);
+    setTabOrder(cmdCopy, cmdChap);
 
     QMenu* edit = Menus::make(*this, "mnuEdit", "&Edit");
     Menus::addItem(edit, "mnuCopy", "&Copy Verse to Clipboard", Qt::CTRL | Qt::Key_C,

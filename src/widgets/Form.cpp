@@ -66,8 +66,20 @@ void Form::activate()
     if (!window)
         return;
     window->mdiArea()->setActiveSubWindow(window);
-    window->raise();
-    window->setFocus();
+    takeFocus();
+}
+
+void Form::takeFocus()
+{
+    if (isAncestorOf(QApplication::focusWidget()))
+        return;
+    QWidget* control = focusWidget(); // the one that had it last
+    for (QWidget* next = nextInFocusChain(); !control && next != this; next = next->nextInFocusChain())
+        if (isAncestorOf(next) && next->isVisibleTo(this) && next->isEnabled() &&
+            (next->focusPolicy() & Qt::TabFocus))
+            control = next;
+    if (control)
+        control->setFocus();
 }
 
 void Form::restoreAndActivate()
@@ -92,10 +104,12 @@ void Form::becomeActive(bool active)
     if (active == m_active)
         return;
     m_active = active;
-    if (active)
+    if (active) {
+        takeFocus();
         Form_Activate();
-    else
+    } else {
         Form_Deactivate();
+    }
 }
 
 void Form::makeMenus(const QList<QMenu*>& own, bool plainToolsItem)

@@ -82,6 +82,8 @@ protected:
 
 private:
     QMdiSubWindow* subWindow() const;
+    /// Gives the focus to the control that had it last, else to the first that can have it.
+    void takeFocus();
     void windowStateChanged(Qt::WindowStates oldState, Qt::WindowStates newState);
 
     Shell& m_shell;
