@@ -198,7 +198,7 @@ void ChildRead::cmdFntFace_Click()
 
 void ChildRead::cmdCopy_Click()
 {
-    copyTextOrReport(lblVerseId->text() + "\r\n" + VerseText->text() + " (PT)");
+    copyOrReport(lblVerseId->text() + "\r\n" + VerseText->text() + " (PT)");
 }
 
 void ChildRead::cmdChap_Click() {}

@@ -2,50 +2,25 @@
 
 #include "widgets/ErrorText.h"
 #include "widgets/MsgBox.h"
-#include <functional>
-#include <QClipboard>
-#include <QGuiApplication>
+#include "widgets/Platform.h"
 
 namespace {
 
-// The toolkit reports no failure, but whoever could not write the clipboard does not own it afterwards.
-void copy(const std::function<void(QClipboard&)>& put)
+void report(bool copied)
 {
-    QClipboard& clipboard = *QGuiApplication::clipboard();
-    clipboard.clear();
-    put(clipboard);
-    if (!clipboard.ownsClipboard())
-        throw ClipboardError();
-}
-
-void report(const std::function<void()>& operation)
-{
-    try {
-        operation();
-    } catch (const ClipboardError& error) {
-        MsgBox::show(errorText(error.number(), error.what()), MsgIcon::Exclamation, MsgButtons::Ok,
+    if (!copied)
+        MsgBox::show(errorText(521, "Can't open Clipboard"), MsgIcon::Exclamation, MsgButtons::Ok,
                      "Clipboard Error");
-    }
 }
 
 } // namespace
 
-void copyText(const QString& text)
+void copyOrReport(const QString& text)
 {
-    copy([&](QClipboard& clipboard) { clipboard.setText(text); });
+    report(Platform::current().setClipboard(text));
 }
 
-void copyPicture(const QImage& picture)
+void copyOrReport(const QImage& picture)
 {
-    copy([&](QClipboard& clipboard) { clipboard.setImage(picture); });
-}
-
-void copyTextOrReport(const QString& text)
-{
-    report([&] { copyText(text); });
-}
-
-void copyPictureOrReport(const QImage& picture)
-{
-    report([&] { copyPicture(picture); });
+    report(Platform::current().setClipboard(picture));
 }

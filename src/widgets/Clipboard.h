@@ -2,28 +2,10 @@
 
 #include <QImage>
 #include <QString>
-#include <stdexcept>
 
-/// The clipboard could not be written.
-class ClipboardError : public std::runtime_error
-{
-public:
-    ClipboardError()
-        : std::runtime_error("Can't open Clipboard")
-    {
-    }
-    int number() const { return 521; }
-};
-
-/// Clears the clipboard and puts a text on it, as plain text alone and to the letter (CR LF stay).
-/// Throws ClipboardError when the platform does not take it.
-void copyText(const QString& text);
+/// Clears the clipboard and puts a text on it, as plain text alone and to the letter (CR LF stay). A desktop
+/// that does not take it is reported in a box, "Clipboard Error"; nothing else changes.
+void copyOrReport(const QString& text);
 
 /// The same with a picture.
-void copyPicture(const QImage& picture);
-
-/// copyText(), with the failure reported in a box.
-void copyTextOrReport(const QString& text);
-
-/// copyPicture(), with the failure reported in a box.
-void copyPictureOrReport(const QImage& picture);
+void copyOrReport(const QImage& picture);

@@ -14,6 +14,10 @@ Form::Form(Shell& shell, const QString& name)
 {
     setObjectName(name);
     qApp->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (isAncestorOf(now))
+            m_lastFocus = now; // the area forgets it when another window becomes active
+    });
 }
 
 Form::~Form() = default;
@@ -73,7 +77,10 @@ void Form::takeFocus()
 {
     if (isAncestorOf(QApplication::focusWidget()))
         return;
-    QWidget* control = focusWidget(); // the one that had it last
+    QWidget* control =
+        focusWidget(); // while the frame is inactive nobody has the focus, but this one shall get it
+    if (!control && m_lastFocus && m_lastFocus->isVisibleTo(this) && m_lastFocus->isEnabled())
+        control = m_lastFocus;
     for (QWidget* next = nextInFocusChain(); !control && next != this; next = next->nextInFocusChain())
         if (isAncestorOf(next) && next->isVisibleTo(this) && next->isEnabled() &&
             (next->focusPolicy() & Qt::TabFocus))

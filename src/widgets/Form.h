@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QPointer>
 #include <QWidget>
 
 class QKeyEvent;
@@ -88,6 +89,7 @@ private:
 
     Shell& m_shell;
     QList<QMenu*> m_menus;
+    QPointer<QWidget> m_lastFocus;
     bool m_loaded = false;
     bool m_active = false;
 };

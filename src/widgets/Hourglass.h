@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCursor>
 #include <QGuiApplication>
 
 /// Shows the hourglass pointer while it lives, so that every path out of an operation brings the default one

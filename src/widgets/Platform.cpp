@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstring>
 #include <QApplication>
+#include <QClipboard>
 #include <QCryptographicHash>
 #include <QDesktopServices>
 #include <QFileInfo>
@@ -58,6 +59,23 @@ void Platform::openLink(const QUrl& link)
 void Platform::beep()
 {
     QApplication::beep();
+}
+
+// The toolkit reports no failure, but whoever could not write the clipboard does not own it afterwards.
+bool Platform::setClipboard(const QString& text)
+{
+    QClipboard& clipboard = *QGuiApplication::clipboard();
+    clipboard.clear();
+    clipboard.setText(text);
+    return clipboard.ownsClipboard();
+}
+
+bool Platform::setClipboard(const QImage& picture)
+{
+    QClipboard& clipboard = *QGuiApplication::clipboard();
+    clipboard.clear();
+    clipboard.setImage(picture);
+    return clipboard.ownsClipboard();
 }
 
 Platform& Platform::current()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -19,6 +20,9 @@ public:
     /// Opens a web or mail address the way the desktop does.
     virtual void openLink(const QUrl& link);
     virtual void beep();
+    /// Clears the clipboard and puts a text or a picture on it. False when the desktop did not take it.
+    virtual bool setClipboard(const QString& text);
+    virtual bool setClipboard(const QImage& picture);
 
     static Platform& current();
     /// Replaces the services; nullptr brings the real ones back. The caller keeps the ownership.

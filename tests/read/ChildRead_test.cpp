@@ -279,6 +279,17 @@ TEST_F(Reading, CopiesKeyAndTextAsPlainText)
     }
 }
 
+TEST_F(Reading, AClipboardThatTakesNothingIsReported)
+{
+    services.clipboardWorks = false;
+    click(*window->cmdCopy);
+    ASSERT_EQ(boxes.shown.size(), 1);
+    EXPECT_EQ(boxes.shown[0].title, "Clipboard Error");
+    EXPECT_EQ(boxes.shown[0].text, "Error 521: Can't open Clipboard");
+    EXPECT_EQ(boxes.shown[0].icon, MsgIcon::Exclamation);
+    EXPECT_EQ(key(), "Mt:1:1");
+}
+
 TEST_F(Reading, HandOverToTheMinimisedWindowRestoresAndFocusesIt)
 {
     window->setState(Form::Minimized);

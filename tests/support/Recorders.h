@@ -43,9 +43,15 @@ public:
     }
     void openLink(const QUrl& link) override { links << link; }
     void beep() override { ++beeps; }
+    bool setClipboard(const QString& text) override { return clipboardWorks && Platform::setClipboard(text); }
+    bool setClipboard(const QImage& picture) override
+    {
+        return clipboardWorks && Platform::setClipboard(picture);
+    }
 
     bool anotherCopyRuns = false;
     bool programsStart = true;
+    bool clipboardWorks = true;
     QStringList programs;
     QList<QUrl> links;
     int beeps = 0;

@@ -1,0 +1,104 @@
+// The doors to the desktop: message boxes, hourglass, fonts, the rule of one copy.
+#include "widgets/Fonts.h"
+#include "widgets/Hourglass.h"
+#include "widgets/MsgBox.h"
+#include "widgets/Platform.h"
+#include "widgets/TypeSize.h"
+#include <gtest/gtest.h>
+#include <QApplication>
+#include <QFontInfo>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+/// Looks at the open message box and answers it with a key.
+template <class Look>
+void whenShown(Qt::Key answer, Look look)
+{
+    QTimer::singleShot(50, [answer, look] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        look(*box);
+        QTest::keyClick(box, answer);
+    });
+}
+
+} // namespace
+
+TEST(MsgBox, ShowsTextTitleIconAndOneButton)
+{
+    whenShown(Qt::Key_Return, [](QMessageBox& box) {
+        EXPECT_EQ(box.text(), "first\n\nsecond <b>");
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.windowTitle(), "Title");
+        EXPECT_EQ(box.icon(), QMessageBox::Warning);
+        EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+    });
+    EXPECT_EQ(MsgBox::show("first\r\n\r\nsecond <b>", MsgIcon::Exclamation, MsgButtons::Ok, "Title"),
+              MsgAnswer::Ok);
+}
+
+TEST(MsgBox, CarriesTheApplicationTitleUnlessGivenAnother)
+{
+    whenShown(Qt::Key_Escape, [](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), "Kestrel Reader: Portuguese Version");
+        EXPECT_EQ(box.icon(), QMessageBox::Critical);
+    });
+    EXPECT_EQ(MsgBox::show("text", MsgIcon::Stop), MsgAnswer::Ok);
+}
+
+TEST(MsgBox, AsksYesOrNoAndTakesClosingForNo)
+{
+    whenShown(Qt::Key_Return, [](QMessageBox& box) { EXPECT_EQ(box.icon(), QMessageBox::Question); });
+    EXPECT_EQ(MsgBox::show("?", MsgIcon::Question, MsgButtons::YesNo), MsgAnswer::Yes);
+    whenShown(Qt::Key_Escape, [](QMessageBox&) {});
+    EXPECT_EQ(MsgBox::show("?", MsgIcon::Question, MsgButtons::YesNo), MsgAnswer::No);
+    whenShown(Qt::Key_N, [](QMessageBox& box) {
+        EXPECT_EQ(box.button(QMessageBox::No)->text().remove('&'), "No");
+        QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton);
+    });
+    EXPECT_EQ(MsgBox::show("?", MsgIcon::Question, MsgButtons::YesNo), MsgAnswer::No);
+}
+
+TEST(Hourglass, ComesBackOnEveryPath)
+{
+    {
+        Hourglass hourglass;
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        hourglass.restore();
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    }
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_THROW(
+        {
+            const Hourglass hourglass;
+            throw 1;
+        },
+        int);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST(Fonts, NamesTheFacesAndShowsTheirSubstitutes)
+{
+    EXPECT_EQ(Fonts::tahomaOf(12).family(), "Tahoma");
+    EXPECT_TRUE(QFont::substitutes("Tahoma").contains("Liberation Sans", Qt::CaseInsensitive));
+    EXPECT_TRUE(QFont::substitutes("Times New Roman").contains("Liberation Serif", Qt::CaseInsensitive));
+}
+
+TEST(TypeSize, GoesFromTwentyFourToTwelveElseSixUp)
+{
+    EXPECT_EQ(nextTypeSize(Fonts::tahomaOf(12)).pointSize(), 18);
+    EXPECT_EQ(nextTypeSize(Fonts::tahomaOf(18)).pointSize(), 24);
+    EXPECT_EQ(nextTypeSize(Fonts::tahomaOf(24)).pointSize(), 12);
+    EXPECT_EQ(nextTypeSize(Fonts::tahomaOf(30)).pointSize(), 36); // exactly 24, not from 24
+}
+
+TEST(Platform, OneProcessIsTheRunningCopy)
+{
+    EXPECT_FALSE(Platform().previousInstance());
+    EXPECT_TRUE(Platform().previousInstance()); // the name is taken now, whoever asks again
+}

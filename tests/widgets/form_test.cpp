@@ -1,0 +1,176 @@
+// How a child window lives in the frame's area.
+#include "support/Session.h"
+#include "widgets/Form.h"
+#include "widgets/Twips.h"
+#include <gtest/gtest.h>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QPushButton>
+
+namespace {
+
+/// A window that writes down what happens to it.
+class Diary : public Form
+{
+public:
+    explicit Diary(Shell& shell)
+        : Form(shell, "Diary")
+        , first(new QLineEdit(this))
+        , second(new QPushButton("second", this))
+    {
+        second->move(0, 40);
+        makeMenus({});
+    }
+
+    using Form::frameInnerSize;
+    using Form::innerSize;
+    using Form::setOuterPosition;
+    using Form::setOuterSize;
+
+    QStringList events;
+    bool swallow = false;
+    QLineEdit* first;
+    QPushButton* second;
+
+protected:
+    void Form_Load() override { events << "Load"; }
+    void Form_Activate() override { events << "Activate"; }
+    void Form_Deactivate() override { events << "Deactivate"; }
+    void Form_Resize() override { events << "Resize"; }
+    void Form_Unload() override { events << "Unload"; }
+    bool Form_KeyDown(QKeyEvent& event) override
+    {
+        events << QString("Key %1").arg(event.key());
+        return swallow;
+    }
+};
+
+class FormTest : public Session
+{
+protected:
+    void SetUp() override
+    {
+        Session::SetUp();
+        diary = new Diary(frame());
+        diary->loadInto(*frame().area());
+        diary->activate();
+    }
+
+    QPointer<Diary> diary;
+};
+
+} // namespace
+
+TEST_F(FormTest, LoadsBeforeItIsSizedAndActivated)
+{
+    EXPECT_EQ(diary->events.first(), "Load");
+    EXPECT_TRUE(diary->events.contains("Activate"));
+    EXPECT_EQ(diary->events.count("Activate"), 1);
+}
+
+TEST_F(FormTest, GivesTheFocusToTheFirstControlThenToTheOneThatHadItLast)
+{
+    EXPECT_TRUE(diary->first->hasFocus());
+    diary->second->setFocus();
+    frame().openSelection();
+    diary->activate();
+    EXPECT_TRUE(diary->second->hasFocus());
+}
+
+TEST_F(FormTest, TellsWhenAnotherWindowBecomesActive)
+{
+    diary->events.clear();
+    frame().openSelection();
+    EXPECT_EQ(diary->events, QStringList("Deactivate"));
+    diary->activate();
+    EXPECT_EQ(diary->events, QStringList({"Deactivate", "Activate"}));
+}
+
+TEST_F(FormTest, PreviewsEachKeyOnceAndPassesItOn)
+{
+    diary->events.clear();
+    QTest::keyClicks(diary->first, "a");
+    EXPECT_EQ(diary->events, QStringList(QString("Key %1").arg(int(Qt::Key_A))));
+    EXPECT_EQ(diary->first->text(), "a");
+    diary->second->setFocus(); // a control that leaves keys alone: they pass up through the window
+    diary->events.clear();
+    press(Qt::Key_A);
+    EXPECT_EQ(diary->events.size(), 1);
+}
+
+TEST_F(FormTest, KeepsASwallowedKeyFromTheControl)
+{
+    diary->swallow = true;
+    QTest::keyClicks(diary->first, "x");
+    EXPECT_EQ(diary->first->text(), "");
+}
+
+TEST_F(FormTest, DoesNotSeeTheKeysOfOtherWindows)
+{
+    frame().openSelection();
+    diary->events.clear();
+    press(Qt::Key_A);
+    EXPECT_TRUE(diary->events.isEmpty());
+}
+
+TEST_F(FormTest, MeasuresItsOuterAndInnerSizeInTwips)
+{
+    diary->setOuterSize(6000, 4500);
+    EXPECT_EQ(diary->outerWidth(), 6000);
+    EXPECT_EQ(diary->outerHeight(), 4500);
+    EXPECT_EQ(diary->innerSize(), diary->size() * twipsPerPixel);
+    EXPECT_EQ(diary->frameInnerSize(), frame().area()->viewport()->size() * twipsPerPixel);
+    diary->setOuterPosition(150, 300);
+    EXPECT_EQ(outer(*diary).pos(), QPoint(10, 20));
+}
+
+TEST_F(FormTest, IgnoresSizesUnlessItIsInTheNormalState)
+{
+    diary->setState(Form::Maximized);
+    const QSize before = outer(*diary).size();
+    diary->setOuterSize(3000, 3000);
+    diary->setOuterPosition(150, 300);
+    EXPECT_EQ(outer(*diary).size(), before);
+    diary->setState(Form::Minimized);
+    EXPECT_EQ(diary->state(), Form::Minimized);
+    diary->setOuterSize(3000, 3000);
+    EXPECT_EQ(diary->state(), Form::Minimized);
+}
+
+TEST_F(FormTest, ReportsEveryChangeOfState)
+{
+    for (const Form::WindowState state : {Form::Maximized, Form::Normal, Form::Minimized, Form::Normal}) {
+        diary->events.clear();
+        diary->setState(state);
+        EXPECT_EQ(diary->state(), state);
+        EXPECT_TRUE(diary->events.contains("Resize")) << state;
+    }
+}
+
+TEST_F(FormTest, RestoreAndActivateLeavesAMaximisedWindowMaximised)
+{
+    diary->setState(Form::Maximized);
+    diary->restoreAndActivate();
+    EXPECT_EQ(diary->state(), Form::Maximized);
+    diary->setState(Form::Minimized);
+    diary->restoreAndActivate();
+    EXPECT_NE(diary->state(), Form::Minimized);
+}
+
+TEST_F(FormTest, ClosingUnloadsItOnceAndDeletesIt)
+{
+    QStringList seen;
+    QObject::connect(diary, &Form::unloaded, [&] { seen = diary->events; });
+    outer(*diary).close();
+    EXPECT_EQ(seen.count("Unload"), 1);
+    EXPECT_EQ(seen.last(), "Unload");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(diary.isNull());
+}
+
+TEST_F(FormTest, ItsCaptionStandsOnTheTitleBar)
+{
+    diary->setCaption("A caption");
+    EXPECT_EQ(outer(*diary).windowTitle(), "A caption");
+}
