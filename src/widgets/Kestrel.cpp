@@ -4,7 +4,7 @@
 namespace {
 const QColor chestnut(0xb8602a);
 const QColor deepChestnut(0x8f4519);
-const QColor slate(0x5d7286);
+const QColor slate(0x495e73);
 const QColor dark(0x26323e);
 const QColor cream(0xfbf6ea);
 
@@ -14,12 +14,12 @@ QPainterPath wing(int side)
 {
     const auto at = [side](double x, double y) { return QPointF(side * x, y); };
     QPainterPath path;
-    path.moveTo(at(0, -13));
-    path.cubicTo(at(6, -14), at(12, -22), at(20, -21));
-    path.cubicTo(at(30, -19), at(42, -6), at(50, 9));
-    path.cubicTo(at(42, 3), at(34, 2), at(27, 3));
-    path.cubicTo(at(18, 4), at(10, 4), at(4, 8));
-    path.lineTo(0, 8);
+    path.moveTo(at(0, -19));
+    path.cubicTo(at(6, -19), at(13, -23), at(21, -22));
+    path.cubicTo(at(31, -20), at(43, -11), at(51, 3));
+    path.cubicTo(at(43, -1), at(35, -2), at(28, 0));
+    path.cubicTo(at(19, 2), at(9, 3), at(4.6, 15));
+    path.lineTo(0, 15);
     path.closeSubpath();
     return path;
 }
@@ -39,7 +39,7 @@ QPainterPath hand(int side)
 
 QPainterPath tail(double from, double to)
 {
-    const auto half = [](double y) { return 3 + (y - 10) * 0.13; };
+    const auto half = [](double y) { return 3.2 + (y - 10) * 0.14; };
     QPainterPath path;
     path.moveTo(-half(from), from);
     path.lineTo(half(from), from);
@@ -53,9 +53,9 @@ QPainterPath body()
 {
     QPainterPath path;
     path.moveTo(0, -20);
-    path.cubicTo(8, -16, 7.5, 2, 3.2, 16);
-    path.lineTo(-3.2, 16);
-    path.cubicTo(-7.5, 2, -8, -16, 0, -20);
+    path.cubicTo(9, -16, 9, 2, 3.4, 18);
+    path.lineTo(-3.4, 18);
+    path.cubicTo(-9, 2, -9, -16, 0, -20);
     return path;
 }
 
@@ -64,8 +64,8 @@ void paintSpots(QPainter& painter)
     painter.setPen(Qt::NoPen);
     painter.setBrush(deepChestnut);
     for (const int side : {-1, 1}) {
-        for (const QPointF spot : {QPointF(3, -8), QPointF(2.4, 2), QPointF(9, -10), QPointF(8, -3),
-                                   QPointF(15, -13), QPointF(15, -5), QPointF(21, -9)})
+        for (const QPointF spot : {QPointF(3, -9), QPointF(3.4, -1), QPointF(2.4, 6), QPointF(9, -13),
+                                   QPointF(10, -6), QPointF(15, -17), QPointF(16, -9), QPointF(21, -14)})
             painter.drawEllipse(QPointF(side * spot.x(), spot.y()), 1, 1.3);
     }
 }
@@ -73,9 +73,9 @@ void paintSpots(QPainter& painter)
 
 void paintKestrel(QPainter& painter, bool fineMarks)
 {
-    painter.fillPath(tail(10, 45), cream);
-    painter.fillPath(tail(10, 42.5), dark);
-    painter.fillPath(tail(10, 35), slate);
+    painter.fillPath(tail(10, 47), cream);
+    painter.fillPath(tail(10, 44), dark);
+    painter.fillPath(tail(10, 36.5), slate);
     for (const int side : {-1, 1}) {
         painter.fillPath(wing(side), chestnut);
         painter.fillPath(hand(side), dark);
@@ -84,10 +84,10 @@ void paintKestrel(QPainter& painter, bool fineMarks)
     if (fineMarks)
         paintSpots(painter);
     QPainterPath head;
-    head.addEllipse(QPointF(0, -20), 5.6, 6.4);
+    head.addEllipse(QPointF(0, -21), 6.2, 7.2);
     QPainterPath beak;
-    beak.moveTo(-2.2, -25);
-    beak.quadTo(0, -31, 2.2, -25);
+    beak.moveTo(-2.8, -26);
+    beak.quadTo(0, -38, 2.8, -26);
     beak.closeSubpath();
     painter.fillPath(beak, dark);
     painter.fillPath(head, slate);
@@ -99,9 +99,10 @@ void paintOpenBook(QPainter& painter, bool fineMarks)
         const auto at = [side](double x, double y) { return QPointF(side * x, y); };
         QPainterPath cover;
         cover.moveTo(0, 3);
-        cover.cubicTo(at(15, -4), at(35, -3), at(50, 0));
-        cover.lineTo(at(50, -34));
-        cover.lineTo(at(0, -34));
+        cover.cubicTo(at(15, -4), at(35, -3), at(49, 0));
+        cover.quadTo(at(50, 0), at(50, -1.5));
+        cover.lineTo(at(47.5, -35));
+        cover.lineTo(at(0, -32));
         cover.closeSubpath();
         painter.fillPath(cover, dark);
 
@@ -123,8 +124,8 @@ void paintOpenBook(QPainter& painter, bool fineMarks)
             const double y = -33 + row * 5.4;
             QPainterPath text;
             text.moveTo(at(6, y + 2.2));
-            text.cubicTo(at(14, y - 3), at(28, y - 4.5), at(row == 4 ? 28 : 41, y - (row == 4 ? 3.6 : 2)));
-            painter.strokePath(text, QPen(QColor(0xa9a08c), 1.1, Qt::SolidLine, Qt::RoundCap));
+            text.cubicTo(at(14, y - 3), at(28, y - 4.5), at(41, y - 2));
+            painter.strokePath(text, QPen(QColor(0xc3bba8), 1, Qt::SolidLine, Qt::RoundCap));
         }
     }
 }

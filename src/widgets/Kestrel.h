@@ -1,11 +1,10 @@
-// The bird of the program's name and its book, in their own colours, for the application icon and the splash.
 #pragma once
 
 #include <QPainter>
 
-// A kestrel seen from above, flying up the y axis: wings 100 units from tip to tip, about the origin.
-// Small pictures leave out the finer marks.
+/// A kestrel seen from above, flying up the y axis: wings 100 units from tip to tip, about the origin.
+/// Small pictures leave out the finer marks.
 void paintKestrel(QPainter& painter, bool fineMarks);
 
-// An open book seen from before, 100 units wide, its spine's foot at the origin.
+/// An open book seen from before, 100 units wide, its spine's foot at the origin.
 void paintOpenBook(QPainter& painter, bool fineMarks);

@@ -1,5 +1,3 @@
-// Drawing on the grid of 24 x 24 units that all pictures share, and the shapes that more than one of them
-// uses.
 #pragma once
 
 #include "widgets/PictureInk.h"
@@ -7,6 +5,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
+/// Drawing on the grid of 24 x 24 units that all pictures share, and the shapes that more than one of them
+/// uses.
 class PictureCanvas
 {
 public:
@@ -18,7 +18,7 @@ public:
     void stroke(const QPainterPath& path, const QColor& color, double width = 1.5);
     void stroke(std::initializer_list<QPointF> points, const QColor& color, double width = 1.5);
     void fill(const QPainterPath& path, const QColor& color);
-    // Filled and outlined in the line colour.
+    /// Filled and outlined in the line colour.
     void shape(const QPainterPath& path, const QColor& color);
     void dot(QPointF center, double radius, const QColor& color);
 

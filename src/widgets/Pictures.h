@@ -1,10 +1,10 @@
-// Every picture of the program, drawn by code and sharp at any size.
 #pragma once
 
 #include <QIcon>
 #include <QList>
 #include <QPixmap>
 
+/// Every picture of the program, drawn by code and sharp at any size.
 enum class PictureId {
     // Toolbar
     SelectVerse,
@@ -42,12 +42,12 @@ enum class PictureId {
     Application,
 };
 
-// A scalable icon. Painted, it takes the ink that suits the painter's background brush; asked for a pixmap,
-// the ink that suits the application's button face.
+/// A scalable icon. Painted, it takes the ink that suits the painter's background brush; asked for a pixmap,
+/// the ink that suits the application's button face.
 QIcon picture(PictureId id);
 
-// All of them in the order above, for tests and contact sheets.
+/// All of them in the order above, for tests and contact sheets.
 const QList<PictureId>& allPictures();
 
-// The picture of the start window, 480 x 300 device-independent pixels.
+/// The picture of the start window, 480 x 300 device-independent pixels.
 QPixmap splashPicture(qreal devicePixelRatio);

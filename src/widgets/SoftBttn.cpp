@@ -1,6 +1,6 @@
 #include "widgets/SoftBttn.h"
 #include "widgets/PictureInk.h"
-#include <QApplication>
+#include "widgets/Platform.h"
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -30,7 +30,7 @@ SoftBttn::SoftBttn(QWidget* parent)
     setAttribute(Qt::WA_Hover);
     connect(this, &QAbstractButton::clicked, this, [this] {
         if (m_playSounds)
-            QApplication::beep();
+            Platform::current().beep();
     });
 }
 

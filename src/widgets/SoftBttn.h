@@ -1,9 +1,9 @@
-// The picture push button of the toolbar and of every window.
 #pragma once
 
 #include "widgets/Pictures.h"
 #include <QAbstractButton>
 
+/// The picture push button of the toolbar and of every window.
 class SoftBttn : public QAbstractButton
 {
     Q_OBJECT
@@ -16,24 +16,23 @@ class SoftBttn : public QAbstractButton
 
 public:
     explicit SoftBttn(QWidget* parent = nullptr);
-    // The tooltip is also the name that a screen reader speaks.
-    // name is the one in the code, as in "cmdGo".
+    /// The name is the one in the code, as in "cmdGo"; a screen reader speaks the tooltip.
     SoftBttn(const QString& name, PictureId id, const QString& toolTip, QWidget* parent = nullptr);
 
     QIcon picture() const { return m_picture; }
     void setPicture(const QIcon& picture);
 
-    // The button's face; the palette's button face until a colour is set.
+    /// The button's face; the palette's button face until a colour is set.
     QColor backColor() const;
     void setBackColor(const QColor& color);
 
-    // With useMaskColor, pixels of the picture in exactly the mask colour let the face through.
+    /// With useMaskColor, pixels of the picture in exactly the mask colour let the face through.
     QColor maskColor() const { return m_maskColor; }
     void setMaskColor(const QColor& color);
     bool useMaskColor() const { return m_useMaskColor; }
     void setUseMaskColor(bool use);
 
-    // With playSounds, a click beeps.
+    /// With playSounds, a click beeps.
     bool playSounds() const { return m_playSounds; }
     void setPlaySounds(bool play) { m_playSounds = play; }
 

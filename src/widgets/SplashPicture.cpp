@@ -14,6 +14,11 @@ void paintSky(QPainter& painter)
     sky.setColorAt(0.55, QColor(0xe3eef3));
     sky.setColorAt(0.85, QColor(0xf8f1e2));
     painter.fillRect(QRect(QPoint(), splashSize), sky);
+
+    QRadialGradient dawn(QPointF(240, 236), 230);
+    dawn.setColorAt(0, QColor(255, 246, 222, 230));
+    dawn.setColorAt(1, QColor(255, 246, 222, 0));
+    painter.fillRect(QRect(QPoint(), splashSize), dawn);
 }
 
 void paintHill(QPainter& painter, double left, double middle, double right, const QColor& color)
@@ -71,12 +76,13 @@ QPixmap splashPicture(qreal devicePixelRatio)
     paintOpenBook(painter, true);
     painter.restore();
 
-    painter.translate(380, 110);
+    painter.save();
+    painter.translate(386, 112);
     painter.rotate(38);
     painter.scale(1.5, 1.5);
     paintKestrel(painter, true);
-    painter.resetTransform();
-    painter.scale(1, 1);
+    painter.restore();
+
     paintTitle(painter);
     return pixmap;
 }

@@ -28,6 +28,13 @@ double strongestContrast(const QImage& image, const QColor& face)
 const QList<QColor> faces{QColor(0xefefef), QColor(0xd4d0c8), QColor(0x2b2f33), QColor(Qt::black)};
 } // namespace
 
+TEST(Pictures, StandInTheOrderOfTheirIds)
+{
+    for (qsizetype i = 0; i < allPictures().size(); ++i)
+        EXPECT_EQ(static_cast<qsizetype>(allPictures()[i]), i);
+    EXPECT_EQ(allPictures().last(), PictureId::Application);
+}
+
 TEST(Pictures, NoTwoAreAlike)
 {
     std::set<QByteArray> seen;

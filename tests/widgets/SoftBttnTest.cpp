@@ -1,4 +1,5 @@
 #include "widgets/SoftBttn.h"
+#include "support/Recorders.h"
 #include "widgets/PictureInk.h"
 #include <gtest/gtest.h>
 #include <QAccessible>
@@ -197,9 +198,12 @@ TEST_F(SoftBttnTest, IsSharpAtTwiceTheDensity)
     EXPECT_GT(different, 100);
 }
 
-TEST_F(SoftBttnTest, SoundIsOffUntilAskedFor)
+TEST_F(SoftBttnTest, AClickBeepsOnlyWithPlaySounds)
 {
-    EXPECT_FALSE(button.playSounds());
+    RecordedServices services;
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(services.beeps, 0);
     button.setProperty("playsounds", true);
-    EXPECT_TRUE(button.playSounds());
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(services.beeps, 1);
 }
