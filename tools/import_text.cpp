@@ -1,0 +1,28 @@
+// Makes the text of the database from the published one: import_text PUBLISHED_LIST OUT
+
+#include "importer/Files.h"
+#include "importer/Importer.h"
+
+#include <exception>
+#include <iostream>
+
+int main(int argc, char** argv)
+{
+    if (argc != 3) {
+        std::cerr << "Usage: import_text PUBLISHED_LIST OUT\n";
+        return 2;
+    }
+    try {
+        const ImportedText text = importText(argv[1]);
+        writeFile(argv[2], writeVerseList(text.verses));
+        std::cout << "Imported " << text.verses.size() << " verses, ";
+        if (text.hasCorrections)
+            std::cout << text.corrections << " corrections, typography rules.\n";
+        else
+            std::cout << "typography rules alone: no corrections.tsv lies beside " << argv[1] << ".\n";
+    } catch (const std::exception& error) {
+        std::cerr << "import_text: " << error.what() << "\n";
+        return 1;
+    }
+    return 0;
+}
