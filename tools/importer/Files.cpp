@@ -7,12 +7,11 @@
 
 std::string readFile(const std::filesystem::path& path)
 {
-    std::ifstream file(path, std::ios::binary);
-    std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     // A folder opens, but does not read.
-    if (!file.is_open() || file.bad() || std::filesystem::is_directory(path))
+    std::ifstream file(path, std::ios::binary);
+    if (!file.is_open() || std::filesystem::is_directory(path))
         throw InputError("Cannot read " + path.string() + ".");
-    return bytes;
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
 void writeFile(const std::filesystem::path& path, std::string_view bytes)
