@@ -1,0 +1,44 @@
+"""What the tests of the tools' scripts share besides fixtures."""
+
+import importlib.machinery
+import importlib.util
+import json
+import os
+import subprocess
+import sys
+from pathlib import Path
+
+SOURCE = Path(__file__).resolve().parents[2]
+
+
+def run(*command, **environment):
+    """Runs a program; only the variables named here tell it of a text."""
+    clean = {name: value for name, value in os.environ.items() if not name.startswith("KESTREL_TEXT")}
+    # Nothing is fetched over the network unless a test says from where.
+    clean["KESTREL_TEXT_URL"] = "file:///nowhere"
+    return subprocess.run([str(part) for part in command], capture_output=True, text=True, check=False,
+                          env={**clean, **environment})
+
+
+def publish(reference, folder):
+    """Writes the reference text in the form in which it is published, one file a book."""
+    osis = read_books()
+    books = {}
+    for line in (reference / "scripture-pt.tsv").read_text(encoding="utf-8").splitlines():
+        book, chapter, verse, text = line.split("\t")
+        chapters = books.setdefault(osis[book], {})
+        chapters.setdefault(int(chapter), []).append({"number": int(verse), "text": text})
+    folder.mkdir()
+    for name, chapters in books.items():
+        content = {"chapters": [{"chapter": number, "verses": verses} for number, verses in chapters.items()]}
+        (folder / f"{name}.json").write_text(json.dumps(content), encoding="utf-8")
+    return folder
+
+
+def read_books():
+    """Abbreviation to published name."""
+    sys.dont_write_bytecode = True
+    loader = importlib.machinery.SourceFileLoader("find_text", str(SOURCE / "tools/find_text"))
+    module = importlib.util.module_from_spec(importlib.util.spec_from_loader("find_text", loader))
+    loader.exec_module(module)
+    return {book: name for name, book in module.BOOKS}
