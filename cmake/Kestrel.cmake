@@ -59,3 +59,16 @@ function(kestrel_test name)
     set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT
         "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/leaks.supp;UBSAN_OPTIONS=print_stacktrace=1")
 endfunction()
+
+# kestrel_script_test(NAME SCRIPT [argument...]): a script of tests/ that ends with 0 when all is well.
+function(kestrel_script_test name script)
+    add_test(NAME ${name} COMMAND ${SYSTEM_PYTHON} ${CMAKE_SOURCE_DIR}/tests/${script} ${ARGN})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+endfunction()
+
+# kestrel_pytest(NAME FOLDER): the Python tests of tests/FOLDER.
+function(kestrel_pytest name folder)
+    add_test(NAME ${name} COMMAND ${SYSTEM_PYTHON} -m pytest -q -p no:cacheprovider ${CMAKE_SOURCE_DIR}/tests/${folder})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT
+        "KESTREL_TOOLS_DIR=${CMAKE_BINARY_DIR}/tools;KESTREL_INSTALL_DIR=${KESTREL_INSTALL_DIR}")
+endfunction()

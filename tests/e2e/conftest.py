@@ -1,0 +1,45 @@
+"""The desktop and the program for the end-to-end tests. All run on one virtual desktop, one after another."""
+import os
+import pathlib
+
+import pytest
+from desktop import Desktop
+from reader import Reader
+
+TOP = pathlib.Path(__file__).resolve().parents[2]
+
+
+@pytest.fixture(scope="session")
+def installed():
+    folder = pathlib.Path(os.environ.get("KESTREL_INSTALL_DIR", TOP / "build" / "kestrel"))
+    assert (folder / "kestrel-reader").exists(), f"no program in {folder}: run ./setup"
+    return folder
+
+
+@pytest.fixture(scope="session")
+def desktop():
+    with Desktop() as session:
+        os.environ.update(session.environment)  # before the accessibility client looks for its bus
+        yield session
+
+
+@pytest.fixture
+def start(desktop):
+    """Starts programs; at the end of the test none is left, and none has written to standard error."""
+    readers = []
+
+    def start_one(folder, **environment):
+        readers.append(Reader(desktop, folder, **environment))
+        return readers[-1]
+
+    yield start_one
+    errors = [reader.end() for reader in readers]
+    assert errors == [""] * len(errors)
+
+
+@pytest.fixture
+def reader(start, installed):
+    """The program, its frame shown and the selection window active."""
+    program = start(installed)
+    program.find("frame", "Select Verse for Reading")
+    return program

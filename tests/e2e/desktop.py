@@ -1,0 +1,99 @@
+"""A real X session for one test: Xvfb, a window manager, a message bus with the accessibility services."""
+import os
+import shutil
+import subprocess
+import tempfile
+import time
+
+SCREEN = "1280x900x24"
+
+
+class Desktop:
+    """Starts everything on entering and ends it on leaving. `environment` is what a program of the session gets."""
+
+    def __init__(self, **extra):
+        self.extra = extra
+        self.processes = []
+
+    def __enter__(self):
+        self.folder = tempfile.mkdtemp(prefix="kestrel-desktop-")
+        display, end = os.pipe()
+        self._start(["Xvfb", "-displayfd", str(end), "-screen", "0", SCREEN, "-nolisten", "tcp"], pass_fds=[end])
+        os.close(end)
+        with os.fdopen(display) as number:
+            name = ":" + number.readline().strip()
+        self.environment = {
+            **os.environ,
+            "DISPLAY": name,
+            "HOME": self.folder,
+            "XDG_RUNTIME_DIR": self.folder,
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            "LC_ALL": "C.UTF-8",
+            **self.extra,
+        }
+        for variable in ("WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_SESSION_TYPE"):
+            self.environment.pop(variable, None)
+        bus = self._start(["dbus-daemon", "--session", "--nofork", "--print-address"], stdout=subprocess.PIPE, text=True)
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
+        self._start(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"])
+        self._start(["openbox"])
+        self._wait_for_window_manager()
+        return self
+
+    def __exit__(self, *_):
+        for process in reversed(self.processes):
+            process.terminate()
+            try:
+                process.wait(5)
+            except subprocess.TimeoutExpired:
+                process.kill()
+                process.wait()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def _start(self, command, **options):
+        quiet = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL, "stdin": subprocess.DEVNULL}
+        process = subprocess.Popen(command, env=getattr(self, "environment", None), **{**quiet, **options})
+        self.processes.append(process)
+        return process
+
+    def _wait_for_window_manager(self):
+        deadline = time.monotonic() + 10
+        while time.monotonic() < deadline:
+            answer = self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK", check=False)
+            if "window id" in answer:
+                return
+            time.sleep(0.05)
+        raise RuntimeError("the window manager did not start")
+
+    def run(self, *command, check=True, data=None):
+        """Runs a command in the session; what it printed."""
+        result = subprocess.run(command, env=self.environment, input=data, capture_output=True, text=True, timeout=30)
+        if check and result.returncode != 0:
+            raise RuntimeError(f"{command} failed: {result.stderr}")
+        return result.stdout
+
+    def wait_for_window(self, title, timeout=15):
+        """Waits until a window whose title holds this is shown."""
+        deadline = time.monotonic() + timeout
+        while not self.run("xdotool", "search", "--onlyvisible", "--name", title, check=False).split():
+            if time.monotonic() > deadline:
+                raise RuntimeError(f"no window named {title!r} appeared")
+            time.sleep(0.02)
+
+    def key(self, *keys):
+        self.run("xdotool", "key", "--clearmodifiers", *keys)
+
+    def type(self, text):
+        self.run("xdotool", "type", "--delay", "15", text)
+
+    def click(self, x, y, button=1):
+        self.run("xdotool", "mousemove", str(int(x)), str(int(y)), "click", str(button))
+
+    def clipboard(self):
+        """What is on the clipboard, to the byte."""
+        result = subprocess.run(["xclip", "-selection", "clipboard", "-o"], env=self.environment, capture_output=True,
+                                timeout=10)
+        return result.stdout.decode("utf-8")
+
+    def screenshot(self, path):
+        self.run("import", "-window", "root", str(path))

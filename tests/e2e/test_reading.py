@@ -1,0 +1,129 @@
+"""A reader's first minutes: look a verse up, step, copy, let it run by itself."""
+import pathlib
+import time
+
+import pytest
+
+TEXT = pathlib.Path(__file__).resolve().parents[2] / "build" / "data" / "scripture.tsv"
+
+
+@pytest.fixture(scope="session")
+def verses():
+    """The text list: the verses by their keys."""
+    rows = (line.split("\t") for line in TEXT.read_text(encoding="utf-8").splitlines())
+    return {f"{book}:{chapter}:{verse}": text for book, chapter, verse, text in rows}
+
+
+def look_up(reader, desktop, reference):
+    desktop.key("F2", "ctrl+a")
+    desktop.type(reference)
+    desktop.key("Return")
+
+
+def shown(reader, key):
+    return reader.find("frame", f"Reading Window -- {key}")
+
+
+def test_a_typed_reference_shows_its_verse(reader, desktop, verses):
+    look_up(reader, desktop, "Mt:24:43")
+    window = shown(reader, "Mt:24:43")
+    assert reader.find("label", "Mt:24:43", window)
+    assert reader.find("label", " " + verses["Mt:24:43"], window)
+
+
+def test_the_frame_and_the_controls_have_their_names(reader, desktop):
+    assert reader.find("frame", starts="Kestrel Reader: Portuguese Version - Freeware")
+    for name in ("Select Verse to read", "Notepad", "Search", "Study Aids", "About/QORV CD-ROM Offer",
+                 "Display Verse", "Examples"):
+        assert reader.find("push button", name)
+    assert reader.find("tree", "Books")
+    look_up(reader, desktop, "Jn:3:16")
+    window = shown(reader, "Jn:3:16")
+    for name in ("Previous Verse", "Next Verse", "Current Chapter", "Copy Verse to Clipboard", "Font Size", "Font Face"):
+        assert reader.find("push button", name, window)
+    assert reader.find("check box", "AutoJump to next verse after", window)
+    assert reader.find("menu item", "Edit")
+
+
+def test_stepping_by_keys_buttons_and_menu(reader, desktop):
+    look_up(reader, desktop, "Rv:22:21")
+    shown(reader, "Rv:22:21")
+    desktop.key("F12")
+    shown(reader, "Gn:1:1")
+    desktop.key("F11")
+    shown(reader, "Rv:22:21")
+    reader.press("Previous Verse")
+    shown(reader, "Rv:22:20")
+    reader.press("Next Verse")
+    shown(reader, "Rv:22:21")
+    desktop.key("alt+v", "p")
+    shown(reader, "Rv:22:20")
+
+
+def test_the_verses_wrap_at_both_ends(reader, desktop):
+    look_up(reader, desktop, "Mt")
+    shown(reader, "Mt:1:1")
+    desktop.key("F11")
+    shown(reader, "Mal:4:6")
+    desktop.key("F12")
+    shown(reader, "Mt:1:1")
+
+
+def test_copying_puts_the_verse_on_the_real_clipboard(reader, desktop, verses):
+    look_up(reader, desktop, "Mt:24:43")
+    shown(reader, "Mt:24:43")
+    desktop.key("ctrl+c")
+    expected = "Mt:24:43\r\n " + verses["Mt:24:43"] + " (PT)"
+    reader.wait_for(lambda: desktop.clipboard() == expected, "the verse on the clipboard")
+
+
+def test_the_timer_turns_the_verses_and_stops_behind_another_window(reader, desktop):
+    look_up(reader, desktop, "Mt:5:3")
+    window = shown(reader, "Mt:5:3")
+    desktop.key("Tab", "Tab", "space", "Tab", "Up")  # to the check box, then to the seconds
+    assert reader.find("combo box", "3", window)
+    begin = time.monotonic()
+    shown(reader, "Mt:5:4")
+    assert 2.5 < time.monotonic() - begin < 4.5
+    desktop.key("F2")
+    reader.find("frame", "Select Verse for Reading")
+    key = reader.find("frame", starts="Reading Window -- ").name
+    time.sleep(3.5)
+    assert reader.find("frame", starts="Reading Window -- ").name == key
+
+
+def test_a_bad_reference_is_refused_and_the_verse_before_stays(reader, desktop):
+    look_up(reader, desktop, "Lk:2:7")
+    shown(reader, "Lk:2:7")
+    look_up(reader, desktop, "Xy:1:1")
+    assert reader.text_of_box("Try Again!") == "Incorrect user input. No such verse."
+    desktop.key("Return")
+    reader.absent(None, "Try Again!")
+    shown(reader, "Lk:2:7")
+
+
+def test_an_apostrophe_ends_the_program_with_the_engines_text(reader, desktop):
+    look_up(reader, desktop, "Mt'")
+    text = reader.text_of_box("Kestrel Reader: Portuguese Version")
+    assert "error" in text or "token" in text
+    desktop.key("Return")
+    assert reader.wait() == 1
+
+
+def test_the_tree_opens_a_book_by_keyboard_alone(reader, desktop):
+    desktop.key("Tab", "Tab", "Tab")  # from the box over the buttons to the tree
+    desktop.key("End")  # the last node: Revelation
+    desktop.key("Return")
+    shown(reader, "Rv:1:1")
+
+
+def test_exit_ends_the_program(reader, desktop):
+    desktop.key("alt+f", "x")
+    assert reader.wait() == 0
+
+
+def test_closing_the_frame_ends_the_program(reader, desktop):
+    look_up(reader, desktop, "Mt")
+    shown(reader, "Mt:1:1")
+    desktop.key("alt+F4")
+    assert reader.wait() == 0

@@ -1,0 +1,125 @@
+"""Starting the installed program: the splash, the frame, and every refusal."""
+import subprocess
+import time
+
+import pytest
+from reader import install
+
+TITLE = "Kestrel Reader: Portuguese Version"
+
+
+@pytest.fixture
+def copy(installed, tmp_path):
+    return install(installed, tmp_path / "kestrel")
+
+
+def refusal(start, desktop, folder, title=TITLE):
+    program = start(folder)
+    text = program.text_of_box(title)
+    desktop.key("Return")
+    assert program.wait() == 1
+    return text
+
+
+def test_the_splash_comes_first_and_gives_way_to_the_frame(start, copy):
+    program = start(copy)
+    program.find(None, "Kestrel Reader (PT)")
+    shown = time.monotonic()
+    program.find("frame", "Select Verse for Reading")
+    assert 1.5 < time.monotonic() - shown < 3.5
+    program.absent(None, "Kestrel Reader (PT)")
+
+
+def test_escape_on_the_splash_ends_the_program(start, copy, desktop):
+    program = start(copy)
+    program.find(None, "Kestrel Reader (PT)")
+    desktop.key("Escape")
+    assert program.wait(1.5) == 0
+
+
+def test_without_the_clip(start, copy, desktop):
+    (copy / "SEARCH.AVI").unlink()
+    assert refusal(start, desktop, copy) == "Couldn't find file 'SEARCH.AVI'. Please run Setup."
+
+
+def test_without_the_database(start, copy, desktop):
+    (copy / "KESTRPT.DAT").unlink()
+    assert refusal(start, desktop, copy) == "Couldn't find file 'KESTRPT.DAT'. Please run Setup."
+
+
+def test_without_both_only_the_clip_is_named(start, copy, desktop):
+    (copy / "SEARCH.AVI").unlink()
+    (copy / "KESTRPT.DAT").unlink()
+    assert refusal(start, desktop, copy) == "Couldn't find file 'SEARCH.AVI'. Please run Setup."
+
+
+def test_a_database_one_second_off(start, copy, desktop):
+    subprocess.run(["touch", "-m", "-d", "1998-05-05 05:00:01", copy / "KESTRPT.DAT"], check=True)
+    assert refusal(start, desktop, copy) == ("Can't continue; file 'KESTRPT.DAT' has been modified. "
+                                             "Please uninstall the program then run Setup again.")
+
+
+def test_a_database_one_byte_longer(start, copy, desktop):
+    with open(copy / "KESTRPT.DAT", "ab") as database:
+        database.write(b"\0")
+    subprocess.run(["touch", "-m", "-d", "1998-05-05 05:00:00", copy / "KESTRPT.DAT"], check=True)
+    assert refusal(start, desktop, copy).startswith("Can't continue; file 'KESTRPT.DAT' has been modified.")
+
+
+def test_a_second_copy_is_refused_and_the_first_goes_on(start, copy, desktop):
+    first = start(copy)
+    first.find("frame", "Select Verse for Reading")
+    assert refusal(start, desktop, copy, "Kestrel Reader (PT) is already running") == \
+        "Cannot start more than one copy of Kestrel Reader (PT)."
+    assert first.find("frame", "Select Verse for Reading")
+    assert first.process.poll() is None
+
+
+def test_after_the_first_copy_is_killed_another_starts(start, copy):
+    first = start(copy)
+    first.find("frame", "Select Verse for Reading")
+    first.process.kill()
+    first.process.wait()
+    start(copy).find("frame", "Select Verse for Reading")
+
+
+@pytest.mark.parametrize("name", ["with blank", "é ação", "100%", "what?", "number#1", "a'b", "x" * 200])
+def test_odd_folders(start, installed, tmp_path, name):
+    program = start(install(installed, tmp_path / name))
+    program.find("frame", "Select Verse for Reading")
+    program.desktop.key("Return")
+    program.find("frame", "Reading Window -- Mt:1:1")
+
+
+@pytest.mark.parametrize("damage", ["noise", "cut", "empty"])
+def test_a_damaged_database_of_the_right_length_and_time_gives_the_engines_message(start, copy, desktop, damage):
+    database = copy / "KESTRPT.DAT"
+    sound = database.read_bytes()
+    bytes_ = {"noise": bytes((i * 7919 >> 3) & 255 for i in range(len(sound))),
+              "cut": sound[:100_000].ljust(len(sound), b"\0"),
+              "empty": bytes(len(sound))}[damage]
+    database.write_bytes(bytes_)
+    subprocess.run(["touch", "-m", "-d", "1998-05-05 05:00:00", database], check=True)
+    program = start(copy)
+    program.find("frame", "Select Verse for Reading")
+    desktop.key("Return")
+    text = program.text_of_box(TITLE)
+    assert text and "has been modified" not in text
+    desktop.key("Return")
+    assert program.wait() == 1
+
+
+def test_fifty_copies_at_once_make_one_frame_and_49_refusals(desktop, copy, start):
+    programs = [start(copy) for _ in range(50)]
+    deadline = time.monotonic() + 60
+    refused = set()
+    while len(refused) < 49 and time.monotonic() < deadline:
+        titles = desktop.run("xdotool", "search", "--name", "already running", check=False).split()
+        for window in titles:
+            desktop.run("xdotool", "windowfocus", window, "key", "--window", window, "Return", check=False)
+        refused = {program for program in programs if program.process.poll() == 1}
+    assert len(refused) == 49
+    (first,) = [program for program in programs if program not in refused]
+    first.find("frame", "Select Verse for Reading")
+    frames = desktop.run("xdotool", "search", "--name", "Kestrel Reader: Portuguese Version - Freeware").split()
+    assert len(frames) == 1
