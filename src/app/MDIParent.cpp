@@ -11,11 +11,11 @@
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QScreen>
-#include <QToolBar>
+#include <QVBoxLayout>
 #include <stdexcept>
 
 MDIParent::MDIParent(Program& program)
-    : picToolbar(new QToolBar(this))
+    : picToolbar(new QWidget(this))
     , cmdSelect(new SoftBttn("cmdSelect", PictureId::SelectVerse, "Select Verse to read", this))
     , cmdNote(new SoftBttn("cmdNote", PictureId::Notepad, "Notepad", this))
     , cmdSearch(new SoftBttn("cmdSearch", PictureId::Search, "Search", this))
@@ -29,7 +29,6 @@ MDIParent::MDIParent(Program& program)
     setWindowIcon(picture(PictureId::Application));
     m_area->setAccessibleName("Windows");
     m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder);
-    setCentralWidget(m_area);
     makeToolbar();
     m_menus = {Menus::file(*this, *this), Menus::search(*this, *this), Menus::tools(*this, *this),
                Menus::help(*this, *this)};
@@ -57,22 +56,25 @@ void MDIParent::load()
     QMetaObject::invokeMethod(this, &MDIParent::MDIForm_Activate, Qt::QueuedConnection);
 }
 
+// A strip docked along the top. The toolkit's own toolbar is not used: it can do no more here, and making one
+// loads every picture format that the desktop knows into memory.
 void MDIParent::makeToolbar()
 {
     picToolbar->setObjectName("picToolbar");
-    picToolbar->setWindowTitle("Toolbar");
-    picToolbar->setMovable(false);
-    auto* strip = new QWidget(picToolbar);
     int left = 30;
     for (SoftBttn* button : {cmdSelect, cmdNote, cmdSearch, cmdTools, cmdAbout}) {
-        button->setParent(strip);
+        button->setParent(picToolbar);
         place(*button, left, 0, 360, 360);
         left += 360;
     }
-    strip->setFixedSize(twips(left), twips(360));
-    picToolbar->addWidget(strip);
-    addToolBar(picToolbar);
-    setContextMenuPolicy(Qt::NoContextMenu); // the toolbar cannot be hidden
+    picToolbar->setFixedHeight(twips(390));
+    auto* frame = new QWidget(this);
+    auto* rows = new QVBoxLayout(frame);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(picToolbar);
+    rows->addWidget(m_area);
+    setCentralWidget(frame);
 }
 
 template <class Window>

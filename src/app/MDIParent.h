@@ -11,7 +11,6 @@ class Program;
 class QMdiArea;
 class QMdiSubWindow;
 class QMenu;
-class QToolBar;
 class SoftBttn;
 
 /// The main frame: toolbar, menus, the child windows in its area, and the commands they share. It hands out
@@ -27,7 +26,7 @@ public:
     /// Shows the frame and runs MDIForm_Load.
     void load();
 
-    QToolBar* picToolbar;
+    QWidget* picToolbar;
     SoftBttn* cmdSelect;
     SoftBttn* cmdNote;
     SoftBttn* cmdSearch;

@@ -1,12 +1,14 @@
 #include "read/Stepping.h"
 
-#include <QRegularExpression>
 #include <QtMath>
 
 double leadingNumber(const QString& text)
 {
-    static const QRegularExpression number(R"(^\s*([+-]?\d+(\.\d*)?))");
-    return number.match(text).captured(1).toDouble();
+    const QString number = text.trimmed();
+    qsizetype end = number.startsWith('-') ? 1 : 0;
+    while (end < number.size() && number[end] >= '0' && number[end] <= '9')
+        ++end;
+    return number.left(end).toDouble();
 }
 
 std::int32_t verseAfter(const QString& serial)

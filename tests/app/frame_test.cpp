@@ -3,7 +3,6 @@
 #include "widgets/SoftBttn.h"
 #include <QComboBox>
 #include <QSignalSpy>
-#include <QToolBar>
 
 using Frame = Session;
 

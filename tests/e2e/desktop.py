@@ -18,7 +18,7 @@ class Desktop:
     def __enter__(self):
         self.folder = tempfile.mkdtemp(prefix="kestrel-desktop-")
         display, end = os.pipe()
-        self._start(["Xvfb", "-displayfd", str(end), "-screen", "0", SCREEN, "-nolisten", "tcp"], pass_fds=[end])
+        self._start(["Xvfb", "-displayfd", str(end), "-screen", "0", SCREEN, "-nolisten", "tcp", "-noreset"], pass_fds=[end])
         os.close(end)
         with os.fdopen(display) as number:
             name = ":" + number.readline().strip()
@@ -57,7 +57,7 @@ class Desktop:
         return process
 
     def _wait_for_window_manager(self):
-        deadline = time.monotonic() + 10
+        deadline = time.monotonic() + 30
         while time.monotonic() < deadline:
             answer = self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK", check=False)
             if "window id" in answer:
