@@ -1,0 +1,91 @@
+"""What a user waits for at the start, and what the open program takes: measured on the assembled program in a real X session."""
+import os
+import pathlib
+import re
+import statistics
+import subprocess
+import sys
+import time
+
+TOP = pathlib.Path(__file__).resolve().parents[1]
+sys.path.insert(0, str(TOP / "tests" / "e2e"))
+
+from desktop import Desktop  # noqa: E402  the virtual desktop of the end-to-end tests
+
+RUNS = 5
+
+
+def resident_megabytes(process):
+    status = pathlib.Path(f"/proc/{process.pid}/status").read_text()
+    return int(re.search(r"VmRSS:\s+(\d+) kB", status).group(1)) / 1024
+
+
+def start(desktop, program):
+    return subprocess.Popen([program], env=desktop.environment, stdin=subprocess.DEVNULL)
+
+
+def frame_delay(desktop, program):
+    """Milliseconds between the splash and the frame, as the window manager lists them."""
+    watch = subprocess.Popen(["xprop", "-spy", "-root", "_NET_CLIENT_LIST"], env=desktop.environment,
+                             stdout=subprocess.PIPE, text=True)
+    watch.stdout.readline()
+    reader = start(desktop, program)
+    seen = {}
+    try:
+        for line in watch.stdout:
+            for window in re.findall(r"0x[0-9a-f]+", line):
+                seen.setdefault(window, time.perf_counter())
+            if len(seen) == 2:
+                first, second = seen.values()
+                return (second - first) * 1000
+    finally:
+        reader.kill()
+        reader.wait()
+        watch.kill()
+        watch.wait()
+    raise RuntimeError("the frame did not appear")
+
+
+def open_memory(desktop, program):
+    """Megabytes resident with the selection and reading windows open."""
+    reader = start(desktop, program)
+    try:
+        desktop.wait_for_window("Portuguese Version - Freeware")
+        desktop.key("ctrl+a")
+        desktop.type("Mt:24:43")
+        desktop.key("Return")
+        time.sleep(1)
+        return resident_megabytes(reader)
+    finally:
+        reader.kill()
+        reader.wait()
+
+
+def bare_memory(desktop, program):
+    window = start(desktop, program)
+    try:
+        desktop.wait_for_window("bare_window")
+        time.sleep(1)
+        return resident_megabytes(window)
+    finally:
+        window.kill()
+        window.wait()
+
+
+def figures(build, installed):
+    """Lines of (name, value, unit, ratio or None, limit, whether it is kept)."""
+    program = os.path.join(installed, "kestrel-reader")
+    with Desktop() as desktop:
+        delay = statistics.median(frame_delay(desktop, program) for _ in range(RUNS))
+        memory = statistics.median(open_memory(desktop, program) for _ in range(RUNS))
+        bare = statistics.median(bare_memory(desktop, os.path.join(build, "bench", "bare_window")) for _ in range(RUNS))
+    return [
+        ("frame after the splash", delay, "ms", None, "2000 to 2100", 2000 <= delay <= 2100),
+        ("bare window, resident", bare, "MB", None, "", True),
+        ("program, resident", memory, "MB", memory / bare, "1.6", memory / bare <= 1.6),
+    ]
+
+
+if __name__ == "__main__":
+    for figure in figures(str(TOP / "build" / "release"), str(TOP / "build" / "kestrel")):
+        print(figure)
