@@ -1,0 +1,130 @@
+// What a reader waits for: opening the store, looking verses up, searching the whole Bible. Every query is a
+// fresh statement, as in the windows, and every row that is counted as read has had all its columns read.
+//
+// The database is named in KESTREL_DATABASE. bench/compare runs this and holds the figures against their
+// limits.
+
+#include "store/Database.h"
+#include "store/DataSource.h"
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <cstdlib>
+
+namespace {
+
+const std::string allVerses = "SELECT * FROM NewTestament";
+
+std::string databasePath()
+{
+    const char* path = std::getenv("KESTREL_DATABASE");
+    return path ? path : "KESTRPT.DAT";
+}
+
+void show(DataSource& source, const std::string& condition)
+{
+    source.setRecordSource(allVerses + condition);
+    source.refresh();
+    for (int column = 0; column < 3; ++column)
+        benchmark::DoNotOptimize(source.field(column));
+}
+
+int readAll(DataSource& source, const std::string& condition)
+{
+    show(source, condition);
+    for (source.moveNext(); !source.eof(); source.moveNext()) {
+        for (int column = 0; column < 3; ++column)
+            benchmark::DoNotOptimize(source.field(column));
+    }
+    return source.recordCount();
+}
+
+void open(benchmark::State& state)
+{
+    for (auto _ : state)
+        benchmark::DoNotOptimize(std::make_unique<Database>(databasePath()));
+}
+
+/// The first row of a query, as the reading window shows it.
+void firstRow(benchmark::State& state, const std::string& condition)
+{
+    DataSource source;
+    source.setDatabaseName(databasePath());
+    show(source, condition);
+    if (source.eof())
+        state.SkipWithError("no such verse");
+    for (auto _ : state)
+        show(source, condition);
+}
+
+/// The same as the very first query after opening, which is not part of the time.
+void firstUse(benchmark::State& state, const std::string& condition)
+{
+    for (auto _ : state) {
+        const auto kept = Database::open(databasePath());
+        DataSource source;
+        source.setDatabaseName(databasePath());
+        const auto start = std::chrono::steady_clock::now();
+        show(source, condition);
+        state.SetIterationTime(
+            std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    }
+}
+
+void search(benchmark::State& state, const std::string& condition)
+{
+    DataSource source;
+    source.setDatabaseName(databasePath());
+    int rows = 0;
+    for (auto _ : state)
+        rows = readAll(source, condition);
+    state.counters["rows"] = rows;
+}
+
+/// Every verse of Psalm 119 looked up by its key as a prefix, and one that does not exist.
+void psalm119(benchmark::State& state)
+{
+    DataSource source;
+    source.setDatabaseName(databasePath());
+    for (auto _ : state) {
+        for (int verse = 1; verse <= 177; ++verse)
+            show(source, " WHERE VerseId LIKE 'Ps:119:" + std::to_string(verse) + "*'");
+    }
+}
+
+void registerAll()
+{
+    using benchmark::RegisterBenchmark;
+    const std::string byNumber = " WHERE VerseNumber = 23145";
+    const std::string byKey = " WHERE VerseId = 'Ps:119:176'";
+    const std::string byPrefix = " WHERE VerseId LIKE 'Ps:119:176*'";
+    RegisterBenchmark("open", open)->Unit(benchmark::kMillisecond);
+    RegisterBenchmark("verse by number", firstRow, byNumber);
+    RegisterBenchmark("verse by key", firstRow, byKey);
+    RegisterBenchmark("verse by prefix", firstRow, byPrefix);
+    RegisterBenchmark("verse by prefix J", firstRow, " WHERE VerseId LIKE 'J*'");
+    RegisterBenchmark("first use by number", firstUse, byNumber)->UseManualTime()->Iterations(5);
+    RegisterBenchmark("first use by key", firstUse, byKey)->UseManualTime()->Iterations(5);
+    RegisterBenchmark("first use by prefix", firstUse, byPrefix)->UseManualTime()->Iterations(5);
+    RegisterBenchmark("one word", search, " WHERE KJVerseText LIKE '*amor*'");
+    RegisterBenchmark("whole word", search, " WHERE KJVerseText LIKE '*[!0-9a-zA-Z]amor[!0-9a-zA-Z]*'");
+    RegisterBenchmark("two words with OR", search,
+                      " WHERE (KJVerseText LIKE '*Deus*' OR KJVerseText LIKE '*rei*')");
+    RegisterBenchmark("two words with AND", search,
+                      " WHERE KJVerseText LIKE '*Deus*' AND KJVerseText LIKE '*rei*'");
+    RegisterBenchmark("two words with NOT", search,
+                      " WHERE KJVerseText LIKE '*Deus*' AND KJVerseText NOT LIKE '*rei*'");
+    RegisterBenchmark("NOT alone", search, " WHERE KJVerseText NOT LIKE '*Deus*'");
+    RegisterBenchmark("only wildcards", search, " WHERE KJVerseText LIKE '*?*'");
+    RegisterBenchmark("only a class", search, " WHERE KJVerseText LIKE '*[xyz]*'");
+    RegisterBenchmark("whole Bible", search, "");
+    RegisterBenchmark("Psalm 119 by prefixes", psalm119);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    benchmark::Initialize(&argc, argv);
+    registerAll();
+    benchmark::RunSpecifiedBenchmarks();
+}
