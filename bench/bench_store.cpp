@@ -9,6 +9,7 @@
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <cstdlib>
+#include <iostream>
 
 namespace {
 
@@ -30,10 +31,10 @@ void show(DataSource& source, const std::string& condition)
 
 int readAll(DataSource& source, const std::string& condition)
 {
-    show(source, condition);
-    for (source.moveNext(); !source.eof(); source.moveNext()) {
-        for (int column = 0; column < 3; ++column)
-            benchmark::DoNotOptimize(source.field(column));
+    source.setRecordSource(allVerses + condition);
+    for (source.refresh(); !source.eof(); source.moveNext()) {
+        benchmark::DoNotOptimize(source.field(0));
+        benchmark::DoNotOptimize(source.field(2));
     }
     return source.recordCount();
 }
@@ -108,11 +109,11 @@ void registerAll()
     RegisterBenchmark("one word", search, " WHERE KJVerseText LIKE '*amor*'");
     RegisterBenchmark("whole word", search, " WHERE KJVerseText LIKE '*[!0-9a-zA-Z]amor[!0-9a-zA-Z]*'");
     RegisterBenchmark("two words with OR", search,
-                      " WHERE (KJVerseText LIKE '*Deus*' OR KJVerseText LIKE '*rei*')");
+                      " WHERE (KJVerseText LIKE '*Deus*' OR KJVerseText LIKE '*Senhor*')");
     RegisterBenchmark("two words with AND", search,
-                      " WHERE KJVerseText LIKE '*Deus*' AND KJVerseText LIKE '*rei*'");
+                      " WHERE KJVerseText LIKE '*Deus*' AND KJVerseText LIKE '*Senhor*'");
     RegisterBenchmark("two words with NOT", search,
-                      " WHERE KJVerseText LIKE '*Deus*' AND KJVerseText NOT LIKE '*rei*'");
+                      " WHERE KJVerseText LIKE '*Deus*' AND KJVerseText NOT LIKE '*Senhor*'");
     RegisterBenchmark("NOT alone", search, " WHERE KJVerseText NOT LIKE '*Deus*'");
     RegisterBenchmark("only wildcards", search, " WHERE KJVerseText LIKE '*?*'");
     RegisterBenchmark("only a class", search, " WHERE KJVerseText LIKE '*[xyz]*'");
@@ -126,5 +127,10 @@ int main(int argc, char** argv)
 {
     benchmark::Initialize(&argc, argv);
     registerAll();
-    benchmark::RunSpecifiedBenchmarks();
+    try {
+        benchmark::RunSpecifiedBenchmarks();
+    } catch (const DataError& error) {
+        std::cerr << databasePath() << ": " << error.what() << '\n';
+        return 1;
+    }
 }

@@ -102,15 +102,7 @@ void DataSource::moveNext()
 
 std::string_view DataSource::field(int position) const
 {
-    if (eof())
-        return {};
-    sqlite3_stmt* const row = m_cursor->row();
-    const void* value = sqlite3_column_type(row, position) == SQLITE_BLOB
-                            ? sqlite3_column_blob(row, position)
-                            : sqlite3_column_text(row, position);
-    if (!value)
-        return {};
-    return {static_cast<const char*>(value), static_cast<std::size_t>(sqlite3_column_bytes(row, position))};
+    return eof() ? std::string_view() : columnBytes(m_cursor->row(), position);
 }
 
 std::string_view DataSource::field(std::string_view column) const

@@ -62,6 +62,12 @@ void Database::setUp()
     if (registerLike(m_connection.get(), &m_verses) != SQLITE_OK ||
         registerVerseTable(m_connection.get(), &m_verses) != SQLITE_OK)
         throw engineError(m_connection.get());
+    // Texts are read as they lie in the file, and every file of ours holds UTF-8.
+    const Statement encoding = prepare("PRAGMA encoding");
+    if (sqlite3_step(encoding.get()) != SQLITE_ROW)
+        throw engineError(m_connection.get());
+    if (columnBytes(encoding.get(), 0) != "UTF-8")
+        throw DataError(SQLITE_NOTADB, sqlite3_errstr(SQLITE_NOTADB));
     execute("PRAGMA temp_store = MEMORY");
     execute("PRAGMA cache_size = -256");
     execute("CREATE VIRTUAL TABLE temp.VerseRows USING VerseRows");

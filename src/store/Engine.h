@@ -3,6 +3,8 @@
 #include "DataError.h"
 #include <memory>
 #include <sqlite3.h>
+#include <string>
+#include <string_view>
 
 /// The error that the engine met last on this connection.
 inline DataError engineError(sqlite3* connection)
@@ -16,6 +18,23 @@ struct FinalizeStatement
     void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 };
 using Statement = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
+
+/// A column of the row that a statement stands on: a text or a BLOB as its bytes, a number as text, NULL as
+/// nothing. Uncopied, which needs a database whose texts are UTF-8. Valid until the statement moves.
+inline std::string_view columnBytes(sqlite3_stmt* statement, int column)
+{
+    const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement, column));
+    return bytes ? std::string_view(bytes, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)))
+                 : std::string_view();
+}
+
+/// The same of an argument that the engine hands to a function.
+inline std::string_view valueBytes(sqlite3_value* value)
+{
+    const auto* bytes = static_cast<const char*>(sqlite3_value_blob(value));
+    return bytes ? std::string_view(bytes, static_cast<std::size_t>(sqlite3_value_bytes(value)))
+                 : std::string_view();
+}
 
 /// Compiles the first statement of an SQL text; throws what the engine says of it.
 inline Statement prepare(sqlite3* connection, const std::string& sql)

@@ -8,7 +8,13 @@
 /// Only pairs count: one capital and one small letter that stand for each other and are equally long in
 /// UTF-8. So folding never moves a byte, and the Kelvin sign, the dotted I, the sharp s and the final sigma
 /// equal only themselves.
-char32_t toSmallLetter(char32_t character);
+char32_t toSmallLetterBeyondAscii(char32_t character);
+inline char32_t toSmallLetter(char32_t character)
+{
+    if (character >= 0x80)
+        return toSmallLetterBeyondAscii(character);
+    return character >= 'A' && character <= 'Z' ? character + 0x20 : character;
+}
 
 /// The other letter of the pair; the character itself when it has none.
 char32_t toOtherCase(char32_t character);

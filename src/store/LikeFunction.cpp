@@ -19,50 +19,45 @@ public:
         }
     }
 
-    bool matches(std::string_view text)
+    bool matches(sqlite3_value* value)
     {
-        if (!m_block || !m_block->holds(text.data()))
-            return m_pattern.matches(text);
-        // Rows are asked for in ascending order: all between `from` and the next match need no look at their
-        // text.
-        if (text.data() < m_from || text.data() > m_nextMatch) {
-            const std::size_t next = m_search->next(m_block->rowAt(text.data()), m_block->size());
-            m_from = text.data();
-            m_nextMatch = next < m_block->size() ? m_block->text(next).data() : m_block->textsEnd();
-        }
-        return text.data() == m_nextMatch;
+        // Rows are asked for in ascending order: those between `from` and the next match need no look at
+        // their text.
+        const auto* text = static_cast<const char*>(sqlite3_value_blob(value));
+        if (text >= m_from && text <= m_nextMatch)
+            return text == m_nextMatch;
+        if (!m_block || !m_block->holds(text))
+            return m_pattern.matches(valueBytes(value));
+        m_row = m_block->rowAt(text, text < m_from ? 0 : m_row);
+        m_row = m_search->next(m_row, m_block->size());
+        m_from = text;
+        m_nextMatch = m_row < m_block->size() ? m_block->text(m_row).data() : m_block->textsEnd();
+        return text == m_nextMatch;
     }
 
 private:
     LikePattern m_pattern;
     const VerseBlock* m_block = nullptr;
     std::optional<TextSearch> m_search;
-    const char* m_from = nullptr;
+    const char* m_from = ""; ///< at first beyond the next match, so that nothing is between
     const char* m_nextMatch = nullptr;
+    std::size_t m_row = 0; ///< of the next match
 };
 
-std::string_view textOf(sqlite3_value* value)
-{
-    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
-    return {text ? text : "", static_cast<std::size_t>(sqlite3_value_bytes(value))};
-}
-
-/// like(pattern, text), which is what `text LIKE pattern` calls.
+/// like(pattern, text), which is what `text LIKE pattern` calls. Unknown, that is NULL, when either is NULL.
 void like(sqlite3_context* context, int, sqlite3_value** arguments)
 try {
-    if (sqlite3_value_type(arguments[0]) == SQLITE_NULL || sqlite3_value_type(arguments[1]) == SQLITE_NULL)
+    if (sqlite3_value_type(arguments[1]) == SQLITE_NULL)
         return;
-    auto* test = static_cast<LikeTest*>(sqlite3_get_auxdata(context, 0));
-    std::unique_ptr<LikeTest> fresh;
-    if (!test) {
+    if (auto* test = static_cast<LikeTest*>(sqlite3_get_auxdata(context, 0))) {
+        sqlite3_result_int(context, test->matches(arguments[1]));
+    } else if (sqlite3_value_type(arguments[0]) != SQLITE_NULL) {
         const auto* verses = static_cast<const Verses*>(sqlite3_user_data(context));
-        fresh = std::make_unique<LikeTest>(*verses, textOf(arguments[0]));
-        test = fresh.get();
-    }
-    sqlite3_result_int(context, test->matches(textOf(arguments[1])));
-    if (fresh)
+        auto fresh = std::make_unique<LikeTest>(*verses, valueBytes(arguments[0]));
+        sqlite3_result_int(context, fresh->matches(arguments[1]));
         sqlite3_set_auxdata(context, 0, fresh.release(),
                             [](void* used) { delete static_cast<LikeTest*>(used); });
+    }
 } catch (const DataError& error) {
     sqlite3_result_error(context, error.what(), -1);
     sqlite3_result_error_code(context, error.number());

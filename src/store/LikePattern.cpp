@@ -35,6 +35,7 @@ LikePattern::LikePattern(std::string_view pattern)
             m_steps.push_back({Kind::AnyRun, 0});
     }
     findPieces();
+    m_isPieceAlone = foldCase(pattern) == '*' + m_piece + '*';
 }
 
 void LikePattern::readClass(const char*& at, const char* end)
@@ -42,7 +43,7 @@ void LikePattern::readClass(const char*& at, const char* end)
     const char* close = std::find(at, end, ']');
     if (close == end)
         refusePattern();
-    Class characters{close - at > 1 && *at == '!', {}};
+    Class characters{close - at > 1 && *at == '!', {}, {}};
     at += characters.negated;
     while (at != close) {
         const char32_t first = nextCharacter(at, close);
@@ -56,6 +57,8 @@ void LikePattern::readClass(const char*& at, const char* end)
     at = close + 1;
     if (characters.ranges.empty())
         return;
+    for (std::size_t c = 0; c < characters.ascii.size(); ++c)
+        characters.ascii[c] = characters.holds(static_cast<char32_t>(c));
     m_steps.push_back({Kind::Class, static_cast<char32_t>(m_classes.size())});
     m_classes.push_back(std::move(characters));
 }
@@ -95,7 +98,8 @@ bool LikePattern::accepts(const Step& step, char32_t character) const
     case Kind::Digit:
         return character >= '0' && character <= '9';
     case Kind::Class:
-        return m_classes[step.value].holds(character);
+        return character < 0x80 ? m_classes[step.value].ascii[character]
+                                : m_classes[step.value].holds(character);
     default:
         return true;
     }
@@ -119,15 +123,17 @@ bool LikePattern::matches(std::string_view text) const
             return step == m_steps.end();
         } else {
             const char* next = at;
-            if (step != m_steps.end() && accepts(*step, nextCharacter(next, end))) {
+            const char32_t character = nextCharacter(next, end);
+            if (step != m_steps.end() && accepts(*step, character)) {
                 at = next;
                 ++step;
-            } else if (runEnd) {
-                nextCharacter(runEnd, end);
-                at = runEnd;
-                step = afterRun;
-            } else {
+            } else if (!runEnd) {
                 return false;
+            } else {
+                if (step != afterRun)
+                    nextCharacter(next = runEnd, end);
+                at = runEnd = next;
+                step = afterRun;
             }
         }
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bitset>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,6 +38,9 @@ public:
     /// letters of Latin-1.
     const std::string& piece() const { return m_piece; }
 
+    /// Whether every text that contains that piece matches.
+    bool isPieceAlone() const { return m_isPieceAlone; }
+
 private:
     enum class Kind { AnyRun, AnyCharacter, Digit, Letter, Class };
     struct Step
@@ -53,6 +57,7 @@ private:
     {
         bool negated;
         std::vector<Range> ranges;
+        std::bitset<128> ascii; ///< what holds() says of these, negation included
 
         bool holds(char32_t character) const;
     };
@@ -65,4 +70,5 @@ private:
     std::vector<Class> m_classes;
     std::string m_prefix;
     std::string m_piece;
+    bool m_isPieceAlone = false;
 };

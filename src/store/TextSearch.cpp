@@ -1,5 +1,8 @@
 #include "TextSearch.h"
 
+#include "LetterCase.h"
+#include "Utf8.h"
+#include <cstring>
 #include <utility>
 
 namespace {
@@ -43,20 +46,21 @@ void TextSearch::chooseProbes()
 
 std::size_t TextSearch::next(std::size_t row, std::size_t end) const
 {
-    if (m_pattern.piece().empty()) {
-        while (row < end && !matches(row))
+    const auto length = static_cast<std::ptrdiff_t>(m_pattern.piece().size());
+    if (length == 0) {
+        while (row < end && !m_pattern.matches(m_block.text(row)))
             ++row;
         return row;
     }
-    while (row < end) {
-        const char* const stop = m_block.text(end - 1).data() + m_block.text(end - 1).size();
-        const char* const found = findPiece(m_block.text(row).data(), stop);
+    const char* const stop = end > row ? m_block.text(end - 1).end() : nullptr;
+    for (; row < end; ++row) {
+        const char* const found = findPiece(m_block.text(row).begin(), stop);
         if (!found)
             return end;
-        row = m_block.rowAt(found);
-        if (matches(row))
+        row = m_block.rowAt(found, row);
+        const std::string_view text = m_block.text(row);
+        if (m_pattern.isPieceAlone() ? text.end() - found >= length : m_pattern.matches(text))
             return row;
-        ++row;
     }
     return end;
 }
@@ -68,18 +72,23 @@ const char* TextSearch::findPiece(const char* at, const char* end) const
     for (; end - at >= length + stride; at += stride) {
         const char* const first = at + m_rarest.offset;
         const char* const second = at + m_second.offset;
-        unsigned char hit = 0;
-        for (int i = 0; i < stride; ++i)
-            hit |= (withoutCase(first[i]) == m_rarest.byte) & (withoutCase(second[i]) == m_second.byte);
-        if (!hit)
-            continue;
+        unsigned char hits[stride];
+        unsigned char any = 0;
         for (int i = 0; i < stride; ++i) {
-            if (pieceStandsAt(at + i))
-                return at + i;
+            hits[i] = (withoutCase(first[i]) == m_rarest.byte) & (withoutCase(second[i]) == m_second.byte);
+            any |= hits[i];
+        }
+        if (!any)
+            continue;
+        const unsigned char* hit = hits;
+        while ((hit = static_cast<const unsigned char*>(std::memchr(hit, 1, hits + stride - hit)))) {
+            if (pieceStandsAt(at + (hit - hits)))
+                return at + (hit - hits);
+            ++hit;
         }
     }
     for (; end - at >= length; ++at) {
-        if (pieceStandsAt(at))
+        if (withoutCase(at[m_rarest.offset]) == m_rarest.byte && pieceStandsAt(at))
             return at;
     }
     return nullptr;
@@ -88,10 +97,9 @@ const char* TextSearch::findPiece(const char* at, const char* end) const
 bool TextSearch::pieceStandsAt(const char* at) const
 {
     const std::string& piece = m_pattern.piece();
-    if (withoutCase(at[m_rarest.offset]) != m_rarest.byte)
-        return false;
-    for (std::size_t i = 0; i < piece.size(); ++i) {
-        if (withoutCase(at[i]) != withoutCase(piece[i]))
+    const char* const end = at + piece.size();
+    for (const char* wanted = piece.data(); at != end;) {
+        if (toSmallLetter(nextCharacter(at, end)) != nextCharacter(wanted, piece.data() + piece.size()))
             return false;
     }
     return true;

@@ -13,7 +13,7 @@ public:
     /// Throws DataError 93, "Invalid pattern string".
     TextSearch(const VerseBlock& block, std::string_view pattern);
 
-    bool matches(std::size_t row) const { return m_pattern.matches(m_block.text(row)); }
+    bool matches(std::size_t row) const { return next(row, row + 1) == row; }
 
     /// The first matching row from `row` on and before `end`; `end` if there is none.
     std::size_t next(std::size_t row, std::size_t end) const;

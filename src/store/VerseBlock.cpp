@@ -2,19 +2,12 @@
 
 #include "Engine.h"
 #include <algorithm>
-#include <functional>
 
 namespace {
 
 /// More than any sound file can hold; less than offsets of 32 bits can count.
 constexpr std::size_t mostBytes = 64 << 20;
 constexpr std::size_t sampleEvery = 16;
-
-const char* columnText(sqlite3_stmt* statement, int column)
-{
-    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-    return text ? text : "";
-}
 
 } // namespace
 
@@ -49,10 +42,10 @@ bool VerseBlock::read(sqlite3* connection, const char* order)
                 return false;
             continue;
         }
-        const char* text = columnText(rows.get(), 2);
+        const std::string_view text = columnBytes(rows.get(), 2);
         m_numbers.push_back(number);
-        m_keys.append(columnText(rows.get(), 0)).push_back('\0');
-        m_texts.append(*text == ' ' ? "" : " ").append(text).push_back('\0');
+        m_keys += columnBytes(rows.get(), 0);
+        m_texts.append(text.starts_with(' ') ? "" : " ").append(text);
         if (m_keys.size() > mostBytes || m_texts.size() > mostBytes)
             throw DataError(SQLITE_TOOBIG, sqlite3_errstr(SQLITE_TOOBIG));
         m_keyStarts.push_back(static_cast<std::uint32_t>(m_keys.size()));
@@ -81,14 +74,17 @@ std::size_t VerseBlock::rowAbove(std::int64_t number) const
     return std::upper_bound(m_numbers.begin(), m_numbers.end(), number) - m_numbers.begin();
 }
 
-bool VerseBlock::holds(const char* address) const
+std::size_t VerseBlock::rowAt(const char* address, std::size_t from) const
 {
-    const std::less<const char*> before;
-    return !before(address, m_texts.data()) && before(address, m_texts.data() + m_texts.size());
-}
-
-std::size_t VerseBlock::rowAt(const char* address) const
-{
+    // It is mostly close by: ever longer steps, then halving the last one, stay in the cache.
     const auto offset = static_cast<std::uint32_t>(address - m_texts.data());
-    return std::upper_bound(m_textStarts.begin(), m_textStarts.end(), offset) - m_textStarts.begin() - 1;
+    std::size_t step = 1;
+    while (from + step < m_textStarts.size() && m_textStarts[from + step] <= offset) {
+        from += step;
+        step *= 2;
+    }
+    const auto first = m_textStarts.begin() + static_cast<std::ptrdiff_t>(from);
+    const auto last =
+        m_textStarts.begin() + static_cast<std::ptrdiff_t>(std::min(from + step, m_textStarts.size()));
+    return static_cast<std::size_t>(std::upper_bound(first, last, offset) - m_textStarts.begin() - 1);
 }

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,9 +12,8 @@ struct sqlite3;
 
 /// The rows of `NewTestament`, read once and never changed: ascending by number, no number twice.
 ///
-/// Texts lie one after another, each begun by a blank and ended by NUL, so that they can be handed out
-/// without a copy and searched in one sweep. A row whose number is no whole number is left out; a text ends
-/// at its first NUL.
+/// Texts lie one after another, each begun by a blank, so that they can be handed out without a copy and
+/// searched in one sweep. A row whose number is no whole number is left out.
 class VerseBlock
 {
 public:
@@ -30,9 +30,14 @@ public:
     std::size_t rowAbove(std::int64_t number) const;
 
     const char* textsEnd() const { return m_texts.data() + m_texts.size(); }
-    /// Whether this address is in the texts; and the row whose text it belongs to.
-    bool holds(const char* address) const;
-    std::size_t rowAt(const char* address) const;
+    /// Whether this address is in the texts; and the row whose text it belongs to, sought from an earlier row
+    /// on.
+    bool holds(const char* address) const
+    {
+        const std::less<const char*> before;
+        return !before(address, m_texts.data()) && before(address, textsEnd());
+    }
+    std::size_t rowAt(const char* address, std::size_t from) const;
 
     /// How common each byte is in a sample of the texts, bit 0x20 set throughout.
     const std::array<std::uint32_t, 256>& byteCounts() const { return m_byteCounts; }
@@ -42,7 +47,7 @@ private:
 
     static std::string_view part(const std::string& all, const Starts& starts, std::size_t row)
     {
-        return {all.data() + starts[row], starts[row + 1] - starts[row] - 1};
+        return {all.data() + starts[row], starts[row + 1] - starts[row]};
     }
     bool read(sqlite3* connection, const char* order);
     void countBytes();
@@ -50,7 +55,7 @@ private:
     std::vector<std::int64_t> m_numbers;
     std::string m_keys;
     std::string m_texts;
-    Starts m_keyStarts; ///< one more than rows: each part ends, with its NUL, where the next one starts
+    Starts m_keyStarts; ///< one more than rows: each key ends where the next one starts
     Starts m_textStarts;
     std::array<std::uint32_t, 256> m_byteCounts{};
 };

@@ -11,9 +11,9 @@ constexpr std::size_t wordBits = 64;
 } // namespace
 
 VerseCursor::VerseCursor(const Verses& verses)
-    : m_block(*verses.block)
-    , m_keys(*verses.keys)
-    , m_end(m_block.size())
+    : m_block(&*verses.block)
+    , m_keys(&*verses.keys)
+    , m_end(m_block->size())
 {
 }
 
@@ -32,7 +32,7 @@ void VerseCursor::keepKeysLike(std::string_view pattern)
 
 void VerseCursor::keepTextsLike(std::string_view pattern)
 {
-    m_textSearches.emplace_back(m_block, pattern);
+    m_textSearches.emplace_back(*m_block, pattern);
 }
 
 void VerseCursor::narrowToPrefix(std::string_view folded)
@@ -40,8 +40,8 @@ void VerseCursor::narrowToPrefix(std::string_view folded)
     if (!m_candidates.empty())
         return;
     // The index gives rows by key; marking them brings them back into the order of their numbers.
-    m_candidates.resize(m_block.size() / wordBits + 1);
-    for (const std::uint32_t row : m_keys.rowsWithPrefix(folded))
+    m_candidates.resize(m_block->size() / wordBits + 1);
+    for (const std::uint32_t row : m_keys->rowsWithPrefix(folded))
         m_candidates[row / wordBits] |= std::uint64_t{1} << row % wordBits;
 }
 
@@ -57,19 +57,31 @@ std::size_t VerseCursor::nextCandidate(std::size_t row) const
 void VerseCursor::seek()
 {
     for (; m_row < m_end; ++m_row) {
-        if (!m_candidates.empty())
-            m_row = nextCandidate(m_row);
-        else if (!m_textSearches.empty())
-            m_row = m_textSearches.front().next(m_row, m_end);
+        m_row = m_candidates.empty() ? nextTextMatch(m_row) : nextCandidate(m_row);
         if (m_row < m_end && fits(m_row))
             return;
     }
 }
 
+std::size_t VerseCursor::nextTextMatch(std::size_t row) const
+{
+    // Every search leaps to its own next row, until all stand on the same.
+    for (std::size_t agreed = 0; row < m_end && agreed < m_textSearches.size();) {
+        agreed = 0;
+        for (const TextSearch& search : m_textSearches) {
+            const std::size_t found = search.next(row, m_end);
+            agreed += found == row;
+            row = found;
+        }
+    }
+    return row;
+}
+
 bool VerseCursor::fits(std::size_t row) const
 {
     return std::all_of(m_keyPatterns.begin(), m_keyPatterns.end(),
-                       [&](const LikePattern& pattern) { return pattern.matches(m_block.key(row)); }) &&
-           std::all_of(m_textSearches.begin(), m_textSearches.end(),
-                       [row](const TextSearch& search) { return search.matches(row); });
+                       [&](const LikePattern& pattern) { return pattern.matches(m_block->key(row)); }) &&
+           (m_candidates.empty() ||
+            std::all_of(m_textSearches.begin(), m_textSearches.end(),
+                        [row](const TextSearch& search) { return search.matches(row); }));
 }

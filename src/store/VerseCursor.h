@@ -28,10 +28,11 @@ private:
     void seek();
     bool fits(std::size_t row) const;
     std::size_t nextCandidate(std::size_t row) const;
+    std::size_t nextTextMatch(std::size_t row) const;
     void narrowToPrefix(std::string_view folded);
 
-    const VerseBlock& m_block;
-    const KeyIndex& m_keys;
+    const VerseBlock* m_block;
+    const KeyIndex* m_keys;
     std::size_t m_row = 0;
     std::size_t m_end;
     std::vector<std::uint64_t> m_candidates; ///< one bit a row; empty when the index was not asked

@@ -27,9 +27,15 @@ struct Table : sqlite3_vtab
 
 struct Cursor : sqlite3_vtab_cursor
 {
-    std::optional<VerseCursor> rows;
+    const Verses& verses;
+    VerseCursor rows;
 
-    const Verses& verses() const { return *static_cast<Table*>(pVtab)->verses; }
+    explicit Cursor(const Verses& all)
+        : sqlite3_vtab_cursor{}
+        , verses(all)
+        , rows(all)
+    {
+    }
 };
 
 Cursor* asCursor(sqlite3_vtab_cursor* cursor)
@@ -123,9 +129,10 @@ try {
 
 int openCursor(sqlite3_vtab* table, sqlite3_vtab_cursor** cursor)
 {
-    if (const auto& damage = static_cast<Table*>(table)->verses->damage)
-        return fail(table, *damage);
-    *cursor = new (std::nothrow) Cursor{};
+    const Verses& verses = *static_cast<Table*>(table)->verses;
+    if (verses.damage)
+        return fail(table, *verses.damage);
+    *cursor = new (std::nothrow) Cursor(verses);
     return *cursor ? SQLITE_OK : SQLITE_NOMEM;
 }
 
@@ -157,10 +164,7 @@ void narrow(VerseCursor& rows, const VerseBlock& block, char use, sqlite3_value*
         return narrowByNumber(rows, block, use, sqlite3_value_int64(value));
     if (byNumber || (use == KeyEqual && type != SQLITE_TEXT))
         return;
-    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
-    if (!text)
-        throw std::bad_alloc();
-    const std::string_view operand(text, static_cast<std::size_t>(sqlite3_value_bytes(value)));
+    const std::string_view operand = valueBytes(value);
     if (use == KeyEqual)
         rows.keepKey(operand);
     else if (use == KeyLike)
@@ -171,8 +175,9 @@ void narrow(VerseCursor& rows, const VerseBlock& block, char use, sqlite3_value*
 
 int startRows(sqlite3_vtab_cursor* cursor, int, const char* plan, int count, sqlite3_value** values)
 try {
-    const Verses& verses = asCursor(cursor)->verses();
-    VerseCursor& rows = asCursor(cursor)->rows.emplace(verses);
+    const Verses& verses = asCursor(cursor)->verses;
+    VerseCursor& rows = asCursor(cursor)->rows;
+    rows = VerseCursor(verses);
     for (int i = 0; i < count; ++i)
         narrow(rows, *verses.block, plan[i], values[i]);
     rows.start();
@@ -185,31 +190,31 @@ try {
 
 int nextRow(sqlite3_vtab_cursor* cursor)
 {
-    asCursor(cursor)->rows->next();
+    asCursor(cursor)->rows.next();
     return SQLITE_OK;
 }
 
 int atEnd(sqlite3_vtab_cursor* cursor)
 {
-    return asCursor(cursor)->rows->atEnd();
+    return asCursor(cursor)->rows.atEnd();
 }
 
 int readColumn(sqlite3_vtab_cursor* cursor, sqlite3_context* context, int column)
 {
-    const VerseBlock& block = *asCursor(cursor)->verses().block;
-    const std::size_t row = asCursor(cursor)->rows->row();
-    // Both texts end with NUL; without a given length the engine takes them as they lie, uncopied.
-    if (column == VerseNumber)
+    const VerseBlock& block = *asCursor(cursor)->verses.block;
+    const std::size_t row = asCursor(cursor)->rows.row();
+    if (column == VerseNumber) {
         sqlite3_result_int64(context, block.number(row));
-    else
-        sqlite3_result_text(context, (column == VerseId ? block.key(row) : block.text(row)).data(), -1,
-                            SQLITE_STATIC);
+    } else {
+        const std::string_view text = column == VerseId ? block.key(row) : block.text(row);
+        sqlite3_result_text(context, text.data(), static_cast<int>(text.size()), SQLITE_STATIC);
+    }
     return SQLITE_OK;
 }
 
 int readRowid(sqlite3_vtab_cursor* cursor, sqlite3_int64* rowid)
 {
-    *rowid = static_cast<sqlite3_int64>(asCursor(cursor)->rows->row());
+    *rowid = static_cast<sqlite3_int64>(asCursor(cursor)->rows.row());
     return SQLITE_OK;
 }
 

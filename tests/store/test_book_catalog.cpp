@@ -1,0 +1,87 @@
+#include "store/BookCatalog.h"
+#include <algorithm>
+#include <gmock/gmock.h>
+#include <map>
+#include <set>
+
+namespace {
+
+using testing::Pair;
+using testing::UnorderedElementsAre;
+
+std::vector<Book> booksOf(std::string_view group)
+{
+    std::vector<Book> result;
+    std::ranges::copy_if(bookCatalog(), std::back_inserter(result),
+                         [&](const Book& b) { return b.group == group; });
+    return result;
+}
+
+TEST(BookCatalog, holds66BooksOldTestamentFirst)
+{
+    ASSERT_EQ(bookCatalog().size(), 66U);
+    for (std::size_t i = 0; i < 66; ++i) {
+        EXPECT_EQ(bookCatalog()[i].place, static_cast<int>(i) + 1);
+        EXPECT_EQ(bookCatalog()[i].testament, i < 39 ? "Old Testament" : "New Testament");
+    }
+}
+
+TEST(BookCatalog, countsItsGroups)
+{
+    std::map<std::string_view, int> counts;
+    for (const Book& book : bookCatalog())
+        ++counts[book.group];
+    EXPECT_THAT(counts, UnorderedElementsAre(Pair("Pentateuch", 5), Pair("Historical Books", 12),
+                                             Pair("Poetical Books", 5), Pair("Prophetic Books", 17),
+                                             Pair("The Four Gospels", 4), Pair("Epistles of St. Paul", 14),
+                                             Pair("Catholic Epistles", 7), Pair("", 2)));
+}
+
+TEST(BookCatalog, actsAndRevelationBelongToNoGroup)
+{
+    ASSERT_EQ(booksOf("").size(), 2U);
+    EXPECT_EQ(booksOf("")[0].abbreviation, "Acts");
+    EXPECT_EQ(booksOf("")[1].abbreviation, "Rv");
+}
+
+TEST(BookCatalog, treeTextHoldsTheDashesOnceBeforeTheAbbreviation)
+{
+    for (const Book& book : bookCatalog()) {
+        const std::string text = book.treeText();
+        const auto dashes = text.find("-- ");
+        ASSERT_NE(dashes, std::string::npos) << text;
+        EXPECT_EQ(text.find("-- ", dashes + 1), std::string::npos) << text;
+        EXPECT_EQ(text.substr(dashes + 3), book.abbreviation);
+        EXPECT_EQ(text.substr(0, dashes), std::string(book.name) + " ");
+    }
+}
+
+TEST(BookCatalog, groupsKeepTheirOrder)
+{
+    EXPECT_EQ(booksOf("Catholic Epistles").at(0).treeText(), "Tiago -- Jms");
+    EXPECT_EQ(booksOf("Epistles of St. Paul").at(3).treeText(), "Gálatas -- Gal");
+    EXPECT_EQ(booksOf("Pentateuch").at(0).treeText(), "Gênesis -- Gn");
+}
+
+TEST(BookCatalog, onlyEzIsThePrefixOfAnother)
+{
+    std::vector<std::pair<std::string_view, std::string_view>> pairs;
+    for (const Book& a : bookCatalog()) {
+        for (const Book& b : bookCatalog()) {
+            if (a.place != b.place && b.abbreviation.starts_with(a.abbreviation))
+                pairs.emplace_back(a.abbreviation, b.abbreviation);
+        }
+    }
+    EXPECT_THAT(pairs, testing::ElementsAre(Pair("Ez", "Ezr")));
+}
+
+TEST(BookCatalog, prefixAddressesOneBook)
+{
+    std::set<std::string> prefixes;
+    for (const Book& book : bookCatalog())
+        prefixes.insert(book.prefix());
+    EXPECT_EQ(prefixes.size(), 66U);
+    EXPECT_EQ(bookCatalog()[0].prefix(), "Gn:");
+}
+
+} // namespace
