@@ -1,0 +1,91 @@
+#pragma once
+
+#include "store/DataError.h"
+#include "store/DataSource.h"
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <memory>
+#include <sqlite3.h>
+#include <string>
+#include <vector>
+
+/// A temporary folder for one test, removed with all that is in it.
+class TestFolder
+{
+public:
+    TestFolder()
+    {
+        std::string name = (std::filesystem::temp_directory_path() / "kestrel-store-XXXXXX").string();
+        if (!mkdtemp(name.data()))
+            throw std::runtime_error("no temporary folder");
+        m_path = name;
+    }
+    ~TestFolder() { std::filesystem::remove_all(m_path); }
+    TestFolder(const TestFolder&) = delete;
+    TestFolder& operator=(const TestFolder&) = delete;
+
+    std::string file(const std::string& name = "KESTRPT.DAT") const { return (m_path / name).string(); }
+    const std::filesystem::path& path() const { return m_path; }
+
+private:
+    std::filesystem::path m_path;
+};
+
+/// Writes a database by plain SQL, without any of the code under test.
+inline void makeDatabase(const std::string& path, const std::string& sql)
+{
+    sqlite3* connection = nullptr;
+    char* message = nullptr;
+    ASSERT_EQ(sqlite3_open(path.c_str(), &connection), SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(connection, sql.c_str(), nullptr, nullptr, &message), SQLITE_OK) << message;
+    sqlite3_free(message);
+    sqlite3_close(connection);
+}
+
+inline const std::string verseTable = "PRAGMA page_size = 2048; CREATE TABLE NewTestament (VerseId TEXT, "
+                                      "VerseNumber INTEGER, KJVerseText TEXT);";
+
+/// Six verses, stored in disorder, one of them without its leading blank.
+inline const std::string smallBible =
+    verseTable +
+    "CREATE INDEX ByKey ON NewTestament (VerseId);"
+    "INSERT INTO NewTestament VALUES ('Gn:1:2', 5, ' E a terra estava vazia.'),"
+    "('Mt:1:1', 1, ' Livro da geração de Jesus Cristo.'), ('Gn:1:1', 4, 'No princípio criou Deus.'),"
+    "('Mt:10:1', 3, ' Água e luz.'), ('Mt:2:1', 2, ' E sendo Jesus nascido.'),"
+    "('Gn:1:3', 6, ' Haja luz; e houve luz.');"
+    "CREATE TABLE ClassifiedVerses (Id INTEGER, Name TEXT, VerseList TEXT, Type TEXT);"
+    "INSERT INTO ClassifiedVerses VALUES (1, 'Água', 'Mt:10:1\\Gn:1:2-3', 'Events');"
+    "CREATE TABLE NTMaps (MapNumber INTEGER, MapDesc TEXT, Pic BLOB);"
+    "INSERT INTO NTMaps VALUES (1, 'Nowhere', x'00FF0041'), (2, NULL, NULL);";
+
+inline DataSource& openIn(DataSource& source, const std::string& path, const std::string& sql)
+{
+    source.setDatabaseName(path);
+    source.setRecordSource(sql);
+    source.refresh();
+    return source;
+}
+
+/// Column 0 of all rows.
+inline std::vector<std::string> keys(const std::string& path, const std::string& conditions)
+{
+    DataSource source;
+    std::vector<std::string> result;
+    for (openIn(source, path, "SELECT * FROM NewTestament" + conditions); !source.eof(); source.moveNext())
+        result.emplace_back(source.field(0));
+    return result;
+}
+
+/// The error that a query meets, at its first row or any later; number 0 if none.
+inline DataError errorOf(const std::string& path, const std::string& sql)
+{
+    try {
+        DataSource source;
+        for (openIn(source, path, sql); !source.eof(); source.moveNext()) {
+        }
+    } catch (const DataError& error) {
+        return error;
+    }
+    return DataError(0, "");
+}

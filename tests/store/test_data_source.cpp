@@ -1,0 +1,266 @@
+// What a window can do with its data source, where the file may lie, and what nobody can do to it.
+#include "store/Database.h"
+#include "TestDatabase.h"
+#include <chrono>
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+namespace {
+
+using testing::ElementsAre;
+
+class SmallSource : public testing::Test
+{
+protected:
+    SmallSource() { makeDatabase(m_folder.file(), smallBible); }
+
+    DataSource& run(const std::string& sql) { return openIn(m_source, m_folder.file(), sql); }
+    DataError errorOf(const std::string& sql) const { return ::errorOf(m_folder.file(), sql); }
+
+    TestFolder m_folder;
+    DataSource m_source;
+};
+
+TEST_F(SmallSource, isAtItsEndBeforeTheFirstRefresh)
+{
+    const DataSource source;
+    EXPECT_TRUE(source.eof());
+    EXPECT_EQ(source.recordCount(), 0);
+    EXPECT_EQ(source.field(0), "");
+    EXPECT_EQ(source.field("VerseId"), "");
+}
+
+TEST_F(SmallSource, walksItsRowsToTheEnd)
+{
+    run("SELECT * FROM NewTestament WHERE VerseNumber >= 5");
+    EXPECT_EQ(m_source.field(0), "Gn:1:2");
+    EXPECT_EQ(m_source.recordCount(), 1);
+    m_source.moveNext();
+    EXPECT_EQ(m_source.field(0), "Gn:1:3");
+    EXPECT_FALSE(m_source.eof());
+    m_source.moveNext();
+    EXPECT_TRUE(m_source.eof());
+    EXPECT_EQ(m_source.recordCount(), 2);
+    m_source.moveNext();
+    EXPECT_EQ(m_source.recordCount(), 2);
+    EXPECT_EQ(m_source.field(0), "");
+}
+
+TEST_F(SmallSource, readsColumnsByPositionAndByName)
+{
+    run("SELECT * FROM NewTestament WHERE VerseNumber = 3");
+    EXPECT_EQ(m_source.field(0), "Mt:10:1");
+    EXPECT_EQ(m_source.field(1), "3");
+    EXPECT_EQ(m_source.field(2), " Água e luz.");
+    EXPECT_EQ(m_source.field("VerseId"), "Mt:10:1");
+    EXPECT_EQ(m_source.field("versenumber"), "3");
+    EXPECT_EQ(m_source.field("KJVerseText"), " Água e luz.");
+    EXPECT_EQ(m_source.field("Verse"), "");
+    EXPECT_EQ(m_source.field(3), "");
+    EXPECT_EQ(m_source.field(-1), "");
+}
+
+TEST_F(SmallSource, readsTheOtherTablesAsTheyAre)
+{
+    run("SELECT * FROM ClassifiedVerses WHERE Type = 'Events'");
+    EXPECT_EQ(m_source.field(1), "Água");
+    EXPECT_EQ(m_source.field(2), "Mt:10:1\\Gn:1:2-3");
+    run("SELECT * FROM NTMaps WHERE MapNumber = 1");
+    EXPECT_EQ(m_source.field("Pic"), std::string_view("\0\xFF\0A", 4));
+    run("SELECT * FROM NTMaps WHERE MapNumber = 2");
+    EXPECT_EQ(m_source.recordCount(), 1);
+    EXPECT_EQ(m_source.field("Pic"), "");
+    EXPECT_EQ(m_source.field("MapDesc"), "");
+    run("SELECT * FROM ClassifiedVerses WHERE Name LIKE 'á?U*'");
+    EXPECT_EQ(m_source.recordCount(), 1);
+}
+
+TEST_F(SmallSource, tellsWhenTheCurrentRowIsAnotherOne)
+{
+    std::vector<std::string> shown;
+    m_source.currentRowChanged = [&] { shown.emplace_back(m_source.field(0)); };
+    run("SELECT * FROM NewTestament WHERE VerseNumber > 5");
+    m_source.moveNext();
+    m_source.moveNext();
+    run("SELECT * FROM NewTestament WHERE VerseNumber = 99");
+    EXPECT_THAT(shown, ElementsAre("Gn:1:3", "", ""));
+}
+
+TEST_F(SmallSource, mayBeRefreshedByWhoeverIsToldOfTheRow)
+{
+    m_source.currentRowChanged = [&] {
+        if (m_source.eof()) {
+            m_source.setRecordSource("SELECT * FROM NewTestament WHERE VerseNumber = 1");
+            m_source.refresh();
+        }
+    };
+    run("SELECT * FROM NewTestament WHERE VerseNumber = 99");
+    EXPECT_EQ(m_source.field(0), "Mt:1:1");
+}
+
+TEST_F(SmallSource, staysUsableAfterAQueryThatFails)
+{
+    run("SELECT * FROM NewTestament");
+    for (const char* sql : {"SELECT * FROM", "", " ", "nonsense", "SELECT * FROM NoSuchTable"}) {
+        m_source.setRecordSource(sql);
+        EXPECT_THROW(m_source.refresh(), DataError) << sql;
+        EXPECT_TRUE(m_source.eof());
+        EXPECT_EQ(m_source.recordCount(), 0);
+        EXPECT_EQ(m_source.field(0), "");
+    }
+    run("SELECT * FROM NewTestament WHERE VerseNumber = 2");
+    EXPECT_EQ(m_source.field(0), "Mt:2:1");
+}
+
+TEST_F(SmallSource, newRecordSourceTakesEffectOnlyWithTheRefresh)
+{
+    run("SELECT * FROM NewTestament WHERE VerseNumber = 2");
+    m_source.setRecordSource("SELECT * FROM NewTestament WHERE VerseNumber = 1");
+    EXPECT_EQ(m_source.field(0), "Mt:2:1");
+    m_source.refresh();
+    EXPECT_EQ(m_source.field(0), "Mt:1:1");
+}
+
+TEST_F(SmallSource, forgetsItsResultWithAnotherDatabaseName)
+{
+    run("SELECT * FROM NewTestament");
+    m_source.setDatabaseName(m_folder.file());
+    EXPECT_FALSE(m_source.eof());
+    m_source.setDatabaseName(m_folder.file("other"));
+    EXPECT_TRUE(m_source.eof());
+    EXPECT_THROW(m_source.refresh(), DataError);
+}
+
+TEST_F(SmallSource, twoOfThemShareOneBlock)
+{
+    DataSource other;
+    openIn(other, m_folder.file(), "SELECT * FROM NewTestament WHERE VerseNumber = 1");
+    run("SELECT * FROM NewTestament WHERE VerseNumber = 1");
+    EXPECT_EQ(static_cast<const void*>(other.field(2).data()),
+              static_cast<const void*>(m_source.field(2).data()));
+    const auto kept = Database::open(m_folder.file());
+    EXPECT_EQ(kept, Database::open(m_folder.file()));
+}
+
+TEST_F(SmallSource, walksEachItsOwnRows)
+{
+    DataSource other;
+    openIn(other, m_folder.file(), "SELECT * FROM NewTestament");
+    run("SELECT * FROM NewTestament WHERE KJVerseText LIKE '*luz*'");
+    other.moveNext();
+    m_source.moveNext();
+    EXPECT_EQ(other.field(0), "Mt:2:1");
+    EXPECT_EQ(m_source.field(0), "Gn:1:3");
+}
+
+TEST_F(SmallSource, goesOnAfterTheFileIsRemovedOrReplaced)
+{
+    run("SELECT * FROM NewTestament");
+    std::filesystem::remove(m_folder.file());
+    m_source.moveNext();
+    EXPECT_EQ(m_source.field(0), "Mt:2:1");
+    EXPECT_EQ(run("SELECT * FROM ClassifiedVerses").recordCount(), 1);
+    std::ofstream(m_folder.file("new")) << "not a database";
+    std::filesystem::rename(m_folder.file("new"), m_folder.file());
+    EXPECT_EQ(run("SELECT * FROM NewTestament WHERE VerseNumber = 6").field(0), "Gn:1:3");
+}
+
+TEST_F(SmallSource, readsTheFileAnewOnceNobodyHoldsIt)
+{
+    EXPECT_EQ(keys(m_folder.file(), "").size(), 6U);
+    makeDatabase(m_folder.file(), "DELETE FROM NewTestament WHERE VerseNumber > 2");
+    EXPECT_THAT(keys(m_folder.file(), ""), ElementsAre("Mt:1:1", "Mt:2:1"));
+}
+
+TEST_F(SmallSource, leavesNoFileBeside)
+{
+    run("SELECT * FROM NewTestament WHERE KJVerseText LIKE '*a*' OR VerseId LIKE '*1*' ORDER BY KJVerseText");
+    const auto files = std::distance(std::filesystem::directory_iterator(m_folder.path()), {});
+    EXPECT_EQ(files, 1);
+}
+
+TEST_F(SmallSource, onlyReads)
+{
+    const auto before = std::filesystem::last_write_time(m_folder.file());
+    for (const char* sql :
+         {"DELETE FROM NewTestament", "DELETE FROM main.NewTestament",
+          "UPDATE ClassifiedVerses SET Name = ''", "INSERT INTO NTMaps VALUES (3, '', NULL)",
+          "CREATE TABLE x (y)", "CREATE TEMP TABLE x (y)", "DROP TABLE NTMaps", "DROP VIEW temp.NewTestament",
+          "ATTACH ':memory:' AS other", "DETACH temp", "PRAGMA writable_schema = ON",
+          "PRAGMA query_only = OFF", "PRAGMA journal_mode = WAL", "VACUUM", "VACUUM INTO 'copy'", "REINDEX",
+          "BEGIN", "SAVEPOINT s", "SELECT load_extension('x')"}) {
+        const DataError error = errorOf(sql);
+        EXPECT_NE(error.number(), SQLITE_OK) << sql;
+        EXPECT_NE(error.description(), "") << sql;
+    }
+    EXPECT_EQ(errorOf("ATTACH ':memory:' AS other").description(), "not authorized");
+    EXPECT_EQ(errorOf("PRAGMA page_size").number(), SQLITE_AUTH);
+    EXPECT_EQ(std::filesystem::last_write_time(m_folder.file()), before);
+    EXPECT_EQ(keys(m_folder.file(), "").size(), 6U);
+}
+
+TEST_F(SmallSource, refusesAnSqlTextOfUnreasonableLength)
+{
+    const DataError error =
+        errorOf("SELECT * FROM NewTestament WHERE KJVerseText LIKE '*" + std::string(200'000, 'a') + "*'");
+    EXPECT_EQ(error.number(), SQLITE_TOOBIG);
+}
+
+class OddPath : public testing::TestWithParam<std::string>
+{
+};
+
+TEST_P(OddPath, isTakenLiterally)
+{
+    const TestFolder folder;
+    const std::string path = folder.file(GetParam());
+    std::filesystem::create_directories(std::filesystem::path(path).parent_path());
+    makeDatabase(path, smallBible);
+    EXPECT_EQ(keys(path, "").size(), 6U);
+}
+
+INSTANTIATE_TEST_SUITE_P(names, OddPath,
+                         testing::Values("with blank", "què?mode=rwc", "#1", "100%", "%41", "é ü ñ", "a&b=c",
+                                         "\xFF", "'", "a+b", "quot\"e", "back\\slash", "new\nline",
+                                         "dir/é?/#/KESTRPT.DAT", std::string(200, 'x')));
+
+TEST(Paths, mayBeRelativeDoubledOrThroughALink)
+{
+    const TestFolder folder;
+    makeDatabase(folder.file(), smallBible);
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.path());
+    EXPECT_EQ(keys("KESTRPT.DAT", "").size(), 6U);
+    std::filesystem::current_path(before);
+    EXPECT_EQ(keys("/" + folder.file(), "").size(), 6U);
+    std::filesystem::create_symlink(folder.file(), folder.file("link"));
+    EXPECT_EQ(keys(folder.file("link"), "").size(), 6U);
+}
+
+TEST(Paths, aReadOnlyFileInAReadOnlyFolderWillDo)
+{
+    const TestFolder folder;
+    makeDatabase(folder.file(), smallBible + "PRAGMA journal_mode = WAL;");
+    chmod(folder.file().c_str(), 0444);
+    chmod(folder.path().c_str(), 0555);
+    EXPECT_EQ(keys(folder.file(), "").size(), 6U);
+    chmod(folder.path().c_str(), 0755);
+    EXPECT_FALSE(std::filesystem::exists(folder.file("KESTRPT.DAT-shm")));
+}
+
+TEST(Paths, whatIsNoFileCannotBeOpenedAndIsNotCreated)
+{
+    const TestFolder folder;
+    ASSERT_EQ(mkfifo(folder.file("pipe").c_str(), 0600), 0);
+    std::filesystem::create_symlink(folder.file("nowhere"), folder.file("dangling"));
+    for (const std::string& path :
+         {folder.file("missing"), folder.file("pipe"), folder.file("dangling"), folder.path().string(),
+          std::string(), folder.file("missing/KESTRPT.DAT")}) {
+        const DataError error = errorOf(path, "SELECT * FROM NewTestament");
+        EXPECT_EQ(error.number(), SQLITE_CANTOPEN) << path;
+        EXPECT_EQ(error.description(), "unable to open database file") << path;
+    }
+    EXPECT_FALSE(std::filesystem::exists(folder.file("missing")));
+}
+
+} // namespace
