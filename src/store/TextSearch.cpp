@@ -75,7 +75,9 @@ const char* TextSearch::findPiece(const char* at, const char* end) const
         unsigned char hits[stride];
         unsigned char any = 0;
         for (int i = 0; i < stride; ++i) {
-            hits[i] = (withoutCase(first[i]) == m_rarest.byte) & (withoutCase(second[i]) == m_second.byte);
+            const int difference =
+                (withoutCase(first[i]) ^ m_rarest.byte) | (withoutCase(second[i]) ^ m_second.byte);
+            hits[i] = difference == 0;
             any |= hits[i];
         }
         if (!any)
