@@ -75,7 +75,7 @@ void search(benchmark::State& state, const std::string& condition)
 {
     DataSource source;
     source.setDatabaseName(databasePath());
-    int rows = 0;
+    int rows = readAll(source, condition); // opens the database
     for (auto _ : state)
         rows = readAll(source, condition);
     state.counters["rows"] = rows;
@@ -86,6 +86,7 @@ void psalm119(benchmark::State& state)
 {
     DataSource source;
     source.setDatabaseName(databasePath());
+    show(source, " WHERE VerseNumber = 1"); // opens the database
     for (auto _ : state) {
         for (int verse = 1; verse <= 177; ++verse)
             show(source, " WHERE VerseId LIKE 'Ps:119:" + std::to_string(verse) + "*'");

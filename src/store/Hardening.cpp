@@ -8,7 +8,7 @@ constexpr int longestValue = 8 << 20;          // longer than the whole file
 constexpr int longestSql = 100'000;            // far more than any window builds
 constexpr sqlite3_int64 mostMemory = 64 << 20; // of the engine, in the whole process
 constexpr int stepsAtOnce = 1'000'000;
-constexpr int mostStepsAtOnce = 200; // the busiest search takes less than one
+constexpr int mostStepsAtOnce = 30; // the busiest search takes less than one
 
 int countSteps(void* steps)
 {
