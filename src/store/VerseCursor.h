@@ -20,11 +20,17 @@ public:
 
     /// Stands on the first row, once all conditions are given.
     void start() { seek(); }
-    void next() { ++m_row, seek(); }
+    void next()
+    {
+        ++m_row;
+        if (!takesAll())
+            seek();
+    }
     bool atEnd() const { return m_row >= m_end; }
     std::size_t row() const { return m_row; }
 
 private:
+    bool takesAll() const { return m_candidates.empty() && m_keyPatterns.empty() && m_textSearches.empty(); }
     void seek();
     bool fits(std::size_t row) const;
     std::size_t nextCandidate(std::size_t row) const;
