@@ -22,7 +22,11 @@ QMessageBox::Icon iconOf(MsgIcon icon)
 
 MsgAnswer showBox(const MsgBox::Message& message)
 {
-    QMessageBox box(QApplication::activeWindow());
+    QWidget* const owner = QApplication::activeWindow();
+    QMessageBox box(owner);
+    // Modal for the windows of its owner, so that the help can be read beside it. Nothing outlives a stop.
+    if (owner && message.icon != MsgIcon::Stop)
+        box.setWindowModality(Qt::WindowModal);
     box.setWindowTitle(message.title);
     box.setTextFormat(Qt::PlainText);
     box.setText(QString(message.text).replace("\r\n", "\n"));
