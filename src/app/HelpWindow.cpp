@@ -76,7 +76,7 @@ HelpWindow::HelpWindow(const QList<HelpPage>& pages)
     connect(findPrevious, &QAction::triggered, this, [this] { search(true); });
     connect(searchText, &QLineEdit::returnPressed, this, [this] { search(false); });
     connect(contents, &QListWidget::currentRowChanged, this, &HelpWindow::contentsChosen);
-    connect(browser, &QTextBrowser::sourceChanged, this, &HelpWindow::pageChanged);
+    connect(browser, &QTextBrowser::historyChanged, this, &HelpWindow::pageChanged);
     for (QAction* unavailable : {back, forward, copy})
         unavailable->setEnabled(false);
     browser->setFocus();

@@ -277,10 +277,12 @@ TEST_F(HelpSession, OpensAtThePageOfBothLetters)
                 QWidget* letter = QApplication::activeModalWidget();
                 QApplication::setActiveWindow(letter);
                 pages << pageOnF1();
+                QApplication::setActiveWindow(letter);
                 QTest::keyClick(letter->focusWidget(), Qt::Key_Escape);
             });
             click(*button);
         }
+        QApplication::setActiveWindow(program->startWindow());
         QTest::keyClick(program->startWindow(), Qt::Key_Escape);
     });
     click(*frame().cmdAbout);
