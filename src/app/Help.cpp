@@ -53,9 +53,7 @@ void Help::open()
         m_window = new HelpWindow(pages);
     }
     m_window->showPage(page);
-    if (m_window->isMinimized())
-        m_window->showNormal();
-    m_window->show();
+    m_window->standBeside(QApplication::activeModalWidget());
     m_window->raise();
     m_window->activateWindow();
 }

@@ -1,6 +1,7 @@
 #include "app/HelpBrowser.h"
 
 #include "widgets/Platform.h"
+#include "widgets/Twips.h"
 #include <algorithm>
 #include <QTextDocument>
 
@@ -19,6 +20,7 @@ HelpBrowser::HelpBrowser(const QList<HelpPage>& pages, QWidget* parent)
     : QTextBrowser(parent)
     , m_pages(pages)
 {
+    document()->setDocumentMargin(twips(180));
     setOpenLinks(false);
     connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::follow);
 }

@@ -12,6 +12,7 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QWindow>
 
 namespace {
 
@@ -85,6 +86,21 @@ HelpWindow::HelpWindow(const QList<HelpPage>& pages)
 void HelpWindow::showPage(const QString& name)
 {
     browser->showPage(name);
+}
+
+void HelpWindow::standBeside(const QWidget* modal)
+{
+    // A modal window blocks all windows but those that stand over it; which they are is looked up when they
+    // show.
+    winId();
+    QWindow* const owner = modal ? modal->windowHandle() : nullptr;
+    if (windowHandle()->transientParent() != owner) {
+        hide();
+        windowHandle()->setTransientParent(owner);
+    }
+    if (isMinimized())
+        showNormal();
+    show();
 }
 
 void HelpWindow::pageChanged()

@@ -18,6 +18,8 @@ public:
     explicit HelpWindow(const QList<HelpPage>& pages);
 
     void showPage(const QString& name);
+    /// Shows the window so that it can be used while a modal window is open; modal may be nullptr.
+    void standBeside(const QWidget* modal);
 
     QAction* back;
     QAction* forward;

@@ -11,7 +11,6 @@ LetterWindow::LetterWindow(const QString& name, const QString& caption, const QS
 {
     setObjectName(name);
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowModality(Qt::WindowModal);
     setWindowTitle(caption);
     Text1->setObjectName("Text1");
     Text1->setAccessibleName(caption);

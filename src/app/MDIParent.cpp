@@ -182,7 +182,8 @@ void MDIParent::MDIForm_Unload()
 bool MDIParent::event(QEvent* event)
 {
     const bool handled = QMainWindow::event(event);
-    if (event->type() == QEvent::WindowActivate)
+    // A click on the frame beside a modal window is no activation; it must not close the About window.
+    if (event->type() == QEvent::WindowActivate && !QApplication::activeModalWidget())
         MDIForm_Activate();
     return handled;
 }

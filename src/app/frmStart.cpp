@@ -15,6 +15,7 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QTimer>
 
 namespace {
@@ -83,7 +84,6 @@ bool frmStart::Form_Load()
 {
     if (isAbout()) {
         Timer1->stop();
-        setWindowModality(Qt::WindowModal); // the help stays usable beside it
         layOutAbout();
         return true;
     }
@@ -185,6 +185,12 @@ void frmStart::changeEvent(QEvent* event)
     QDialog::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         Form_Activate();
+}
+
+void frmStart::paintEvent(QPaintEvent* event)
+{
+    QDialog::paintEvent(event);
+    QPainter(this).drawRect(rect().adjusted(0, 0, -1, -1)); // no desktop draws an edge around it
 }
 
 void frmStart::showEvent(QShowEvent* event)

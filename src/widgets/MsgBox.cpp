@@ -22,11 +22,7 @@ QMessageBox::Icon iconOf(MsgIcon icon)
 
 MsgAnswer showBox(const MsgBox::Message& message)
 {
-    QWidget* const owner = QApplication::activeWindow();
-    QMessageBox box(owner);
-    // Modal for the windows of its owner, so that the help can be read beside it. Nothing outlives a stop.
-    if (owner && message.icon != MsgIcon::Stop)
-        box.setWindowModality(Qt::WindowModal);
+    QMessageBox box(QApplication::activeWindow());
     box.setWindowTitle(message.title);
     box.setTextFormat(Qt::PlainText);
     box.setText(QString(message.text).replace("\r\n", "\n"));

@@ -379,6 +379,15 @@ TEST_F(About, CanBeOpenedAgain)
         whileAboutIsOpen([&](frmStart& window) { EXPECT_TRUE(window.isVisible()); });
 }
 
+TEST_F(About, StaysOpenWhenTheFrameBesideItIsClicked)
+{
+    whileAboutIsOpen([&](frmStart& window) {
+        QEvent activation(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(&frame(), &activation);
+        EXPECT_TRUE(window.isVisible());
+    });
+}
+
 TEST_F(About, FrameActivatesAfterwardsThoughTheStartWindowIsGone)
 {
     whileAboutIsOpen([](frmStart&) {});

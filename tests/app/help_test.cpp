@@ -19,6 +19,7 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QWindow>
 
 namespace {
 
@@ -296,7 +297,6 @@ TEST_F(HelpSession, OpensAtThePageBehindAMessageWhileThatIsOpen)
     QTimer::singleShot(0, [&] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr);
-        EXPECT_EQ(box->windowModality(), Qt::WindowModal);
         QApplication::setActiveWindow(box);
         page = pageOnF1();
         EXPECT_TRUE(box->isVisible());
@@ -306,16 +306,23 @@ TEST_F(HelpSession, OpensAtThePageBehindAMessageWhileThatIsOpen)
     EXPECT_EQ(page, "ChildSelect");
 }
 
-TEST_F(HelpSession, StopMessageHoldsTheWholeProgram)
+TEST_F(HelpSession, CanBeUsedBesideAModalWindowAndStaysWhenThatCloses)
 {
-    MsgBox::setBackEnd({});
-    Qt::WindowModality modality = Qt::NonModal;
+    openHelp("Keys"); // stands alone, and is then called again from the modal window
+    EXPECT_EQ(helpWindow()->windowHandle()->transientParent(), nullptr);
+    QApplication::setActiveWindow(&frame());
     QTimer::singleShot(0, [&] {
-        modality = QApplication::activeModalWidget()->windowModality();
-        QApplication::activeModalWidget()->close();
+        QApplication::setActiveWindow(program->startWindow());
+        EXPECT_EQ(pageOnF1(), "frmStart");
+        EXPECT_EQ(helpWindow()->windowHandle()->transientParent(), program->startWindow()->windowHandle());
+        QApplication::setActiveWindow(program->startWindow());
+        QTest::keyClick(program->startWindow(), Qt::Key_Escape);
     });
-    MsgBox::show("A stop.", MsgIcon::Stop);
-    EXPECT_EQ(modality, Qt::ApplicationModal);
+    click(*frame().cmdAbout);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_NE(helpWindow(), nullptr);
+    EXPECT_TRUE(helpWindow()->isVisible());
+    EXPECT_EQ(helpWindow()->windowHandle()->transientParent(), nullptr);
 }
 
 TEST_F(HelpSession, ShellOpensItAtThePageOfTheActiveWindow)
