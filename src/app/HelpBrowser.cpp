@@ -1,5 +1,6 @@
 #include "app/HelpBrowser.h"
 
+#include "app/LinkColor.h"
 #include "widgets/Platform.h"
 #include "widgets/Twips.h"
 #include <algorithm>
@@ -20,6 +21,8 @@ HelpBrowser::HelpBrowser(const QList<HelpPage>& pages, QWidget* parent)
     : QTextBrowser(parent)
     , m_pages(pages)
 {
+    document()->setDefaultStyleSheet(
+        "a { color: " + linkColor(palette(), QPalette::Base, QPalette::Text).name() + "; }");
     document()->setDocumentMargin(twips(180));
     setOpenLinks(false);
     connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::follow);

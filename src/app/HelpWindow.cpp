@@ -6,6 +6,7 @@
 #include "widgets/Platform.h"
 #include "widgets/Twips.h"
 #include <QAction>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QShortcut>
@@ -42,8 +43,7 @@ HelpWindow::HelpWindow(const QList<HelpPage>& pages)
     setWindowTitle("Kestrel Reader Help");
     setWindowIcon(picture(PictureId::Application));
     searchText->setObjectName("searchText");
-    searchText->setAccessibleName("Find in the help");
-    searchText->setPlaceholderText("Find in the help");
+    searchText->setAccessibleName("Find:");
     contents->setObjectName("contents");
     contents->setAccessibleName("Contents");
     for (const HelpPage& page : pages)
@@ -151,6 +151,9 @@ void HelpWindow::makeToolbar()
     toolbar->setMovable(false);
     toolbar->addActions({back, forward});
     toolbar->addSeparator();
+    auto* label = new QLabel("Find: ", toolbar);
+    label->setBuddy(searchText);
+    toolbar->addWidget(label);
     toolbar->addWidget(searchText);
     toolbar->addActions({findNext, findPrevious});
     toolbar->addSeparator();

@@ -1,5 +1,6 @@
 #include "app/LinkLabel.h"
 
+#include "app/LinkColor.h"
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
@@ -48,7 +49,7 @@ void LinkLabel::paintEvent(QPaintEvent*)
     QFont underlined = font();
     underlined.setUnderline(true);
     painter.setFont(underlined);
-    painter.setPen(palette().color(QPalette::Link));
+    painter.setPen(linkColor(palette(), QPalette::Window, QPalette::WindowText));
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
     if (!hasFocus())
         return;
