@@ -1,10 +1,7 @@
 #include "app/MDIParent.h"
 
 #include "app/ArrangeIcons.h"
-#include "app/Help.h"
-#include "app/Notepad.h"
 #include "app/Program.h"
-#include "widgets/BasePath.h"
 #include "widgets/Menus.h"
 #include "widgets/SoftBttn.h"
 #include "widgets/Twips.h"
@@ -26,7 +23,6 @@ MDIParent::MDIParent(Program& program)
     , cmdAbout(new SoftBttn("cmdAbout", PictureId::About, "About/QORV CD-ROM Offer", this))
     , m_program(program)
     , m_area(new QMdiArea(this))
-    , m_help(std::make_unique<Help>(program.basePath + helpFileName))
 {
     setObjectName("MDIParent");
     setWindowTitle("Kestrel Reader: Portuguese Version - Freeware");
@@ -106,21 +102,9 @@ void MDIParent::openSearch() {}
 
 void MDIParent::openStudyAids() {}
 
-void MDIParent::launchNotepad()
-{
-    ::launchNotepad(flags());
-}
+void MDIParent::launchNotepad() {}
 
-void MDIParent::about()
-{
-    const QPointer<Form> active = m_activeForm;
-    if (active)
-        active->becomeActive(false);
-    flags().StartFormMode = 3;
-    m_program.showAbout();
-    if (active && active == m_activeForm)
-        active->becomeActive(true);
-}
+void MDIParent::about() {}
 
 void MDIParent::exit()
 {
@@ -132,10 +116,7 @@ void MDIParent::arrangeIcons()
     ::arrangeIcons(*m_area);
 }
 
-void MDIParent::openHelp()
-{
-    m_help->open();
-}
+void MDIParent::openHelp() {}
 
 ChildRead& MDIParent::readingWindow()
 {
@@ -144,7 +125,7 @@ ChildRead& MDIParent::readingWindow()
 
 ChapRead& MDIParent::chapterWindow()
 {
-    throw std::logic_error("not built yet");
+    return single(m_chapter);
 }
 
 ChildMapDsp& MDIParent::mapWindow()
@@ -182,8 +163,7 @@ void MDIParent::MDIForm_Unload()
 bool MDIParent::event(QEvent* event)
 {
     const bool handled = QMainWindow::event(event);
-    // A click on the frame beside a modal window is no activation; it must not close the About window.
-    if (event->type() == QEvent::WindowActivate && !QApplication::activeModalWidget())
+    if (event->type() == QEvent::WindowActivate)
         MDIForm_Activate();
     return handled;
 }

@@ -1,14 +1,13 @@
 #pragma once
 
+#include "read/ChapRead.h"
 #include "read/ChildRead.h"
 #include "select/ChildSelect.h"
 #include "widgets/Shell.h"
-#include <memory>
 #include <QMainWindow>
 #include <QPointer>
 
 class Form;
-class Help;
 class Program;
 class QMdiArea;
 class QMdiSubWindow;
@@ -50,7 +49,6 @@ public:
     QString basePath() const override;
 
     QMdiArea* area() const { return m_area; }
-    Help& help() { return *m_help; }
 
 protected:
     bool event(QEvent* event) override;
@@ -70,9 +68,9 @@ private:
 
     Program& m_program;
     QMdiArea* m_area;
-    std::unique_ptr<Help> m_help;
     QList<QMenu*> m_menus;
     QPointer<Form> m_activeForm;
     QPointer<ChildSelect> m_select;
     QPointer<ChildRead> m_reading;
+    QPointer<ChapRead> m_chapter;
 };

@@ -1,10 +1,13 @@
 #include "read/ChildRead.h"
 
+#include "read/ChapRead.h"
+#include "read/Chapter.h"
 #include "read/Stepping.h"
 #include "read/VerseKeyLabel.h"
 #include "widgets/BasePath.h"
 #include "widgets/Clipboard.h"
 #include "widgets/Fonts.h"
+#include "widgets/Hourglass.h"
 #include "widgets/Menus.h"
 #include "widgets/Shell.h"
 #include "widgets/SoftBttn.h"
@@ -201,7 +204,14 @@ void ChildRead::cmdCopy_Click()
     copyOrReport(lblVerseId->text() + "\r\n" + VerseText->text() + " (PT)");
 }
 
-void ChildRead::cmdChap_Click() {}
+void ChildRead::cmdChap_Click()
+{
+    const Hourglass hourglass;
+    ChapRead& chapter = shell().chapterWindow();
+    chapter.restoreAndActivate();
+    chapter.showChapter(chapterReference(lblVerseId->text()));
+    chapter.highlight(lblVerseId->text() + VerseText->text());
+}
 
 void ChildRead::showVerse(int number)
 {

@@ -1,8 +1,0 @@
-#include "app/frmQORV.h"
-
-#include "app/AboutTexts.h"
-
-frmQORV::frmQORV(QWidget* owner)
-    : LetterWindow("frmQORV", "QORV CD-ROM Offer", discOfferText(), owner)
-{
-}

@@ -1,0 +1,118 @@
+#include "read/ChapRead.h"
+
+#include "read/Chapter.h"
+#include "widgets/BasePath.h"
+#include "widgets/Clipboard.h"
+#include "widgets/Fonts.h"
+#include "widgets/Menus.h"
+#include "widgets/MsgBox.h"
+#include "widgets/Shell.h"
+#include "widgets/SoftBttn.h"
+#include "widgets/TextBox.h"
+#include "widgets/Twips.h"
+#include "widgets/TypeSize.h"
+
+ChapRead::ChapRead(Shell& shell)
+    : Form(shell, "ChapRead")
+    , ChapText(new TextBox(this))
+    , cmdFont(new SoftBttn("cmdFont", PictureId::FontSize, "Font Size", this))
+    , cmdFntFace(new SoftBttn("cmdFntFace", PictureId::FontFace, "Font Face", this))
+    , cmdChapCopy(new SoftBttn("cmdChapCopy", PictureId::Copy, "Copy Chapter to Clipboard", this))
+    , cmdTip(new SoftBttn("cmdTip", PictureId::Tip, "Tip", this))
+{
+    setCaption("Chapter Window");
+    ChapText->setObjectName("ChapText");
+    ChapText->setAccessibleName("Chapter text");
+    ChapText->setFont(Fonts::tahomaOf(12));
+    place(*ChapText, 60, 60, 7920, 5175);
+    place(*cmdFont, 8070, 60, 400, 400);
+    place(*cmdFntFace, 8070, 480, 400, 400);
+    place(*cmdChapCopy, 8070, 900, 400, 400);
+    place(*cmdTip, 8070, 1320, 400, 400);
+
+    // The item has no shortcut: Ctrl+C copies what is selected in the text.
+    QMenu* edit = Menus::make(*this, "mnuEdit", "&Edit");
+    Menus::addItem(edit, "mnuCopy", "&Copy Chapter to Clipboard", {}, [this] { mnuCopy_Click(); });
+    makeMenus({edit}, true);
+
+    connect(cmdFont, &SoftBttn::clicked, this, &ChapRead::cmdFont_Click);
+    connect(cmdFntFace, &SoftBttn::clicked, this, &ChapRead::cmdFntFace_Click);
+    connect(cmdChapCopy, &SoftBttn::clicked, this, &ChapRead::cmdChapCopy_Click);
+    connect(cmdTip, &SoftBttn::clicked, this, &ChapRead::cmdTip_Click);
+}
+
+void ChapRead::showChapter(const QString& reference)
+{
+    if (caption() == chapterCaption(reference))
+        return;
+    setCaption("Please wait...");
+    ChapText->hide();
+    ChapText->setText({});
+    ChapText->setText(gatherChapter(DataCtrl, reference));
+    setCaption(chapterCaption(reference));
+    ChapText->show();
+    ChapText->setFocus(); // hiding took it away
+}
+
+void ChapRead::highlight(const QString& verse)
+{
+    const qsizetype start = ChapText->text().indexOf(verse);
+    if (start >= 0)
+        ChapText->setSelection(start, verse.size());
+}
+
+void ChapRead::Form_Load()
+{
+    DataCtrl.setDatabaseName((shell().basePath() + databaseFileName).toStdString());
+    setOuterSize(toTwips(ChapText->width()) + 800, toTwips(ChapText->height()) + 520);
+    setOuterPosition(0, 0);
+}
+
+void ChapRead::Form_Resize()
+{
+    const int width = outerWidth() - 800;
+    const int height = outerHeight() - 520;
+    if (width < 0 || height < 0)
+        return;
+    ChapText->resize(twips(width), twips(height));
+    for (SoftBttn* button : {cmdFont, cmdFntFace, cmdChapCopy, cmdTip})
+        button->move(twips(width + 150), button->y());
+}
+
+void ChapRead::cmdFont_Click()
+{
+    ChapText->setFont(nextTypeSize(ChapText->font()));
+}
+
+void ChapRead::cmdFntFace_Click()
+{
+    ChapText->setFont(otherTypeFace(ChapText->font(), m_otherFace));
+}
+
+void ChapRead::cmdChapCopy_Click()
+{
+    mnuCopy_Click();
+}
+
+void ChapRead::cmdTip_Click()
+{
+    const QStringList paragraphs = {
+        "You can copy text from the Chapter Reading window to other programs by using drag-and-drop copying. "
+        "The target program must support OLE.",
+        "1. Arrange the program windows so that both the Chapter Reading window (source window) and the "
+        "destination document are open and visible. You must be able to see the text you want to drag as "
+        "well "
+        "as the location where you want to drop it.",
+        "2. In the Chapter Reading window select the text you want to copy, and then use the primary (left) "
+        "mouse button to drag the selection to the insertion point in the other program.",
+        "NB: Press CTRL+ C to copy any selected text to the Clipboard. Use the 'Copy Chapter' button to copy "
+        "the whole chapter to the Clipboard without pre-selecting it.",
+    };
+    MsgBox::show(paragraphs.join("\r\n\r\n"), MsgIcon::Information, MsgButtons::Ok,
+                 "Try this: Drag text from 'Kestrel Reader' to other programs");
+}
+
+void ChapRead::mnuCopy_Click()
+{
+    copyOrReport(referenceInCaption(caption()) + "\r\n" + ChapText->text());
+}
