@@ -1,0 +1,82 @@
+"""A whole chapter: opened, read by a screen reader, copied, and dragged into another program."""
+import json
+import os
+import pathlib
+import subprocess
+import time
+
+import pytest
+
+TOP = pathlib.Path(__file__).resolve().parents[2]
+PSALM = ("Ps:117:1 Louvai ao SENHOR, todas as nações; celebrai a ele, todos os povos.\r\n"
+         "Ps:117:2 Porque sua bondade prevaleceu sobre nós, e a fidelidade do SENHOR [dura] para sempre. Aleluia!\r\n")
+
+
+@pytest.fixture
+def chapter_text(reader, desktop):
+    """The text box, with the second verse of Psalm 117 highlighted."""
+    desktop.key("F2", "ctrl+a")
+    desktop.type("Ps:117:2")
+    desktop.key("Return")
+    reader.find("frame", "Reading Window -- Ps:117:2")
+    desktop.key("F9")
+    return reader.find("text", "Chapter text", reader.find("frame", "Chapter Window -- Ps:117:"))
+
+
+@pytest.fixture
+def drop_target(desktop):
+    """Another program's window at the lower right, over the frame."""
+    program = os.environ.get("KESTREL_DROP_TARGET", TOP / "build" / "release" / "tests" / "drop_target")
+    process = subprocess.Popen([program], env=desktop.environment, stdout=subprocess.PIPE, text=True)
+    desktop.wait_for_window("^Drop target$")
+    window = desktop.run("xdotool", "search", "--onlyvisible", "--name", "^Drop target$").split()[0]
+    desktop.run("xdotool", "windowmove", "--sync", window, "940", "480")
+    yield process
+    process.terminate()
+    process.wait()
+
+
+def selected(box):
+    start, end = box.queryText().getSelection(0)
+    return box.queryText().getText(start, end)
+
+
+def drag(desktop, start, end):
+    desktop.run("xdotool", "mousemove", *map(str, start), "mousedown", "1")
+    for part in range(1, 21):
+        desktop.run("xdotool", "mousemove", *(str(a + (b - a) * part // 20) for a, b in zip(start, end)))
+        time.sleep(0.05)
+    desktop.run("xdotool", "mouseup", "1")
+
+
+def test_a_screen_reader_reads_the_chapter_and_its_highlight(reader, chapter_text):
+    shown = chapter_text.queryText()
+    assert shown.getText(0, shown.characterCount) == PSALM.replace("\r\n", "\n") + "(PT)"
+    assert selected(chapter_text) == PSALM.splitlines()[1]
+
+
+def test_the_chapter_is_copied_with_its_reference(reader, desktop, chapter_text):
+    reader.press("Copy Chapter to Clipboard")
+    reader.wait_for(lambda: desktop.clipboard() == "Ps:117:\r\n" + PSALM + "(PT)", "the chapter on the clipboard")
+
+
+def test_ctrl_c_copies_the_selection_with_its_line_ends(reader, desktop, chapter_text):
+    desktop.key("ctrl+a", "ctrl+c")
+    reader.wait_for(lambda: desktop.clipboard() == PSALM + "(PT)", "the text on the clipboard")
+
+
+def test_selected_text_is_dropped_in_another_program_to_the_letter(reader, desktop, chapter_text, drop_target):
+    desktop.run("xdotool", "search", "--name", "^Kestrel Reader: Portuguese", "windowactivate", "--sync")
+    desktop.key("ctrl+Home", "shift+Down", "shift+Down", "shift+Down", "shift+Right", "shift+Right")
+    reader.wait_for(lambda: "Ps:117:2" in selected(chapter_text), "a selection over two verses")
+
+    import pyatspi
+    x, y, width, height = chapter_text.queryText().getCharacterExtents(3, pyatspi.DESKTOP_COORDS)
+    drag(desktop, (x + width // 2, y + height // 2), (1100, 620))
+    dropped = json.loads(drop_target.stdout.readline())
+
+    assert dropped["formats"] == ["text/plain"]
+    assert dropped["copies"] and dropped["onlyCopies"]
+    assert PSALM.startswith(dropped["text"])
+    assert dropped["text"].count("\r\n") == 1
+    assert "\r\nPs:117:2 Porque" in dropped["text"]
