@@ -96,6 +96,12 @@ void Form::restoreAndActivate()
     activate();
 }
 
+void Form::unload()
+{
+    if (subWindow())
+        subWindow()->close();
+}
+
 int Form::outerWidth() const
 {
     return subWindow() ? toTwips(subWindow()->width()) : 0;

@@ -38,6 +38,8 @@ public:
     /// What every window does that hands something to this one: restore it if it is minimised, then activate
     /// it.
     void restoreAndActivate();
+    /// Closes the window.
+    void unload();
 
     int outerWidth() const;
     int outerHeight() const;
