@@ -77,11 +77,11 @@ void MDIParent::makeToolbar()
     setCentralWidget(frame);
 }
 
-template <class Window>
-Window& MDIParent::single(QPointer<Window>& window)
+template <class Window, class... Arguments>
+Window& MDIParent::single(QPointer<Window>& window, Arguments&... arguments)
 {
     if (!window) {
-        window = new Window(*this);
+        window = new Window(*this, arguments...);
         connect(window, &Form::unloaded, this, [&window] { window.clear(); });
         window->loadInto(*m_area);
     }
@@ -98,7 +98,10 @@ void MDIParent::openSelection()
     show(single(m_select));
 }
 
-void MDIParent::openSearch() {}
+void MDIParent::openSearch()
+{
+    show(single(m_search, m_searchMemory));
+}
 
 void MDIParent::openStudyAids() {}
 

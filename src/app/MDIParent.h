@@ -2,6 +2,7 @@
 
 #include "read/ChapRead.h"
 #include "read/ChildRead.h"
+#include "search/frmAdvSearch.h"
 #include "select/ChildSelect.h"
 #include "widgets/Shell.h"
 #include <QMainWindow>
@@ -60,8 +61,8 @@ private:
     void MDIForm_Unload();
 
     void makeToolbar();
-    template <class Window>
-    Window& single(QPointer<Window>& window);
+    template <class Window, class... Arguments>
+    Window& single(QPointer<Window>& window, Arguments&... arguments);
     void show(Form& window);
     void childActivated(QMdiSubWindow* window);
     void showMenus(const QList<QMenu*>& menus);
@@ -73,4 +74,6 @@ private:
     QPointer<ChildSelect> m_select;
     QPointer<ChildRead> m_reading;
     QPointer<ChapRead> m_chapter;
+    QPointer<frmAdvSearch> m_search;
+    SearchMemory m_searchMemory;
 };

@@ -1,0 +1,427 @@
+#include "search/frmAdvSearch.h"
+
+#include "read/ChildRead.h"
+#include "search/AccessKeys.h"
+#include "search/CopiedResults.h"
+#include "search/ResultLines.h"
+#include "search/ResultsList.h"
+#include "search/SearchRanges.h"
+#include "store/DataError.h"
+#include "widgets/AnimationPlayer.h"
+#include "widgets/BasePath.h"
+#include "widgets/Clipboard.h"
+#include "widgets/ErrorText.h"
+#include "widgets/Fonts.h"
+#include "widgets/Hourglass.h"
+#include "widgets/Menus.h"
+#include "widgets/MsgBox.h"
+#include "widgets/Shell.h"
+#include "widgets/SoftBttn.h"
+#include "widgets/Twips.h"
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+
+namespace {
+
+// Outer heights of the two layouts, in twips.
+constexpr int inputHeight = 2920;
+constexpr int resultsHeight = 5325;
+constexpr int listWidth = 8355;
+constexpr int listHeight = 2130;
+
+const QString resultsTitle = "Search Results:";
+
+bool isEnter(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+/// Looks the same when it is disabled.
+void keepColor(QLabel& label)
+{
+    QPalette palette = label.palette();
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, palette.color(QPalette::WindowText));
+    label.setPalette(palette);
+}
+
+void setBackground(QWidget& control, const QColor& color)
+{
+    QPalette palette = control.palette();
+    palette.setColor(QPalette::Base, color);
+    palette.setColor(QPalette::Button, color); // the face of a combo box
+    control.setPalette(palette);
+}
+
+} // namespace
+
+frmAdvSearch::frmAdvSearch(Shell& shell, SearchMemory& memory)
+    : Form(shell, "frmAdvSearch")
+    , Label1(new QLabel("S&earch for verses containing the following text:", this))
+    , Text1(new QLineEdit(this))
+    , Combo1(new QComboBox(this))
+    , Text2(new QLineEdit(this))
+    , Line1(new QFrame(this))
+    , Label3(new QLabel("Select &book(s) to scan:", this))
+    , Combo2(new QComboBox(this))
+    , chkWholeWrd(new QCheckBox("Match &whole word(s) only", this))
+    , Animation1(new AnimationPlayer(this))
+    , cmdOK(new SoftBttn("cmdOK", PictureId::Search, "Search", this))
+    , cmdCancel(new SoftBttn("cmdCancel", PictureId::Cancel, "Cancel/Close", this))
+    , cmdHelp(new SoftBttn("cmdHelp", PictureId::Help, "Help", this))
+    , cmdHideList(new SoftBttn("cmdHideList", PictureId::NewSearch, "New Search", this))
+    , cmdCopySR(new SoftBttn("cmdCopySR", PictureId::CopyResults, "Copy Search Results to Clipboard", this))
+    , Label2(new QLabel("Search &results:", this))
+    , List1(new ResultsList(this))
+    , m_memory(memory)
+{
+    setCaption("Advanced Search");
+    setFont(Fonts::tahomaOf(9));
+    placeControls();
+
+    QMenu* edit = Menus::make(*this, "mnuEdit", "&Edit");
+    Menus::addItem(edit, "mnuCopySR", "&Copy Search Results to Clipboard", {}, [this] { cmdCopySR_Click(); });
+    mnuCopySR = edit->actions().constFirst();
+    makeMenus({edit});
+    new AccessKeys(*this);
+    connectControls();
+}
+
+void frmAdvSearch::placeControls()
+{
+    Line1->setFrameStyle(QFrame::HLine | QFrame::Sunken);
+    Label1->setBuddy(Text1);
+    keepColor(*Label1);
+    Label3->setBuddy(Combo2);
+    Label2->setBuddy(List1);
+
+    const struct
+    {
+        QWidget* control;
+        const char* name;
+        const char* spokenName;
+        QRect twips;
+    } designs[] = {
+        {Label1, "Label1", "", {120, 75, 7800, 240}},
+        {Text1, "Text1", "Search for verses containing the following text:", {120, 330, 7800, 360}},
+        {Combo1, "Combo1", "Connective", {120, 765, 2250, 360}},
+        {Text2, "Text2", "Second word or phrase", {2430, 765, 5490, 360}},
+        {Line1, "Line1", "", {120, 1200, 7800, 30}},
+        {Label3, "Label3", "", {120, 1305, 3600, 240}},
+        {Combo2, "Combo2", "Select book(s) to scan:", {120, 1560, 3600, 360}},
+        {chkWholeWrd, "chkWholeWrd", "Match whole word(s) only", {120, 2040, 3600, 330}},
+        {Animation1, "Animation1", "", {4320, 1395, 3600, 900}},
+        {cmdOK, "cmdOK", "Search", {8070, 75, 405, 405}},
+        {cmdCancel, "cmdCancel", "Cancel/Close", {8070, 525, 405, 405}},
+        {cmdHelp, "cmdHelp", "Help", {8070, 975, 405, 405}},
+        {cmdHideList, "cmdHideList", "New Search", {8070, 1530, 405, 405}},
+        {cmdCopySR, "cmdCopySR", "Copy Search Results to Clipboard", {8070, 1980, 405, 405}},
+        {Label2, "Label2", "", {120, 2460, 3600, 240}},
+        {List1, "List1", "Search results:", {120, 2715, listWidth, listHeight}},
+    };
+    QWidget* before = nullptr;
+    for (const auto& design : designs) {
+        design.control->setObjectName(design.name);
+        design.control->setAccessibleName(design.spokenName);
+        place(*design.control, design.twips.x(), design.twips.y(), design.twips.width(),
+              design.twips.height());
+        if (before)
+            setTabOrder(before, design.control);
+        before = design.control;
+    }
+}
+
+void frmAdvSearch::connectControls()
+{
+    connect(Text1, &QLineEdit::textChanged, this, &frmAdvSearch::Text1_Change);
+    connect(chkWholeWrd, &QCheckBox::toggled, this, &frmAdvSearch::chkWholeWrd_Click);
+    connect(cmdOK, &SoftBttn::clicked, this, &frmAdvSearch::cmdOK_Click);
+    connect(cmdCancel, &SoftBttn::clicked, this, &frmAdvSearch::cmdCancel_Click);
+    connect(cmdHelp, &SoftBttn::clicked, this, &frmAdvSearch::cmdHelp_Click);
+    connect(cmdHideList, &SoftBttn::clicked, this, &frmAdvSearch::cmdHideList_Click);
+    connect(cmdCopySR, &SoftBttn::clicked, this, &frmAdvSearch::cmdCopySR_Click);
+    connect(List1, &ResultsList::keyDown, this, &frmAdvSearch::List1_KeyDown);
+    connect(List1, &ResultsList::choosingKeyPressed, this, &frmAdvSearch::List1_KeyPress);
+    connect(List1, &ResultsList::lineClicked, this, &frmAdvSearch::List1_Click);
+    connect(List1, &ResultsList::pointerMoved, this, &frmAdvSearch::List1_MouseMove);
+}
+
+void frmAdvSearch::Form_Load()
+{
+    Data1.setDatabaseName((shell().basePath() + databaseFileName).toStdString());
+    Combo1->addItems({"And containing", "and Not containing", "Or containing"});
+    Combo1->setCurrentIndex(0);
+    Combo2->addItems(searchRanges());
+    Combo2->setCurrentIndex(44);
+    Animation1->hide();
+    Animation1->open(shell().basePath() + clipFileName);
+    cmdOK->setEnabled(false);
+    enableInputs(true);
+    enableResults(false);
+    Form_Resize();
+    setOuterPosition(0, 0);
+}
+
+void frmAdvSearch::Form_Resize()
+{
+    // One size for each layout; a window that is minimised or maximised keeps its own.
+    setOuterSize(toTwips(cmdOK->geometry().right() + 1) + 160,
+                 List1->isHidden() ? inputHeight : resultsHeight);
+    // Maximised, the list takes the room that there is.
+    const QSize room = size() - QSize(2 * List1->x(), List1->y() + List1->x());
+    List1->resize(room.expandedTo(QSize(twips(listWidth), twips(listHeight))));
+}
+
+void frmAdvSearch::Form_Unload()
+{
+    m_memory.LastText1.clear(); // so that the same search runs anew in a reopened window
+}
+
+bool frmAdvSearch::Form_KeyDown(QKeyEvent& event)
+{
+    if (event.key() == Qt::Key_Escape) {
+        cmdCancel_Click();
+        return true;
+    }
+    const bool searches = isEnter(event) && !trimBlanks(Text1->text()).isEmpty() && List1->isHidden();
+    if (searches)
+        cmdOK_Click();
+    return searches || (Text1->hasFocus() && Text1_KeyPress(event));
+}
+
+void frmAdvSearch::Text1_Change()
+{
+    cmdOK->setEnabled(!trimBlanks(Text1->text()).isEmpty());
+}
+
+bool frmAdvSearch::Text1_KeyPress(const QKeyEvent& event) const
+{
+    return isEnter(event); // swallowed
+}
+
+void frmAdvSearch::chkWholeWrd_Click()
+{
+    Text1->setFocus();
+}
+
+SearchInputs frmAdvSearch::inputs() const
+{
+    return {trimBlanks(Text1->text()),
+            trimBlanks(Text2->text()),
+            static_cast<std::int16_t>(Combo1->currentIndex()),
+            static_cast<std::int16_t>(Combo2->currentIndex()),
+            static_cast<std::int16_t>(chkWholeWrd->isChecked() ? 1 : 0),
+            Combo2->currentText()};
+}
+
+void frmAdvSearch::cmdOK_Click()
+{
+    const SearchInputs now = inputs();
+    m_memory.SearchWord1 = now.text1;
+    m_memory.SearchWord2 = now.text2;
+    if (!isLastQuery(now, m_memory)) {
+        runQuery(now);
+    } else if (m_memory.LastOutcome == QueryFailed) {
+        reportFailure(0, ""); // nothing was run, so there is no error to tell of
+    } else if (m_memory.LastOutcome == NoMatches) {
+        reportNoMatches();
+    } else {
+        enterResultsMode();
+        reportCount();
+    }
+}
+
+void frmAdvSearch::runQuery(const SearchInputs& inputs)
+{
+    startClip();
+    remember(inputs);
+    Hourglass hourglass;
+    List1->clear();
+    const auto sql = searchSql(m_memory.SearchWord1, m_memory.SearchWord2, m_memory.LastConnective,
+                               rangeCondition(m_memory.LastRange, inputs.rangeText));
+    if (sql)
+        Data1.setRecordSource(*sql);
+    try {
+        Data1.refresh();
+        fillList();
+    } catch (const DataError& error) {
+        hourglass.restore();
+        reportFailure(error.number(), error.what());
+        return;
+    }
+    if (Data1.recordCount() == 0) {
+        hourglass.restore();
+        stopClip();
+        m_memory.LastOutcome = NoMatches;
+        reportNoMatches();
+        return;
+    }
+    m_memory.LastOutcome = ResultsListed;
+    enterResultsMode();
+    hourglass.restore();
+    reportCount();
+}
+
+void frmAdvSearch::remember(const SearchInputs& inputs)
+{
+    m_memory.LastText1 = inputs.text1;
+    m_memory.LastText2 = inputs.text2;
+    for (QString* word : {&m_memory.SearchWord1, &m_memory.SearchWord2}) {
+        *word = escapeQuotes(*word);
+        if (inputs.wholeWord == 1 && !word->isEmpty())
+            *word = wrapWholeWord(*word);
+    }
+    m_memory.LastWholeWord = inputs.wholeWord;
+    m_memory.LastConnective = inputs.connective;
+    m_memory.LastRange = inputs.range;
+}
+
+void frmAdvSearch::fillList()
+{
+    constexpr int linesPerTick = 256;
+    ResultLines lines;
+    for (; !Data1.eof(); Data1.moveNext()) {
+        lines.add(Data1.field(0), Data1.field(2));
+        if (lines.count() % linesPerTick == 0)
+            Animation1->tick();
+    }
+    List1->setLines(std::move(lines));
+}
+
+void frmAdvSearch::reportNoMatches()
+{
+    MsgBox::show("No matching verses.", MsgIcon::Information, MsgButtons::Ok, resultsTitle);
+}
+
+void frmAdvSearch::reportCount()
+{
+    stopClip();
+    MsgBox::show(QString("%1 verse(s) found.").arg(List1->count()), MsgIcon::Information, MsgButtons::Ok,
+                 resultsTitle);
+    List1->setFocus();
+}
+
+void frmAdvSearch::reportFailure(int number, const QString& description)
+{
+    m_memory.LastOutcome = QueryFailed;
+    List1->clear();
+    Data1.setRecordSource("SELECT * FROM NewTestament");
+    stopClip();
+    MsgBox::show(errorText(number, description) + " -- Query aborted.", MsgIcon::Exclamation, MsgButtons::Ok,
+                 "Unpredictable Error");
+}
+
+void frmAdvSearch::startClip()
+{
+    Animation1->show();
+    Animation1->play();
+}
+
+void frmAdvSearch::stopClip()
+{
+    Animation1->stop();
+    Animation1->hide();
+}
+
+void frmAdvSearch::enterResultsMode()
+{
+    enableResults(true);
+    cmdOK->setEnabled(false);
+    enableInputs(false);
+    Form_Resize();
+}
+
+void frmAdvSearch::cmdHideList_Click()
+{
+    enableResults(false);
+    Form_Resize();
+    cmdOK->setEnabled(true);
+    enableInputs(true);
+    Text1->setFocus(); // the button that had it is hidden now
+}
+
+void frmAdvSearch::enableInputs(bool enable)
+{
+    const QPalette::ColorRole background = enable ? QPalette::Base : QPalette::Button;
+    for (QWidget* input : std::initializer_list<QWidget*>{Text1, Text2, Combo1, Combo2}) {
+        setBackground(*input, palette().color(background));
+        input->setEnabled(enable);
+    }
+    chkWholeWrd->setEnabled(enable);
+    Label1->setEnabled(enable); // so that its Alt key is the Edit menu's while the inputs rest
+}
+
+void frmAdvSearch::enableResults(bool enable)
+{
+    for (QWidget* control : std::initializer_list<QWidget*>{Label2, List1, cmdCopySR, cmdHideList}) {
+        control->setVisible(enable);
+        control->setEnabled(enable);
+    }
+    mnuCopySR->setEnabled(enable);
+}
+
+void frmAdvSearch::List1_KeyDown()
+{
+    ListKeyFlag = 1; // for every key, also one that selects nothing: the next click then only clears the flag
+}
+
+void frmAdvSearch::List1_KeyPress()
+{
+    ListKeyFlag = 0;
+    List1_Click();
+}
+
+void frmAdvSearch::List1_Click()
+{
+    if (ListKeyFlag == 1) {
+        ListKeyFlag = 0;
+        return;
+    }
+    if (List1->selected() < 0)
+        return;
+    const QString line = List1->text(List1->selected());
+    const QString reference = line.left(qMax(qsizetype(0), line.indexOf(' ')));
+    try {
+        ChildRead& reading = shell().readingWindow();
+        reading.DataCtl.setRecordSource("SELECT * FROM NewTestament WHERE VerseId = '" +
+                                        reference.toStdString() + "'");
+        reading.DataCtl.refresh();
+        reading.restoreAndActivate();
+    } catch (const DataError&) {
+        return; // no word about it, on purpose
+    }
+}
+
+void frmAdvSearch::List1_MouseMove(const QPoint& point)
+{
+    List1->setToolTip(List1->text(List1->lineAt(point)));
+}
+
+void frmAdvSearch::cmdCopySR_Click()
+{
+    CopiedResults results;
+    {
+        Hourglass hourglass;
+        results = copiedResults(List1->lines());
+    }
+    if (results.isCutShort)
+        MsgBox::show(QString("Only the first %1 verses will be copied to the Clipboard!").arg(results.lines),
+                     MsgIcon::Information);
+    copyOrReport(results.text);
+}
+
+void frmAdvSearch::cmdHelp_Click()
+{
+    QWidget* receiver = isAncestorOf(QApplication::focusWidget()) ? QApplication::focusWidget() : this;
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+    QApplication::sendEvent(receiver, &press);
+}
+
+void frmAdvSearch::cmdCancel_Click()
+{
+    unload();
+}

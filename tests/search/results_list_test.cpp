@@ -1,0 +1,239 @@
+// The results list by events: opening verses by mouse and keys, the tip, copying.
+#include "search/ResultLines.h"
+#include "search/SearchSession.h"
+#include <QAccessible>
+#include <QClipboard>
+#include <QToolTip>
+
+namespace {
+
+class SearchResults : public SearchSession
+{
+protected:
+    void SetUp() override
+    {
+        SearchSession::SetUp();
+        search("amor", 47);
+        boxes.shown.clear();
+        ASSERT_GT(list().count(), 20);
+    }
+
+    QString key(int line) { return list().text(line).section(' ', 0, 0); }
+    QString shownVerse() { return open<ChildRead>() ? get<ChildRead>().lblVerseId->text() : "none"; }
+    void back() { window().activate(), list().setFocus(); }
+    void pointAt(const QPoint& point) { QTest::mouseMove(list().viewport(), point); }
+};
+
+} // namespace
+
+TEST_F(SearchResults, OpenAVerseByOneClick)
+{
+    clickLine(2);
+    EXPECT_EQ(shownVerse(), key(2));
+    EXPECT_EQ(activeForm(), open<ChildRead>());
+    EXPECT_EQ(QString::fromStdString(get<ChildRead>().DataCtl.recordSource()),
+              "SELECT * FROM NewTestament WHERE VerseId = '" + key(2) + "'");
+}
+
+TEST_F(SearchResults, RestoreTheReadingWindowWhenItIsMinimised)
+{
+    clickLine(0);
+    outer(get<ChildRead>()).showMinimized();
+    back();
+    clickLine(1);
+    EXPECT_FALSE(outer(get<ChildRead>()).isMinimized());
+    EXPECT_EQ(shownVerse(), key(1));
+    EXPECT_EQ(activeForm(), open<ChildRead>());
+}
+
+TEST_F(SearchResults, OpenTheSameLineAgain)
+{
+    clickLine(1);
+    get<ChildRead>().cmdNext->click();
+    back();
+    clickLine(1);
+    EXPECT_EQ(shownVerse(), key(1));
+}
+
+TEST_F(SearchResults, AreNotOpenedByMovingThroughThemWithKeys)
+{
+    for (Qt::Key move : {Qt::Key_Down, Qt::Key_Down, Qt::Key_PageDown, Qt::Key_End, Qt::Key_Up, Qt::Key_Home})
+        press(move);
+    EXPECT_EQ(list().selected(), 0);
+    press(Qt::Key_Down);
+    EXPECT_EQ(list().selected(), 1);
+    EXPECT_EQ(open<ChildRead>(), nullptr);
+}
+
+TEST_F(SearchResults, AreSelectedFromTheFirstOnWithTheArrowKeys)
+{
+    press(Qt::Key_Down);
+    EXPECT_EQ(list().selected(), 0);
+    press(Qt::Key_Down);
+    EXPECT_EQ(list().selected(), 1);
+}
+
+TEST_F(SearchResults, AreOpenedByEnterAndBySpace)
+{
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(shownVerse(), key(0));
+    back();
+    press(Qt::Key_Down);
+    press(Qt::Key_Space);
+    EXPECT_EQ(shownVerse(), key(1));
+    back();
+    press(Qt::Key_Down);
+    press(Qt::Key_Enter);
+    EXPECT_EQ(shownVerse(), key(2));
+}
+
+TEST_F(SearchResults, OpenNothingByEnterWhileNoneIsSelected)
+{
+    press(Qt::Key_Return);
+    EXPECT_EQ(open<ChildRead>(), nullptr);
+}
+
+TEST_F(SearchResults, SwallowTheClickAfterAKeyThatSelectsNothing)
+{
+    press(Qt::Key_Shift);
+    clickLine(3);
+    EXPECT_EQ(list().selected(), 3);
+    EXPECT_EQ(open<ChildRead>(), nullptr);
+    clickLine(3);
+    EXPECT_EQ(shownVerse(), key(3));
+}
+
+TEST_F(SearchResults, OpenByAClickAfterAnArrowKey)
+{
+    press(Qt::Key_Down); // its own click clears the flag
+    clickLine(3);
+    EXPECT_EQ(shownVerse(), key(3));
+}
+
+TEST_F(SearchResults, SwallowTheClickAfterAnArrowKeyAtTheEnd)
+{
+    press(Qt::Key_End);
+    press(Qt::Key_Down);
+    clickLine(list().count() - 2);
+    EXPECT_EQ(open<ChildRead>(), nullptr);
+}
+
+TEST_F(SearchResults, OpenTheVerseAfterEnterAgainByOneClick)
+{
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    back();
+    clickLine(3);
+    EXPECT_EQ(shownVerse(), key(3));
+}
+
+TEST_F(SearchResults, ShowNoVerseForALineWithoutABlank)
+{
+    clickLine(0);
+    back();
+    ResultLines lines;
+    lines.add("Mt:1:1", "");
+    list().setLines(std::move(lines));
+    clickLine(0);
+    EXPECT_EQ(shownVerse(), "");
+    EXPECT_TRUE(boxes.shown.isEmpty());
+}
+
+TEST_F(SearchResults, ShowTheWholeLineInATip)
+{
+    pointAt(pointOf(2));
+    EXPECT_EQ(list().toolTip(), list().text(2));
+    pointAt(pointOf(4));
+    EXPECT_EQ(list().toolTip(), list().text(4));
+    QHelpEvent help(QEvent::ToolTip, pointOf(4), list().viewport()->mapToGlobal(pointOf(4)));
+    QApplication::sendEvent(list().viewport(), &help);
+    EXPECT_TRUE(QToolTip::text().contains(list().text(4).toHtmlEscaped()));
+    QToolTip::hideText();
+}
+
+TEST_F(SearchResults, ShowNoTipBelowTheLastLine)
+{
+    ResultLines lines;
+    lines.add("Mt:1:1", " a");
+    lines.add("Mt:1:2", " b");
+    list().setLines(std::move(lines));
+    pointAt(pointOf(1));
+    EXPECT_EQ(list().toolTip(), "Mt:1:2 b");
+    pointAt({20, list().viewport()->height() - 2});
+    EXPECT_EQ(list().toolTip(), "");
+}
+
+TEST_F(SearchResults, LeaveTheTipWhileAButtonIsHeld)
+{
+    pointAt(pointOf(2));
+    QTest::mousePress(list().viewport(), Qt::RightButton, {}, pointOf(2));
+    QMouseEvent move(QEvent::MouseMove, pointOf(4), list().viewport()->mapToGlobal(pointOf(4)), Qt::NoButton,
+                     Qt::RightButton, {});
+    QApplication::sendEvent(list().viewport(), &move);
+    EXPECT_EQ(list().toolTip(), list().text(2));
+    QTest::mouseRelease(list().viewport(), Qt::RightButton, {}, pointOf(4));
+    EXPECT_EQ(open<ChildRead>(), nullptr);
+}
+
+TEST_F(SearchResults, AreReadLineByLineByAScreenReader)
+{
+    newSearch();
+    search("*", -1);
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&list());
+    ASSERT_NE(spoken, nullptr);
+    EXPECT_EQ(spoken->role(), QAccessible::List);
+    EXPECT_EQ(spoken->text(QAccessible::Name), "Search results:");
+    ASSERT_EQ(spoken->childCount(), 31102);
+    for (int line : {0, 1, 15000, 31101}) {
+        EXPECT_EQ(spoken->child(line)->text(QAccessible::Name), list().text(line));
+        EXPECT_EQ(spoken->child(line)->role(), QAccessible::ListItem);
+    }
+}
+
+TEST_F(SearchResults, AreCopiedByTheButtonAndTheMenu)
+{
+    newSearch();
+    search("Jesus chorou", 44);
+    boxes.shown.clear();
+    const QString expected = "Search Results:\r\n" + list().text(0) + "\r\n(PT)";
+    click(*window().cmdCopySR);
+    EXPECT_EQ(QApplication::clipboard()->text(), expected);
+    QApplication::clipboard()->clear();
+    choose("mnuCopySR");
+    EXPECT_EQ(QApplication::clipboard()->text(), expected);
+    EXPECT_TRUE(boxes.shown.isEmpty());
+}
+
+TEST_F(SearchResults, AreCopiedUpToTheLimitWithAWordAboutIt)
+{
+    newSearch();
+    search("Deus", -1);
+    boxes.shown.clear();
+    QApplication::clipboard()->setText("before");
+    QString atMessage;
+    boxes.whileShown = [&] {
+        atMessage = QApplication::clipboard()->text();
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    };
+    click(*window().cmdCopySR);
+    EXPECT_EQ(atMessage, "before") << "the word comes first";
+    QString expected = "Search Results:";
+    int copied = 0;
+    while (expected.size() <= 30500)
+        expected += "\r\n" + list().text(copied++);
+    EXPECT_EQ(box(), QString("information|Kestrel Reader: Portuguese Version|"
+                             "Only the first %1 verses will be copied to the Clipboard!")
+                         .arg(copied));
+    EXPECT_EQ(QApplication::clipboard()->text(), expected + "\r\n(PT)");
+}
+
+TEST_F(SearchResults, ReportAClipboardThatTakesNothing)
+{
+    services.clipboardWorks = false;
+    const int count = list().count();
+    click(*window().cmdCopySR);
+    EXPECT_EQ(box(), "exclamation|Clipboard Error|Error 521: Can't open Clipboard");
+    EXPECT_EQ(list().count(), count);
+    EXPECT_TRUE(isInResultsMode());
+}

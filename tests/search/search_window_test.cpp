@@ -1,0 +1,626 @@
+// The search window by events: its layouts, the steps of a search, the repeat check, keys.
+#include "search/SearchSession.h"
+#include "widgets/Twips.h"
+#include <QLabel>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+using SearchWindow = SearchSession;
+
+namespace {
+
+const QString allVerses = "SELECT * FROM NewTestament";
+
+/// Records when a widget comes and goes.
+class Appearances : public QObject
+{
+public:
+    explicit Appearances(QWidget& widget) { widget.installEventFilter(this); }
+    QStringList seen;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show)
+            seen << "shown";
+        if (event->type() == QEvent::Hide)
+            seen << "hidden";
+        return false;
+    }
+};
+
+} // namespace
+
+TEST_F(SearchWindow, HasItsCaptions)
+{
+    const struct
+    {
+        QString shown;
+        const char* caption;
+    } rows[] = {{window().Label1->text(), "S&earch for verses containing the following text:"},
+                {window().Label3->text(), "Select &book(s) to scan:"},
+                {window().Label2->text(), "Search &results:"},
+                {window().chkWholeWrd->text(), "Match &whole word(s) only"},
+                {window().cmdOK->toolTip(), "Search"},
+                {window().cmdCancel->toolTip(), "Cancel/Close"},
+                {window().cmdHelp->toolTip(), "Help"},
+                {window().cmdHideList->toolTip(), "New Search"},
+                {window().cmdCopySR->toolTip(), "Copy Search Results to Clipboard"},
+                {window().caption(), "Advanced Search"}};
+    for (const auto& row : rows)
+        EXPECT_EQ(row.shown, row.caption);
+    for (const QWidget* control : window().findChildren<QWidget*>())
+        EXPECT_EQ(control->font().family(), "Tahoma") << control->objectName().toStdString();
+}
+
+TEST_F(SearchWindow, NamesItsControlsForAScreenReader)
+{
+    const struct
+    {
+        const QWidget* control;
+        const char* name;
+        const char* spoken;
+    } rows[] = {{window().Text1, "Text1", "Search for verses containing the following text:"},
+                {window().Combo1, "Combo1", "Connective"},
+                {window().Text2, "Text2", "Second word or phrase"},
+                {window().Combo2, "Combo2", "Select book(s) to scan:"},
+                {window().chkWholeWrd, "chkWholeWrd", "Match whole word(s) only"},
+                {window().List1, "List1", "Search results:"},
+                {window().cmdOK, "cmdOK", "Search"},
+                {window().cmdCancel, "cmdCancel", "Cancel/Close"},
+                {window().cmdHelp, "cmdHelp", "Help"},
+                {window().cmdHideList, "cmdHideList", "New Search"},
+                {window().cmdCopySR, "cmdCopySR", "Copy Search Results to Clipboard"}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(row.control->objectName(), row.name);
+        EXPECT_EQ(row.control->accessibleName(), row.spoken);
+    }
+    EXPECT_EQ(window().objectName(), "frmAdvSearch");
+    EXPECT_EQ(window().Label1->buddy(), window().Text1);
+    EXPECT_EQ(window().Label2->buddy(), window().List1);
+    EXPECT_EQ(window().Label3->buddy(), window().Combo2);
+}
+
+TEST_F(SearchWindow, HasItsMenus)
+{
+    EXPECT_EQ(menuBarCaptions(), QStringList({"&File", "&Edit", "&Search", "&Tools", "&Window", "&Help"}));
+    ASSERT_NE(menuItem("mnuCopySR"), nullptr);
+    EXPECT_EQ(menuItem("mnuCopySR")->text(), "&Copy Search Results to Clipboard");
+    EXPECT_TRUE(menuItem("mnuCopySR")->shortcut().isEmpty());
+    EXPECT_FALSE(menuItem("mnuCopySR")->isEnabled());
+}
+
+TEST_F(SearchWindow, OpensWithItsDefaults)
+{
+    EXPECT_EQ(window().Combo1->currentText(), "And containing");
+    EXPECT_EQ(window().Combo1->count(), 3);
+    EXPECT_EQ(window().Combo1->itemText(1), "and Not containing");
+    EXPECT_EQ(window().Combo1->itemText(2), "Or containing");
+    EXPECT_EQ(window().Combo2->count(), 75);
+    EXPECT_EQ(window().Combo2->currentIndex(), 44);
+    EXPECT_EQ(window().Combo2->currentText(), "The Four Gospels");
+    EXPECT_FALSE(window().chkWholeWrd->isChecked());
+    EXPECT_FALSE(window().cmdOK->isEnabled());
+    EXPECT_FALSE(window().Animation1->isVisible());
+    for (const QWidget* hidden : std::initializer_list<QWidget*>{window().List1, window().Label2,
+                                                                 window().cmdCopySR, window().cmdHideList}) {
+        EXPECT_FALSE(hidden->isVisible()) << hidden->objectName().toStdString();
+        EXPECT_FALSE(hidden->isEnabled()) << hidden->objectName().toStdString();
+    }
+    EXPECT_TRUE(window().Text1->hasFocus());
+}
+
+TEST_F(SearchWindow, OpensAtTheTopLeftInItsShortSize)
+{
+    const int width = toTwips(window().cmdOK->geometry().right() + 1) + 160;
+    EXPECT_EQ(outer(window()).pos(), QPoint(0, 0));
+    EXPECT_EQ(outer(window()).size(), QSize(twips(width), twips(2920)));
+}
+
+TEST_F(SearchWindow, KeepsItsSizeInEachLayout)
+{
+    const int width = outer(window()).width();
+    outer(window()).resize(900, 500);
+    EXPECT_EQ(outer(window()).size(), QSize(width, twips(2920)));
+    search("amor");
+    EXPECT_EQ(outer(window()).size(), QSize(width, twips(5325)));
+    outer(window()).resize(300, 200);
+    EXPECT_EQ(outer(window()).size(), QSize(width, twips(5325)));
+    newSearch();
+    EXPECT_EQ(outer(window()).size(), QSize(width, twips(2920)));
+}
+
+TEST_F(SearchWindow, ComesBackToItsSizeAfterBeingMaximised)
+{
+    const int width = outer(window()).width();
+    outer(window()).showMaximized();
+    EXPECT_GT(outer(window()).width(), width);
+    search("amor");
+    EXPECT_TRUE(outer(window()).isMaximized());
+    EXPECT_GT(list().width(), width) << "the list takes the room";
+    outer(window()).showNormal();
+    EXPECT_EQ(outer(window()).size(), QSize(width, twips(5325)));
+    EXPECT_LT(list().width(), width);
+    outer(window()).showMinimized();
+    EXPECT_TRUE(outer(window()).isMinimized());
+    outer(window()).showNormal();
+    EXPECT_EQ(outer(window()).size(), QSize(width, twips(5325)));
+}
+
+TEST_F(SearchWindow, CutsAndOverlapsNothingInEitherLayout)
+{
+    for (bool tall : {false, true}) {
+        if (tall)
+            search("amor");
+        QList<QWidget*> shown;
+        for (QWidget* control : window().findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+            if (control->isVisible() || control == window().Animation1)
+                shown << control;
+        for (const QWidget* control : shown) {
+            EXPECT_TRUE(window().rect().contains(control->geometry())) << control->objectName().toStdString();
+            if (qobject_cast<const QLabel*>(control) || qobject_cast<const QComboBox*>(control) ||
+                control == window().chkWholeWrd) {
+                EXPECT_GE(control->width(), control->sizeHint().width())
+                    << control->objectName().toStdString();
+                EXPECT_GE(control->height(), control->sizeHint().height())
+                    << control->objectName().toStdString();
+            }
+            for (const QWidget* other : shown) {
+                EXPECT_FALSE(other != control && control->geometry().intersects(other->geometry()))
+                    << control->objectName().toStdString() << " " << other->objectName().toStdString();
+            }
+        }
+        EXPECT_GE(shown.size(), tall ? 16 : 12);
+    }
+}
+
+TEST_F(SearchWindow, IsTabbedThroughInReadingOrder)
+{
+    const auto order = [this] {
+        QStringList names;
+        window().Text1->setFocus();
+        do {
+            names << QApplication::focusWidget()->objectName();
+            press(Qt::Key_Tab);
+        } while (QApplication::focusWidget() != window().Text1 && names.size() < 20);
+        return names;
+    };
+    EXPECT_EQ(order(),
+              QStringList({"Text1", "Combo1", "Text2", "Combo2", "chkWholeWrd", "cmdCancel", "cmdHelp"}));
+    window().Text1->setText("amor");
+    EXPECT_EQ(order().mid(5), QStringList({"cmdOK", "cmdCancel", "cmdHelp"}));
+}
+
+TEST_F(SearchWindow, EnablesTheButtonForAnyTextButBlanks)
+{
+    window().Text1->setFocus();
+    press(Qt::Key_Space);
+    EXPECT_FALSE(window().cmdOK->isEnabled());
+    press(Qt::Key_A);
+    EXPECT_TRUE(window().cmdOK->isEnabled());
+    press(Qt::Key_Backspace);
+    EXPECT_FALSE(window().cmdOK->isEnabled());
+}
+
+TEST_F(SearchWindow, GivesTheFocusToTheTextAfterTheCheckBox)
+{
+    window().chkWholeWrd->setFocus();
+    press(Qt::Key_Space);
+    EXPECT_TRUE(window().chkWholeWrd->isChecked());
+    EXPECT_TRUE(window().Text1->hasFocus());
+}
+
+TEST_F(SearchWindow, SearchesAndShowsTheResults)
+{
+    QStringList atMessage;
+    boxes.whileShown = [&] {
+        atMessage << (isInResultsMode() ? "results" : "input");
+        atMessage << (QApplication::overrideCursor() ? "hourglass" : "default");
+        atMessage << (window().Animation1->isVisible() ? "clip" : "no clip");
+        atMessage << (list().hasFocus() ? "focus" : "no focus");
+    };
+    Appearances clip(*window().Animation1);
+    search("amor");
+    EXPECT_EQ(sql(), allVerses + " WHERE VerseNumber BETWEEN 1 AND 7957 AND KJVerseText LIKE '*amor*'");
+    EXPECT_GT(list().count(), 100);
+    EXPECT_EQ(box(), found(list().count()));
+    EXPECT_EQ(atMessage, QStringList({"results", "default", "no clip", "no focus"}));
+    EXPECT_EQ(clip.seen, QStringList({"shown", "hidden"}));
+    EXPECT_TRUE(list().hasFocus());
+    EXPECT_TRUE(lines().first().startsWith("Mt:"));
+    EXPECT_EQ(list().selected(), -1);
+}
+
+TEST_F(SearchWindow, TurnsIntoResultsModeAndBack)
+{
+    const QColor face = window().palette().color(QPalette::Button);
+    const QColor paper = window().palette().color(QPalette::Base);
+    const QList<QWidget*> inputs = {window().Text1, window().Text2, window().Combo1, window().Combo2};
+    search("amor");
+    for (QWidget* input : inputs) {
+        EXPECT_FALSE(input->isEnabled());
+        EXPECT_EQ(input->palette().color(QPalette::Disabled, QPalette::Base), face);
+    }
+    EXPECT_FALSE(window().chkWholeWrd->isEnabled());
+    EXPECT_FALSE(window().cmdOK->isEnabled());
+    for (QWidget* shown : std::initializer_list<QWidget*>{window().List1, window().Label2, window().cmdCopySR,
+                                                          window().cmdHideList}) {
+        EXPECT_TRUE(shown->isVisible());
+        EXPECT_TRUE(shown->isEnabled());
+    }
+    EXPECT_TRUE(menuItem("mnuCopySR")->isEnabled());
+
+    const int count = list().count();
+    newSearch();
+    for (QWidget* input : inputs) {
+        EXPECT_TRUE(input->isEnabled());
+        EXPECT_EQ(input->palette().color(QPalette::Active, QPalette::Base), paper);
+    }
+    EXPECT_TRUE(window().chkWholeWrd->isEnabled());
+    EXPECT_TRUE(window().cmdOK->isEnabled());
+    for (QWidget* hidden : std::initializer_list<QWidget*>{window().List1, window().Label2,
+                                                           window().cmdCopySR, window().cmdHideList}) {
+        EXPECT_FALSE(hidden->isVisible());
+        EXPECT_FALSE(hidden->isEnabled());
+    }
+    EXPECT_FALSE(menuItem("mnuCopySR")->isEnabled());
+    EXPECT_EQ(list().count(), count) << "the list keeps its lines";
+    EXPECT_EQ(window().Text1->text(), "amor");
+    EXPECT_TRUE(window().Text1->hasFocus());
+}
+
+TEST_F(SearchWindow, StaysAsItIsWithoutAMatch)
+{
+    Appearances clip(*window().Animation1);
+    boxes.whileShown = [&] { EXPECT_EQ(QApplication::overrideCursor(), nullptr); };
+    search("xyzzy");
+    EXPECT_EQ(box(), noMatches);
+    EXPECT_FALSE(isInResultsMode());
+    EXPECT_TRUE(window().cmdOK->isEnabled());
+    EXPECT_EQ(clip.seen, QStringList({"shown", "hidden"}));
+}
+
+TEST_F(SearchWindow, ReportsAPatternThatCannotBeValid)
+{
+    Appearances clip(*window().Animation1);
+    boxes.whileShown = [&] { EXPECT_EQ(QApplication::overrideCursor(), nullptr); };
+    search("[");
+    EXPECT_EQ(box(), failedTitle + "Error 93: Invalid pattern string" + aborted);
+    EXPECT_EQ(list().count(), 0);
+    EXPECT_EQ(sql(), allVerses);
+    EXPECT_FALSE(isInResultsMode());
+    EXPECT_EQ(clip.seen, QStringList({"shown", "hidden"}));
+}
+
+TEST_F(SearchWindow, EmptiesTheListWhenALaterQueryFails)
+{
+    search("amor");
+    newSearch();
+    boxes.shown.clear();
+    search("amor[");
+    EXPECT_EQ(box(), failedTitle + "Error 93: Invalid pattern string" + aborted);
+    EXPECT_EQ(list().count(), 0);
+}
+
+TEST_F(SearchWindow, RepeatsAFailureWithoutRunningItAndWithoutAnError)
+{
+    search("[");
+    box();
+    Appearances clip(*window().Animation1);
+    search("[");
+    EXPECT_EQ(box(), failedTitle + "Error 0: " + aborted);
+    EXPECT_EQ(clip.seen, QStringList({"hidden"}).mid(1)) << "the clip shows while a query runs";
+}
+
+TEST_F(SearchWindow, RepeatsNoMatchesWithoutAQuery)
+{
+    search("xyzzy");
+    box();
+    window().Data1.setRecordSource("untouched");
+    search("XYZZY");
+    EXPECT_EQ(box(), noMatches);
+    EXPECT_EQ(sql(), "untouched");
+}
+
+TEST_F(SearchWindow, RepeatsTheResultsWithoutAQuery)
+{
+    search("amor");
+    const QStringList before = lines();
+    newSearch();
+    boxes.shown.clear();
+    window().Data1.setRecordSource("untouched");
+    search("AMOR", 47, "", 2);
+    EXPECT_EQ(sql(), "untouched");
+    EXPECT_EQ(box(), found(static_cast<int>(before.size())));
+    EXPECT_EQ(lines(), before);
+    EXPECT_TRUE(isInResultsMode());
+    EXPECT_TRUE(list().hasFocus());
+}
+
+TEST_F(SearchWindow, RunsAnewWhenAnInputChanged)
+{
+    const struct
+    {
+        const char* text1;
+        int range;
+        const char* text2;
+        int connective;
+        bool wholeWord;
+    } rows[] = {{"ódio", 47, "", 0, false},     {"amor", 44, "", 0, false},    {"amor", 47, "ódio", 0, false},
+                {"amor", 47, "ódio", 2, false}, {"amor", 47, "ira", 2, false}, {"amor", 47, "ira", 2, true}};
+    search("amor");
+    for (const auto& row : rows) {
+        newSearch();
+        window().Data1.setRecordSource("untouched");
+        search(row.text1, row.range, row.text2, row.connective, row.wholeWord);
+        EXPECT_NE(sql(), "untouched") << row.text1 << row.text2;
+        if (!isInResultsMode()) // nothing found: the button of the next round needs the results mode
+            search("Deus");
+    }
+}
+
+TEST_F(SearchWindow, ForgetsOnlyTheFirstWordWhenItIsClosed)
+{
+    search("xyzzy", 47, "ira", 1);
+    box();
+    press(Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_EQ(open<frmAdvSearch>(), nullptr);
+    frame().openSearch();
+    EXPECT_EQ(window().Text1->text(), "");
+    search("xyzzy", 47, "ira", 1);
+    EXPECT_NE(sql(), "") << "it was taken for a repeat";
+    box();
+    window().Data1.setRecordSource("untouched");
+    search("xyzzy", 47, "ira", 1);
+    EXPECT_EQ(sql(), "untouched");
+}
+
+TEST_F(SearchWindow, KeepsTheOtherMemoryWhenItIsClosed)
+{
+    search("[", 47, "ira", 2);
+    box();
+    window().Text1->setText("");
+    outer(window()).close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    frame().openSearch();
+    // With no first word again, as the memory has it, all the rest is as it was: a repeat of the failure.
+    search("", 47, "ira", 2);
+    EXPECT_TRUE(boxes.shown.isEmpty()) << "the button is disabled";
+    window().cmdOK->setEnabled(true);
+    click(*window().cmdOK);
+    EXPECT_EQ(box(), failedTitle + "Error 0: " + aborted);
+}
+
+TEST_F(SearchWindow, TrimsTheTexts)
+{
+    search("  amor ", 47, " Deus  ");
+    EXPECT_EQ(sql(), allVerses + " WHERE VerseNumber BETWEEN 1 AND 7957 AND KJVerseText LIKE '*amor*' AND "
+                                 "KJVerseText LIKE '*Deus*'");
+}
+
+TEST_F(SearchWindow, WrapsTheSecondWordOnlyWhenThereIsOne)
+{
+    search("amor", 47, "", 0, true);
+    EXPECT_TRUE(sql().endsWith("KJVerseText LIKE '*[!0-9a-zA-Z]amor[!0-9a-zA-Z]*'"));
+    newSearch();
+    search("amor", 47, "Deus", 2, true);
+    EXPECT_TRUE(sql().endsWith("AND (KJVerseText LIKE '*[!0-9a-zA-Z]amor[!0-9a-zA-Z]*' OR "
+                               "KJVerseText LIKE '*[!0-9a-zA-Z]Deus[!0-9a-zA-Z]*')"));
+}
+
+TEST_F(SearchWindow, SearchesAnApostropheAsAnyCharacter)
+{
+    search("d'água", 4);
+    EXPECT_TRUE(sql().endsWith("KJVerseText LIKE '*d?água*'"));
+    EXPECT_GT(list().count(), 0);
+    EXPECT_TRUE(lines().join(' ').contains("d’água"));
+}
+
+TEST_F(SearchWindow, FindsTheVersesOfEzrToThoseOfEz)
+{
+    ASSERT_EQ(window().Combo2->itemText(30), "Ez");
+    search("Deus", 30);
+    EXPECT_TRUE(lines().first().startsWith("Ezr:"));
+    EXPECT_TRUE(lines().last().startsWith("Ez:"));
+}
+
+TEST_F(SearchWindow, EndsAWholeWordBeforeAnAccentedLetter)
+{
+    search("na", 47, "", 0, true);
+    EXPECT_TRUE(list().count() > 0);
+    bool hasFalseFind = false;
+    for (const QString& line : lines())
+        hasFalseFind |= !QRegularExpression("\\bna\\b", QRegularExpression::CaseInsensitiveOption |
+                                                            QRegularExpression::UseUnicodePropertiesOption)
+                             .match(line)
+                             .hasMatch();
+    EXPECT_TRUE(hasFalseFind) << "as in \"nação\"";
+}
+
+TEST_F(SearchWindow, ScansEverythingWithoutARange)
+{
+    search("*", -1);
+    EXPECT_EQ(list().count(), 31102);
+    EXPECT_TRUE(list().text(0).startsWith("Mt:1:1 "));
+    EXPECT_TRUE(list().text(31101).startsWith("Mal:4:6 "));
+    EXPECT_EQ(box(), found(31102));
+}
+
+TEST_F(SearchWindow, CountsASingleMatchInTheSameWords)
+{
+    search("Jesus chorou", 44);
+    EXPECT_EQ(box(), found(1));
+}
+
+TEST_F(SearchWindow, LeavesTheQueryAsItWasForNoConnective)
+{
+    search("amor", 47);
+    const QString before = sql();
+    const int count = list().count();
+    newSearch();
+    search("amor", 47, "Deus", -1);
+    EXPECT_EQ(sql(), before);
+    EXPECT_EQ(list().count(), count);
+}
+
+TEST_F(SearchWindow, SearchesWithEnterWhereverTheFocusIs)
+{
+    window().Text1->setText("amor");
+    for (QWidget* control : std::initializer_list<QWidget*>{window().Text1, window().Combo2, window().Text2,
+                                                            window().cmdCancel}) {
+        control->setFocus();
+        press(control == window().Text2 ? Qt::Key_Enter : Qt::Key_Return);
+        EXPECT_TRUE(isInResultsMode()) << control->objectName().toStdString();
+        EXPECT_EQ(boxes.shown.size(), 1) << control->objectName().toStdString();
+        boxes.shown.clear();
+        newSearch();
+    }
+}
+
+TEST_F(SearchWindow, DoesNothingForEnterWithoutTextOrInResultsMode)
+{
+    window().Text1->setFocus();
+    window().Text1->setText("  ");
+    press(Qt::Key_Return);
+    EXPECT_TRUE(boxes.shown.isEmpty());
+    search("amor");
+    boxes.shown.clear();
+    window().cmdCancel->setFocus();
+    press(Qt::Key_Return);
+    EXPECT_TRUE(boxes.shown.isEmpty());
+    EXPECT_NE(open<frmAdvSearch>(), nullptr);
+}
+
+TEST_F(SearchWindow, ClosesByEscAndByItsButton)
+{
+    window().Combo1->setFocus();
+    press(Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(open<frmAdvSearch>(), nullptr);
+    frame().openSearch();
+    click(*window().cmdCancel);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(open<frmAdvSearch>(), nullptr);
+}
+
+TEST_F(SearchWindow, IsNotResetByTheSearchCommand)
+{
+    search("amor");
+    outer(window()).showMinimized();
+    frame().openSelection();
+    press(Qt::Key_F3);
+    EXPECT_FALSE(outer(window()).isMinimized());
+    EXPECT_EQ(activeForm(), &window());
+    EXPECT_TRUE(isInResultsMode());
+    EXPECT_EQ(window().Text1->text(), "amor");
+}
+
+TEST_F(SearchWindow, SendsTheHelpKeyForItsHelpButton)
+{
+    class HelpKeys : public QObject
+    {
+    public:
+        HelpKeys() { qApp->installEventFilter(this); }
+        int presses = 0;
+
+    protected:
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            if (event->type() == QEvent::KeyPress && watched == QApplication::focusWidget() &&
+                static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1)
+                ++presses;
+            return false;
+        }
+    } keys;
+    click(*window().cmdHelp);
+    EXPECT_EQ(keys.presses, 1);
+}
+
+TEST_F(SearchWindow, GivesItsControlsTheAltKeysThatMenusWantToo)
+{
+    window().Combo1->setFocus();
+    press(Qt::Key_E, Qt::AltModifier);
+    EXPECT_TRUE(window().Text1->hasFocus());
+    press(Qt::Key_B, Qt::AltModifier);
+    EXPECT_TRUE(window().Combo2->hasFocus());
+    press(Qt::Key_W, Qt::AltModifier);
+    EXPECT_TRUE(window().chkWholeWrd->isChecked());
+    EXPECT_TRUE(window().Text1->hasFocus()) << "as after any click of the check box";
+    search("amor");
+    window().cmdCancel->setFocus();
+    press(Qt::Key_R, Qt::AltModifier);
+    EXPECT_TRUE(list().hasFocus());
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(SearchWindow, LeavesTheMenusReachable)
+{
+    QMenu* edit = nullptr;
+    for (const QAction* entry : frame().menuBar()->actions())
+        if (entry->text() == "&Edit")
+            edit = entry->menu();
+    ASSERT_NE(edit, nullptr);
+    window().Text1->setFocus();
+    QTest::keyPress(QApplication::focusWidget(), Qt::Key_Alt);
+    QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Alt, Qt::AltModifier);
+    ASSERT_TRUE(frame().menuBar()->hasFocus());
+    press(Qt::Key_E);
+    EXPECT_TRUE(edit->isVisible());
+    edit->close();
+
+    search("amor"); // the text rests now, so that its key is the menu's alone
+    press(Qt::Key_E, Qt::AltModifier);
+    EXPECT_TRUE(edit->isVisible());
+    edit->close();
+}
+
+TEST_F(SearchWindow, PlaysItsClipWhileTheQueryRuns)
+{
+    ASSERT_GT(window().Animation1->frameCount(), 1);
+    window().Text1->setText("*");
+    window().Combo2->setCurrentIndex(-1);
+    class Playing : public QObject
+    {
+    public:
+        explicit Playing(AnimationPlayer& clip)
+            : m_clip(clip)
+        {
+            clip.installEventFilter(this);
+        }
+        bool wasPainted = false;
+
+    protected:
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            wasPainted |= event->type() == QEvent::Paint && m_clip.isPlaying();
+            return false;
+        }
+
+    private:
+        AnimationPlayer& m_clip;
+    } playing(*window().Animation1);
+    boxes.whileShown = [&] { EXPECT_FALSE(window().Animation1->isPlaying()); };
+    click(*window().cmdOK);
+    EXPECT_TRUE(playing.wasPainted);
+}
+
+TEST_F(SearchWindow, SearchesWithoutItsClipOrWithADamagedOne)
+{
+    for (const QByteArray& clip : {QByteArray(), QByteArray("RIFF"), QByteArray(5000, 'x')}) {
+        QTemporaryDir folder;
+        ASSERT_TRUE(QFile::copy(KESTREL_INSTALL_DIR "/KESTRPT.DAT", folder.filePath("KESTRPT.DAT")));
+        if (!clip.isEmpty()) {
+            QFile file(folder.filePath("SEARCH.AVI"));
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write(clip);
+        }
+        boxes.shown.clear();
+        program = std::make_unique<Program>(folder.path());
+        program->showFrame();
+        frame().openSearch();
+        search("amor");
+        EXPECT_TRUE(isInResultsMode());
+        EXPECT_EQ(box(), found(list().count()));
+    }
+}
