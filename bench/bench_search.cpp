@@ -1,0 +1,116 @@
+// What a reader waits for in the search window: from the click of the button to the message that tells how
+// many verses were found, in the real frame without a screen.
+//
+// The database is named in KESTREL_DATABASE; the clip lies beside it.
+
+#include "app/Application.h"
+#include "app/MDIParent.h"
+#include "app/Program.h"
+#include "search/frmAdvSearch.h"
+#include "widgets/MsgBox.h"
+#include "widgets/SoftBttn.h"
+#include <benchmark/benchmark.h>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFileInfo>
+#include <QLineEdit>
+
+namespace {
+
+struct Search
+{
+    const char* text1;
+    const char* text2 = "";
+    int connective = 0;
+    bool wholeWord = false;
+    int range = -1; ///< no entry: the whole Bible
+};
+
+benchmark::State* measured = nullptr; ///< whose clock runs now
+QString messageText;
+
+frmAdvSearch& window()
+{
+    return *QApplication::activeWindow()->findChild<frmAdvSearch*>();
+}
+
+void settle()
+{
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+}
+
+/// Makes the next search another one than the last, so that it is run and not repeated.
+void forgetLast(frmAdvSearch& form)
+{
+    form.Text1->setText("xyzzy");
+    form.Text2->clear();
+    form.cmdOK->click();
+}
+
+void set(frmAdvSearch& form, const Search& search)
+{
+    form.Text1->setText(search.text1);
+    form.Text2->setText(search.text2);
+    form.Combo1->setCurrentIndex(search.connective);
+    form.Combo2->setCurrentIndex(search.range);
+    form.chkWholeWrd->setChecked(search.wholeWord);
+}
+
+void run(benchmark::State& state, const Search& search)
+{
+    frmAdvSearch& form = window();
+    for (auto _ : state) {
+        state.PauseTiming();
+        forgetLast(form);
+        set(form, search);
+        settle();
+        measured = &state;
+        state.ResumeTiming();
+        form.cmdOK->click(); // the message stops the clock
+        if (!messageText.endsWith("found."))
+            state.SkipWithError("nothing was found");
+        settle();
+        form.cmdHideList->click();
+        settle();
+        state.ResumeTiming();
+    }
+    state.counters["rows"] = messageText.section(' ', 0, 0).toInt();
+}
+
+void registerAll()
+{
+    const auto add = [](const char* name, const Search& search) {
+        benchmark::RegisterBenchmark(name, run, search)->Unit(benchmark::kMillisecond);
+    };
+    add("search one word", {"amor"});
+    add("search whole word", {"amor", "", 0, true});
+    add("search whole word Deus", {"Deus", "", 0, true});
+    add("search two words with OR", {"Deus", "rei", 2});
+    add("search Old Testament", {"amor", "", 0, false, 4});
+    add("search all verses", {"*"});
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    benchmark::Initialize(&argc, argv);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    Application application(argv);
+    MsgBox::setBackEnd([](const MsgBox::Message& message) {
+        if (measured)
+            measured->PauseTiming();
+        measured = nullptr;
+        messageText = message.text;
+        return MsgAnswer::Ok;
+    });
+    Program program(QFileInfo(qEnvironmentVariable("KESTREL_DATABASE", "KESTRPT.DAT")).absolutePath());
+    program.showFrame();
+    QApplication::setActiveWindow(program.frame());
+    program.frame()->openSearch();
+    settle();
+    registerAll();
+    benchmark::RunSpecifiedBenchmarks();
+}
