@@ -30,7 +30,6 @@ void Form::loadInto(QMdiArea& area)
     connect(window, &QMdiSubWindow::windowStateChanged, this, &Form::windowStateChanged);
     m_loaded = true;
     Form_Load();
-    window->show();
 }
 
 QString Form::caption() const
@@ -48,7 +47,10 @@ Form::WindowState Form::state() const
     const QMdiSubWindow* window = subWindow();
     if (!window)
         return Normal;
-    return window->isMinimized() ? Minimized : window->isMaximized() ? Maximized : Normal;
+    if (window->isMinimized())
+        return Minimized;
+    // While the area resizes a maximised window, the window itself denies being one.
+    return m_maximized || window->isMaximized() ? Maximized : Normal;
 }
 
 void Form::setState(WindowState state)
@@ -69,6 +71,7 @@ void Form::activate()
     QMdiSubWindow* window = subWindow();
     if (!window)
         return;
+    window->show();
     window->mdiArea()->setActiveSubWindow(window);
     takeFocus();
 }
@@ -190,6 +193,7 @@ QMdiSubWindow* Form::subWindow() const
 
 void Form::windowStateChanged(Qt::WindowStates oldState, Qt::WindowStates newState)
 {
+    m_maximized = newState.testFlag(Qt::WindowMaximized);
     constexpr auto shape = Qt::WindowMinimized | Qt::WindowMaximized;
     if ((oldState & shape) != (newState & shape))
         Form_Resize();

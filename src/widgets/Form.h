@@ -12,8 +12,8 @@ class Shell;
 
 /// A child window of the main frame: the one place that knows how such a window lives in the frame's area.
 ///
-/// Its life: made with its controls, loadInto() runs Form_Load and shows it, Form_Activate and
-/// Form_Deactivate follow the active window, Form_Resize every change of size or state, Form_Unload its
+/// Its life: made with its controls, loadInto() runs Form_Load, the first activate() shows it, Form_Activate
+/// and Form_Deactivate follow the active window, Form_Resize every change of size or state, Form_Unload its
 /// closing, which deletes it. Outer sizes and positions are those of the whole window with its title bar and
 /// border, in twips.
 class Form : public QWidget
@@ -25,7 +25,8 @@ public:
 
     ~Form() override;
 
-    /// Puts the window into the area, runs Form_Load and shows it.
+    /// Puts the window into the area and runs Form_Load. It is not shown yet, so that whoever loads it can
+    /// hand something to it before Form_Activate.
     void loadInto(QMdiArea& area);
 
     QString caption() const;
@@ -33,7 +34,7 @@ public:
 
     WindowState state() const;
     void setState(WindowState state);
-    /// Brings the window to the front and gives it the keyboard focus.
+    /// Shows the window, brings it to the front and gives it the keyboard focus.
     void activate();
     /// What every window does that hands something to this one: restore it if it is minimised, then activate
     /// it.
@@ -94,4 +95,5 @@ private:
     QPointer<QWidget> m_lastFocus;
     bool m_loaded = false;
     bool m_active = false;
+    bool m_maximized = false;
 };
