@@ -29,6 +29,8 @@ MDIParent::MDIParent(Program& program)
     setWindowIcon(picture(PictureId::Application));
     m_area->setAccessibleName("Windows");
     m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder);
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded); // a map can be larger than the frame
+    m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     makeToolbar();
     m_menus = {Menus::file(*this, *this), Menus::search(*this, *this), Menus::tools(*this, *this),
                Menus::help(*this, *this)};
@@ -103,7 +105,10 @@ void MDIParent::openSearch()
     show(single(m_search, m_searchMemory));
 }
 
-void MDIParent::openStudyAids() {}
+void MDIParent::openStudyAids()
+{
+    show(single(m_mapSel));
+}
 
 void MDIParent::launchNotepad() {}
 
@@ -133,7 +138,7 @@ ChapRead& MDIParent::chapterWindow()
 
 ChildMapDsp& MDIParent::mapWindow()
 {
-    throw std::logic_error("not built yet");
+    return single(m_mapDsp);
 }
 
 ProgramFlags& MDIParent::flags()

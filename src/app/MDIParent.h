@@ -1,5 +1,7 @@
 #pragma once
 
+#include "maps/ChildMapDsp.h"
+#include "maps/ChildMapSel.h"
 #include "read/ChapRead.h"
 #include "read/ChildRead.h"
 #include "search/frmAdvSearch.h"
@@ -76,4 +78,6 @@ private:
     QPointer<ChapRead> m_chapter;
     QPointer<frmAdvSearch> m_search;
     SearchMemory m_searchMemory;
+    QPointer<ChildMapSel> m_mapSel;
+    QPointer<ChildMapDsp> m_mapDsp;
 };

@@ -1,0 +1,63 @@
+#include "maps/ChoiceList.h"
+
+#include <QKeyEvent>
+
+namespace {
+
+int characterOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return 13;
+    case Qt::Key_Space:
+        return 32;
+    default:
+        return 0;
+    }
+}
+
+bool isStep(int key)
+{
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Home;
+}
+
+} // namespace
+
+ChoiceList::ChoiceList(const QString& name, QWidget* parent)
+    : QListWidget(parent)
+{
+    setObjectName(name);
+}
+
+void ChoiceList::keyPressEvent(QKeyEvent* event)
+{
+    Q_EMIT keyDown();
+    const int character = characterOf(event->key());
+    const QList<QListWidgetItem*> chosen = selectedItems();
+    if (chosen.isEmpty() && isStep(event->key()))
+        selectionModel()->clearCurrentIndex(); // the first step goes to the first entry, not to the second
+    if (character != 0 && currentItem())
+        currentItem()->setSelected(true);
+    else
+        QListWidget::keyPressEvent(event);
+    if (selectedItems() != chosen)
+        Q_EMIT click();
+    if (character != 0)
+        Q_EMIT keyPress(character);
+}
+
+void ChoiceList::mouseReleaseEvent(QMouseEvent* event)
+{
+    QListWidget::mouseReleaseEvent(event);
+    QListWidgetItem* item = itemAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && item && item == currentItem())
+        Q_EMIT click();
+}
+
+QItemSelectionModel::SelectionFlags ChoiceList::selectionCommand(const QModelIndex& index,
+                                                                 const QEvent*) const
+{
+    // One entry is chosen, and stays so: no modifier key takes the choice back.
+    return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+}

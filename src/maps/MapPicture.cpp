@@ -1,0 +1,124 @@
+#include "maps/MapPicture.h"
+
+#include "widgets/Twips.h"
+#include <QApplication>
+#include <QBuffer>
+#include <QDrag>
+#include <QImageReader>
+#include <QMimeData>
+#include <QMouseEvent>
+
+namespace {
+
+constexpr QSizeF extentOfNone(735, 735);
+constexpr int dragPreviewSize = 160;
+
+// What goes beyond these is damage, and would fill the memory.
+constexpr qreal fewestDotsPerInch = 72;
+constexpr qint64 mostPixels = 16'000'000;
+
+qreal naturalTwips(int pixels, int dotsPerMeter, int dotsPerMeterOfNone)
+{
+    const qreal dotsPerInch = dotsPerMeter * 0.0254;
+    const bool isGiven = dotsPerMeter != dotsPerMeterOfNone && dotsPerInch >= fewestDotsPerInch;
+    return toTwips(pixels) * (isGiven ? 96 / dotsPerInch : 1);
+}
+
+} // namespace
+
+MapPicture::MapPicture(QWidget* parent)
+    : QLabel(parent)
+{
+    takeNaturalSize();
+}
+
+void MapPicture::setImage(const QImage& image)
+{
+    m_image = image;
+    if (!m_stretch || m_image.isNull())
+        takeNaturalSize();
+    else
+        scalePixmap();
+}
+
+void MapPicture::setStretch(bool stretch)
+{
+    m_stretch = stretch;
+    if (!m_stretch)
+        takeNaturalSize();
+}
+
+void MapPicture::setExtent(QSizeF extent)
+{
+    m_extent = extent;
+    resize(twips(extent.width()), twips(extent.height()));
+    scalePixmap();
+}
+
+void MapPicture::takeNaturalSize()
+{
+    setExtent(m_image.isNull() ? extentOfNone : naturalExtent(m_image));
+}
+
+// Always from the full image, so that nothing gets lost on the way and a dense screen shows all of it.
+void MapPicture::scalePixmap()
+{
+    if (m_image.isNull()) {
+        clear();
+        return;
+    }
+    const qreal ratio = devicePixelRatioF();
+    QPixmap pixmap =
+        QPixmap::fromImage(m_image.scaled(size() * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    pixmap.setDevicePixelRatio(ratio);
+    setPixmap(pixmap);
+}
+
+void MapPicture::paintEvent(QPaintEvent* event)
+{
+    if (!m_image.isNull() && pixmap().devicePixelRatio() != devicePixelRatioF())
+        scalePixmap(); // the window moved to another screen
+    QLabel::paintEvent(event);
+}
+
+void MapPicture::mousePressEvent(QMouseEvent* event)
+{
+    m_pressedAt = event->position().toPoint();
+    event->accept();
+}
+
+void MapPicture::mouseMoveEvent(QMouseEvent* event)
+{
+    const QPoint way = event->position().toPoint() - m_pressedAt;
+    if (!event->buttons().testFlag(Qt::LeftButton) || m_image.isNull() ||
+        way.manhattanLength() < QApplication::startDragDistance())
+        return;
+    auto* contents = new QMimeData;
+    contents->setImageData(m_image);
+    auto* drag = new QDrag(this);
+    drag->setMimeData(contents);
+    drag->setPixmap(pixmap().scaled(QSize(dragPreviewSize, dragPreviewSize) * devicePixelRatioF(),
+                                    Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    drag->exec(Qt::CopyAction);
+    Q_EMIT dragCompleted();
+}
+
+QImage decodedImage(const QByteArray& bytes)
+{
+    QBuffer buffer;
+    buffer.setData(bytes);
+    QImageReader reader(&buffer);
+    reader.setDecideFormatFromContent(true);
+    const QSize declared = reader.size();
+    if (qint64(declared.width()) * declared.height() > mostPixels)
+        return {};
+    return reader.read(); // the toolkit has a limit of its own where a format does not declare its size
+}
+
+QSizeF naturalExtent(const QImage& image)
+{
+    // An image that was given no resolution has that of a new one.
+    const QImage none(1, 1, QImage::Format_RGB32);
+    return {naturalTwips(image.width(), image.dotsPerMeterX(), none.dotsPerMeterX()),
+            naturalTwips(image.height(), image.dotsPerMeterY(), none.dotsPerMeterY())};
+}

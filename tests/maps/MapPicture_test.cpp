@@ -1,0 +1,151 @@
+#include "maps/MapPicture.h"
+
+#include <gtest/gtest.h>
+#include <QAccessible>
+#include <QDrag>
+#include <QMimeData>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+QImage imageOf(int width, int height, int dotsPerInch)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    image.setDotsPerMeterX(qRound(dotsPerInch / 0.0254));
+    image.setDotsPerMeterY(qRound(dotsPerInch / 0.0254));
+    return image;
+}
+
+class MapPictureTest : public testing::Test
+{
+protected:
+    void pressAt(QPoint place) { QTest::mousePress(&picture, Qt::LeftButton, {}, place); }
+
+    void moveTo(QPointF place)
+    {
+        QMouseEvent move(QEvent::MouseMove, place, picture.mapToGlobal(place), Qt::NoButton, Qt::LeftButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(&picture, &move);
+    }
+
+    QWidget window;
+    MapPicture picture{&window};
+};
+
+} // namespace
+
+TEST_F(MapPictureTest, HasTheDesignedSizeBeforeAnImageComes)
+{
+    EXPECT_EQ(picture.extent(), QSizeF(735, 735));
+    EXPECT_EQ(picture.size(), QSize(49, 49));
+}
+
+TEST_F(MapPictureTest, TakesTheNaturalSizeByTheResolution)
+{
+    picture.setImage(imageOf(400, 300, 192));
+    EXPECT_EQ(picture.size(), QSize(200, 150));
+    EXPECT_NEAR(picture.extent().width(), 3000, 0.1);
+    EXPECT_NEAR(picture.extent().height(), 2250, 0.1);
+}
+
+TEST_F(MapPictureTest, CountsPixelsWhereThereIsNoResolution)
+{
+    picture.setImage(QImage(300, 200, QImage::Format_RGB32));
+    EXPECT_EQ(picture.extent(), QSizeF(4500, 3000));
+}
+
+TEST_F(MapPictureTest, CountsPixelsWhereTheResolutionIsAbsurd)
+{
+    picture.setImage(imageOf(30, 20, 1));
+    EXPECT_EQ(picture.size(), QSize(30, 20));
+}
+
+TEST_F(MapPictureTest, EmptyPictureHasTheDesignedSizeAgain)
+{
+    picture.setImage(imageOf(400, 300, 192));
+    picture.setImage({});
+    EXPECT_EQ(picture.extent(), QSizeF(735, 735));
+    EXPECT_TRUE(picture.pixmap().isNull());
+}
+
+TEST_F(MapPictureTest, StretchedPictureKeepsItsSizeForAnotherImage)
+{
+    picture.setStretch(true);
+    picture.setExtent({6000, 3000});
+    picture.setImage(imageOf(400, 300, 192));
+    EXPECT_EQ(picture.size(), QSize(400, 200));
+    EXPECT_EQ(picture.pixmap().size(), QSize(400, 200));
+}
+
+TEST_F(MapPictureTest, WithoutStretchingTheNaturalSizeComesBack)
+{
+    picture.setImage(imageOf(400, 300, 192));
+    picture.setStretch(true);
+    picture.setExtent(picture.extent() * 1.2);
+    EXPECT_EQ(picture.size(), QSize(240, 180));
+    picture.setStretch(false);
+    EXPECT_EQ(picture.size(), QSize(200, 150));
+}
+
+TEST_F(MapPictureTest, PaintsFinelyWhatIsScaledDown)
+{
+    // Lines of one pixel, black and white in turn: scaled to half they are an even grey.
+    QImage lines = imageOf(400, 300, 192);
+    for (int x = 0; x < lines.width(); ++x)
+        for (int y = 0; y < lines.height(); ++y)
+            lines.setPixel(x, y, x % 2 ? 0xffffffff : 0xff000000);
+    picture.setImage(lines);
+    const QImage shown = picture.grab().toImage();
+    ASSERT_EQ(shown.size(), QSize(200, 150) * shown.devicePixelRatio());
+    EXPECT_NEAR(qGray(shown.pixel(shown.rect().center())), 127, 3);
+}
+
+TEST_F(MapPictureTest, TellsAScreenReaderThatItIsAPicture)
+{
+    picture.setImage(imageOf(400, 300, 192));
+    picture.setAccessibleName("The Journeys of Abraham");
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&picture);
+    EXPECT_EQ(spoken->role(), QAccessible::Graphic);
+    EXPECT_EQ(spoken->text(QAccessible::Name), "The Journeys of Abraham");
+}
+
+TEST_F(MapPictureTest, CanBeDraggedOutWithAllItsPixels)
+{
+    window.show();
+    picture.setImage(imageOf(400, 300, 192));
+    QSignalSpy completed(&picture, &MapPicture::dragCompleted);
+    QTimer::singleShot(50, &QDrag::cancel); // where dragging waits for the mouse
+    pressAt({50, 50});
+    moveTo({90, 90});
+    const auto* drag = picture.findChild<QDrag*>();
+    ASSERT_TRUE(drag);
+    EXPECT_EQ(qvariant_cast<QImage>(drag->mimeData()->imageData()).size(), QSize(400, 300));
+    EXPECT_EQ(completed.count(), 1);
+}
+
+TEST_F(MapPictureTest, ShortWayOrEmptyPictureStartsNoDrag)
+{
+    window.show();
+    QSignalSpy completed(&picture, &MapPicture::dragCompleted);
+    pressAt({10, 10});
+    moveTo({40, 40});
+    picture.setImage(imageOf(400, 300, 192));
+    moveTo({12, 12});
+    EXPECT_EQ(completed.count(), 0);
+}
+
+TEST(DecodedImage, BytesThatAreNoPictureGiveAnEmptyOne)
+{
+    EXPECT_TRUE(decodedImage("").isNull());
+    EXPECT_TRUE(decodedImage("no picture at all").isNull());
+}
+
+TEST(DecodedImage, SizeThatNoMapHasIsRefused)
+{
+    EXPECT_TRUE(decodedImage("P6 60000 60000 255\n").isNull());
+    EXPECT_FALSE(decodedImage("P6 1 1 255\nabc").isNull());
+}

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "maps/ChildMapDsp.h"
+#include "maps/ChildMapSel.h"
+#include "maps/ChoiceList.h"
+#include "maps/MapPicture.h"
+#include "maps/TabStrip.h"
+#include "support/Session.h"
+#include "TestDatabase.h"
+#include "widgets/SoftBttn.h"
+#include <QTemporaryDir>
+
+/// The running program over a database of the real topics and a few small pictures.
+class MapsTest : public Session
+{
+protected:
+    void SetUp() override
+    {
+        static const QTemporaryDir folder;
+        static const bool made = (makeTestDatabase(folder.filePath("KESTRPT.DAT")), true);
+        ASSERT_TRUE(made);
+        start(folder.path());
+    }
+
+    void start(const QString& directory)
+    {
+        program = std::make_unique<Program>(directory);
+        program->showFrame();
+        frame().resize(1024, 740);
+        QApplication::setActiveWindow(&frame());
+        QTest::qWait(0);
+    }
+
+    ChildMapSel& openStudyAids()
+    {
+        click(*frame().cmdTools);
+        return get<ChildMapSel>();
+    }
+
+    static void choosePage(ChildMapSel& aids, int page)
+    {
+        QTest::mouseClick(aids.TabStrip1, Qt::LeftButton, {}, aids.TabStrip1->tabRect(page).center());
+    }
+
+    static void clickEntry(ChoiceList* list, int row)
+    {
+        list->scrollToItem(list->item(row));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                          list->visualItemRect(list->item(row)).center());
+    }
+
+    ChildMapDsp& openMap(int number)
+    {
+        ChildMapSel& aids = openStudyAids();
+        choosePage(aids, 1);
+        clickEntry(aids.lstMaps, number - 1);
+        return get<ChildMapDsp>();
+    }
+
+    void closeWindow(QWidget& form)
+    {
+        outer(form).close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    /// A drag of the mouse with its left button; one step, so that nothing depends on the time it takes.
+    static void drag(QWidget* widget, QPoint from, QPoint to)
+    {
+        moveTo(widget, from, Qt::NoButton);
+        QTest::mousePress(widget, Qt::LeftButton, {}, from);
+        moveTo(widget, to, Qt::LeftButton);
+        QTest::mouseRelease(widget, Qt::LeftButton, {}, to);
+    }
+
+    static void moveTo(QWidget* widget, QPoint place, Qt::MouseButtons buttons)
+    {
+        QMouseEvent move(QEvent::MouseMove, QPointF(place), widget->mapToGlobal(QPointF(place)), Qt::NoButton,
+                         buttons, Qt::NoModifier);
+        QApplication::sendEvent(widget, &move);
+    }
+};
