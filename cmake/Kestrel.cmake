@@ -12,6 +12,8 @@ if(CCACHE)
 endif()
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
+# g++ 12 sees overlaps in joined strings where there are none.
+add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 add_compile_definitions(QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
                         QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
 if(KESTREL_SANITIZE)

@@ -12,7 +12,6 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QVBoxLayout>
-#include <stdexcept>
 
 MDIParent::MDIParent(Program& program)
     : picToolbar(new QWidget(this))

@@ -1,0 +1,151 @@
+"""The maps as they are committed have no fault, and each fault put into a copy of them is found."""
+import json
+import shutil
+from pathlib import Path
+
+import pytest
+
+import check_maps
+
+MAPS = Path(__file__).parents[2] / "data" / "maps"
+
+
+@pytest.fixture
+def copy(tmp_path):
+    for file in [*MAPS.glob("map*.png"), MAPS / "maps.tsv", MAPS / "labels.json"]:
+        shutil.copy(file, tmp_path)
+    return tmp_path
+
+
+def rewrite(folder, change):
+    """Changes the rows of maps.tsv, the header being the first."""
+    path = folder / "maps.tsv"
+    rows = [line.split("\t") for line in path.read_text(encoding="utf-8").splitlines()]
+    change(rows)
+    path.write_text("".join("\t".join(row) + "\n" for row in rows), encoding="utf-8")
+
+
+def put(row, column, value):
+    def change(rows):
+        rows[row][column] = value
+    return change
+
+
+def test_committed_maps_have_no_fault():
+    assert check_maps.check_rows(MAPS) == []
+    assert check_maps.check_names(MAPS) == []
+
+
+def test_main_says_whether_there_are_faults(copy, monkeypatch, capsys):
+    monkeypatch.setattr("sys.argv", ["check_maps.py", str(copy)])
+    assert check_maps.main() == 0
+    (copy / "map05.png").unlink()
+    assert check_maps.main() == 1
+    assert "map05.png: no such file" in capsys.readouterr().out
+
+
+@pytest.mark.parametrize("change, fault", [
+    (put(0, 4, "Description"), "wrong header"),
+    (lambda rows: rows.pop(), "not numbered 1 to 11"),
+    (lambda rows: rows.insert(1, rows.pop(2)), "not numbered 1 to 11"),
+    (lambda rows: rows[3].append("more"), "not five columns"),
+    (put(2, 4, ""), "map 2: the description does not begin"),
+    (put(2, 4, "Jacob's Journey"), "map 2: the description does not begin"),
+    (put(9, 4, "Paul's Third Journey, told twice"), "map 9: the description does not begin"),
+    (put(4, 4, "The Twelve Tribes and Division of the Land" + " again" * 30), "has 222 characters"),
+    (put(8, 2, "1001"), "natural size 1001 x"),
+    (put(4, 3, "801"), "x 801 is too large"),
+    (put(8, 2, "900"), "differ in shape"),
+])
+def test_fault_in_the_list_is_found(copy, change, fault):
+    rewrite(copy, change)
+    assert any(fault in found for found in check_maps.check_rows(copy))
+
+
+def test_equal_descriptions_are_found(copy, monkeypatch):
+    monkeypatch.setattr(check_maps, "NAMES", ["Map"] * 11)
+
+    def change(rows):
+        for row in rows[1:]:
+            row[4] = "Map of the same"
+    rewrite(copy, change)
+    assert "two maps have the same description" in check_maps.check_rows(copy)
+
+
+def test_missing_last_line_feed_is_found(copy):
+    path = copy / "maps.tsv"
+    path.write_text(path.read_text(encoding="utf-8").rstrip("\n"), encoding="utf-8")
+    assert check_maps.check_rows(copy) == ["maps.tsv does not end with a line feed"]
+
+
+def test_missing_picture_is_found(copy):
+    (copy / "map03.png").unlink()
+    assert check_maps.check_rows(copy) == ["map03.png: no such file"]
+
+
+@pytest.mark.parametrize("content", [b"", b"GIF89a" + bytes(40), b"\x89PNG\r\n\x1a\n" + bytes(16)])
+def test_other_than_png_is_found(copy, content):
+    (copy / "map03.png").write_bytes(content)
+    assert check_maps.check_rows(copy) == ["map03.png: not a PNG picture"]
+
+
+@pytest.mark.parametrize("place", [16, 20])
+def test_too_few_pixels_are_found(copy, place):
+    data = bytearray((copy / "map01.png").read_bytes())
+    data[place:place + 4] = (1000).to_bytes(4, "big")
+    (copy / "map01.png").write_bytes(data)
+    assert any("stored pixels are too few" in fault for fault in check_maps.check_rows(copy))
+
+
+def test_too_many_bytes_are_found(copy):
+    with open(copy / "map01.png", "ab") as file:
+        file.write(bytes(check_maps.MOST_BYTES))
+    assert any("bytes together" in fault for fault in check_maps.check_rows(copy))
+
+
+def change_names(folder, change):
+    path = folder / "labels.json"
+    sheets = json.loads(path.read_text(encoding="utf-8"))
+    change(sheets)
+    path.write_text(json.dumps(sheets), encoding="utf-8")
+
+
+def test_overlapping_names_are_found(copy):
+    def change(sheets):
+        names = sheets["map08"]["panels"][0]["names"]
+        names[1]["quads"] = [[[x + 3, y + 3] for x, y in quad] for quad in names[0]["quads"]]
+    change_names(copy, change)
+    assert any("overlap" in fault for fault in check_maps.check_names(copy))
+
+
+def test_cut_name_is_found(copy):
+    def change(sheets):
+        names = sheets["map08"]["panels"][0]["names"]
+        names[0]["quads"] = [[[0, 5], [40, 5], [40, 15], [0, 15]]]
+    change_names(copy, change)
+    assert any("is cut by the frame" in fault for fault in check_maps.check_names(copy))
+
+
+def test_covered_name_is_found(copy):
+    def change(sheets):
+        left, top, _, _ = sheets["map08"]["box"]["rect"]
+        names = sheets["map08"]["panels"][0]["names"]
+        names[0]["quads"] = [[[left - 9, top + 9], [left + 9, top + 9], [left + 9, top + 19], [left - 9, top + 19]]]
+    change_names(copy, change)
+    assert any("lies under a box" in fault for fault in check_maps.check_names(copy))
+
+
+def test_missing_map_is_found(copy):
+    change_names(copy, lambda sheets: sheets.pop("map11"))
+    assert "labels.json has not eleven maps" in check_maps.check_names(copy)
+
+
+@pytest.mark.parametrize("other, overlap", [
+    ([[5, 5], [15, 5], [15, 15], [5, 15]], True),
+    ([[10, 0], [20, 0], [20, 10], [10, 10]], False),      # side by side
+    ([[15, -5], [25, 5], [15, 15], [11, 5]], False),      # turned, near
+    ([[9, 0], [20, 11], [20, 20], [0, 0]], True),         # turned, into it
+])
+def test_shapes(other, overlap):
+    square = [[0, 0], [10, 0], [10, 10], [0, 10]]
+    assert check_maps._overlap(square, other) == overlap
