@@ -103,7 +103,7 @@ void frmAdvSearch::placeControls()
     {
         QWidget* control;
         const char* name;
-        const char* spokenName;
+        const char* spokenName; ///< where the control has none of its own
         QRect twips;
     } designs[] = {
         {Label1, "Label1", "", {120, 75, 7800, 240}},
@@ -115,18 +115,19 @@ void frmAdvSearch::placeControls()
         {Combo2, "Combo2", "Select book(s) to scan:", {120, 1560, 3600, 360}},
         {chkWholeWrd, "chkWholeWrd", "Match whole word(s) only", {120, 2040, 3600, 330}},
         {Animation1, "Animation1", "", {4320, 1395, 3600, 900}},
-        {cmdOK, "cmdOK", "Search", {8070, 75, 405, 405}},
-        {cmdCancel, "cmdCancel", "Cancel/Close", {8070, 525, 405, 405}},
-        {cmdHelp, "cmdHelp", "Help", {8070, 975, 405, 405}},
-        {cmdHideList, "cmdHideList", "New Search", {8070, 1530, 405, 405}},
-        {cmdCopySR, "cmdCopySR", "Copy Search Results to Clipboard", {8070, 1980, 405, 405}},
+        {cmdOK, "cmdOK", "", {8070, 75, 405, 405}},
+        {cmdCancel, "cmdCancel", "", {8070, 525, 405, 405}},
+        {cmdHelp, "cmdHelp", "", {8070, 975, 405, 405}},
+        {cmdHideList, "cmdHideList", "", {8070, 1530, 405, 405}},
+        {cmdCopySR, "cmdCopySR", "", {8070, 1980, 405, 405}},
         {Label2, "Label2", "", {120, 2460, 3600, 240}},
         {List1, "List1", "Search results:", {120, 2715, listWidth, listHeight}},
     };
     QWidget* before = nullptr;
     for (const auto& design : designs) {
         design.control->setObjectName(design.name);
-        design.control->setAccessibleName(design.spokenName);
+        if (*design.spokenName)
+            design.control->setAccessibleName(design.spokenName);
         place(*design.control, design.twips.x(), design.twips.y(), design.twips.width(),
               design.twips.height());
         if (before)
