@@ -1,7 +1,10 @@
 #include "app/MDIParent.h"
 
 #include "app/ArrangeIcons.h"
+#include "app/Help.h"
+#include "app/Notepad.h"
 #include "app/Program.h"
+#include "widgets/BasePath.h"
 #include "widgets/Menus.h"
 #include "widgets/SoftBttn.h"
 #include "widgets/Twips.h"
@@ -22,6 +25,7 @@ MDIParent::MDIParent(Program& program)
     , cmdAbout(new SoftBttn("cmdAbout", PictureId::About, "About/QORV CD-ROM Offer", this))
     , m_program(program)
     , m_area(new QMdiArea(this))
+    , m_help(std::make_unique<Help>(program.basePath + helpFileName))
 {
     setObjectName("MDIParent");
     setWindowTitle("Kestrel Reader: Portuguese Version - Freeware");
@@ -109,9 +113,21 @@ void MDIParent::openStudyAids()
     show(single(m_mapSel));
 }
 
-void MDIParent::launchNotepad() {}
+void MDIParent::launchNotepad()
+{
+    ::launchNotepad(flags());
+}
 
-void MDIParent::about() {}
+void MDIParent::about()
+{
+    const QPointer<Form> active = m_activeForm;
+    if (active)
+        active->becomeActive(false);
+    flags().StartFormMode = 3;
+    m_program.showAbout();
+    if (active && active == m_activeForm)
+        active->becomeActive(true);
+}
 
 void MDIParent::exit()
 {
@@ -123,7 +139,10 @@ void MDIParent::arrangeIcons()
     ::arrangeIcons(*m_area);
 }
 
-void MDIParent::openHelp() {}
+void MDIParent::openHelp()
+{
+    m_help->open();
+}
 
 ChildRead& MDIParent::readingWindow()
 {
@@ -170,7 +189,8 @@ void MDIParent::MDIForm_Unload()
 bool MDIParent::event(QEvent* event)
 {
     const bool handled = QMainWindow::event(event);
-    if (event->type() == QEvent::WindowActivate)
+    // A click on the frame beside a modal window is no activation; it must not close the About window.
+    if (event->type() == QEvent::WindowActivate && !QApplication::activeModalWidget())
         MDIForm_Activate();
     return handled;
 }

@@ -7,10 +7,12 @@
 #include "search/frmAdvSearch.h"
 #include "select/ChildSelect.h"
 #include "widgets/Shell.h"
+#include <memory>
 #include <QMainWindow>
 #include <QPointer>
 
 class Form;
+class Help;
 class Program;
 class QMdiArea;
 class QMdiSubWindow;
@@ -52,6 +54,7 @@ public:
     QString basePath() const override;
 
     QMdiArea* area() const { return m_area; }
+    Help& help() { return *m_help; }
 
 protected:
     bool event(QEvent* event) override;
@@ -71,6 +74,7 @@ private:
 
     Program& m_program;
     QMdiArea* m_area;
+    std::unique_ptr<Help> m_help;
     QList<QMenu*> m_menus;
     QPointer<Form> m_activeForm;
     QPointer<ChildSelect> m_select;

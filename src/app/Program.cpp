@@ -28,6 +28,13 @@ void Program::showFrame()
     m_frame->load();
 }
 
+void Program::showAbout()
+{
+    m_startWindow = new frmStart(*this, m_frame.get());
+    m_startWindow->load();
+    m_startWindow->exec();
+}
+
 void Program::unloadStartWindow()
 {
     if (m_startWindow)

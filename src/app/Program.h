@@ -24,7 +24,8 @@ public:
     bool start();
     /// Shows the main frame, at the end of the splash.
     void showFrame();
-    /// Shows the start window as the About window; returns when it closes.
+    /// Shows the start window as the About window, over the frame; returns when it closes. `StartFormMode`
+    /// is 3.
     void showAbout();
     /// Closes the start window; does nothing when it is not open.
     void unloadStartWindow();

@@ -1,13 +1,21 @@
 #include "app/frmStart.h"
 
+#include "app/AboutLayout.h"
+#include "app/AboutTexts.h"
+#include "app/frmDN.h"
+#include "app/frmQORV.h"
+#include "app/LinkLabel.h"
 #include "app/Program.h"
 #include "app/StartupChecks.h"
+#include "widgets/Maker.h"
 #include "widgets/MsgBox.h"
-#include "widgets/Pictures.h"
+#include "widgets/Platform.h"
+#include "widgets/SoftBttn.h"
 #include "widgets/Twips.h"
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QTimer>
 
 namespace {
@@ -15,11 +23,27 @@ namespace {
 constexpr int splashMilliseconds = 2000;
 constexpr int margin = 150;
 
+ControlPlace placeOf(const QWidget& control)
+{
+    return {toTwips(control.x()), toTwips(control.y()), toTwips(control.width()), toTwips(control.height())};
+}
+
+void moveTo(QWidget& control, const ControlPlace& place)
+{
+    control.move(twips(place.left), twips(place.top));
+}
+
 } // namespace
 
-frmStart::frmStart(Program& program)
-    : QDialog(nullptr, Qt::Dialog | Qt::FramelessWindowHint)
+frmStart::frmStart(Program& program, QWidget* owner)
+    : QDialog(owner, Qt::Dialog | Qt::FramelessWindowHint)
     , Image1(new QLabel(this))
+    , Image2(new LinkLabel("Image2", picture(PictureId::Mail), this))
+    , cmdMail(new LinkLabel("cmdMail", "E-mail: " + Maker::mail, this))
+    , cmdMore(new SoftBttn("cmdMore", PictureId::MoreInfo, "More Info", this))
+    , cmdDonation(new SoftBttn("cmdDonation", PictureId::Donation, "DonationWare", this))
+    , cmdQORV(new SoftBttn("cmdQORV", PictureId::DiscOffer, "QORV CD-ROM Offer", this))
+    , cmdOK(new SoftBttn("cmdOK", PictureId::Ok, "OK", this))
     , Timer1(new QTimer(this))
     , m_program(program)
 {
@@ -31,11 +55,24 @@ frmStart::frmStart(Program& program)
     Image1->setPixmap(splashPicture(devicePixelRatioF()));
     Image1->move(twips(margin), twips(margin));
     Image1->adjustSize();
+    Image2->setToolTip(mailLink().toString());
+    Image2->setAccessibleName(cmdMail->text());
+    place(*Image2, margin, 4760, 360, 360);
+    cmdMail->move(twips(600), twips(4760));
+    cmdMail->adjustSize();
+    for (SoftBttn* button : {cmdMore, cmdDonation, cmdQORV, cmdOK})
+        place(*button, margin, 4760, 480, 480);
     Timer1->setObjectName("Timer1");
     Timer1->setTimerType(Qt::PreciseTimer);
     Timer1->setSingleShot(true);
     Timer1->setInterval(splashMilliseconds);
     connect(Timer1, &QTimer::timeout, this, &frmStart::Timer1_Timer);
+    connect(cmdMore, &SoftBttn::clicked, this, &frmStart::cmdMore_Click);
+    connect(cmdDonation, &SoftBttn::clicked, this, &frmStart::cmdDonation_Click);
+    connect(cmdQORV, &SoftBttn::clicked, this, &frmStart::cmdQORV_Click);
+    connect(cmdMail, &LinkLabel::clicked, this, &frmStart::cmdMail_Click);
+    connect(Image2, &LinkLabel::clicked, this, &frmStart::Image2_Click);
+    connect(cmdOK, &SoftBttn::clicked, this, &frmStart::cmdOK_Click);
 }
 
 bool frmStart::load()
@@ -45,22 +82,63 @@ bool frmStart::load()
 
 bool frmStart::Form_Load()
 {
+    if (isAbout()) {
+        Timer1->stop();
+        layOutAbout();
+        return true;
+    }
     if (!passesChecks())
         return false;
     setFixedSize(Image1->geometry().right() + 1 + twips(margin),
                  Image1->geometry().bottom() + 1 + twips(margin));
+    hideAboutControls();
     return true;
 }
 
 void frmStart::Form_Activate()
 {
-    if (m_program.flags.StartFormMode != 3)
+    if (!isAbout())
         setCursor(Qt::WaitCursor);
 }
 
 void frmStart::Timer1_Timer()
 {
     m_program.showFrame();
+}
+
+void frmStart::cmdMore_Click()
+{
+    MsgBox::show(informationText(), MsgIcon::Information);
+}
+
+void frmStart::cmdDonation_Click()
+{
+    (new frmDN(this))->exec();
+}
+
+void frmStart::cmdQORV_Click()
+{
+    (new frmQORV(this))->exec();
+}
+
+void frmStart::cmdMail_Click()
+{
+    Platform::current().openLink(mailLink());
+}
+
+void frmStart::Image2_Click()
+{
+    cmdMail_Click();
+}
+
+void frmStart::cmdOK_Click()
+{
+    close();
+}
+
+bool frmStart::isAbout() const
+{
+    return m_program.flags.StartFormMode == 3;
 }
 
 bool frmStart::passesChecks()
@@ -71,6 +149,37 @@ bool frmStart::passesChecks()
     return !refusal;
 }
 
+void frmStart::hideAboutControls()
+{
+    const QList<QWidget*> controls = {cmdOK, cmdMore, cmdQORV, cmdDonation, cmdMail, Image2};
+    for (QWidget* control : controls) {
+        control->setVisible(false);
+        control->setEnabled(false);
+    }
+}
+
+void frmStart::layOutAbout()
+{
+    AboutPlaces designed;
+    designed.Image1 = placeOf(*Image1);
+    designed.cmdOK = placeOf(*cmdOK);
+    designed.cmdMore = placeOf(*cmdMore);
+    designed.cmdDonation = placeOf(*cmdDonation);
+    designed.cmdQORV = placeOf(*cmdQORV);
+    designed.Image2 = placeOf(*Image2);
+    designed.cmdMail = placeOf(*cmdMail);
+
+    const AboutPlaces places = aboutLayout(designed);
+    moveTo(*cmdOK, places.cmdOK);
+    moveTo(*cmdMore, places.cmdMore);
+    moveTo(*cmdDonation, places.cmdDonation);
+    moveTo(*cmdQORV, places.cmdQORV);
+    moveTo(*Image2, places.Image2);
+    moveTo(*cmdMail, places.cmdMail);
+    setFixedSize(twips(places.windowWidth), twips(places.windowHeight));
+    cmdOK->setFocus();
+}
+
 void frmStart::changeEvent(QEvent* event)
 {
     QDialog::changeEvent(event);
@@ -78,17 +187,23 @@ void frmStart::changeEvent(QEvent* event)
         Form_Activate();
 }
 
+void frmStart::paintEvent(QPaintEvent* event)
+{
+    QDialog::paintEvent(event);
+    QPainter(this).drawRect(rect().adjusted(0, 0, -1, -1)); // no desktop draws an edge around it
+}
+
 void frmStart::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
-    if (m_program.flags.StartFormMode != 3)
+    if (!isAbout())
         Timer1->start();
 }
 
 void frmStart::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape)
-        close();
+        cmdOK_Click();
     else
         QDialog::keyPressEvent(event);
 }

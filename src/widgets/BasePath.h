@@ -8,3 +8,4 @@ QString basePath(QString directory);
 /// The names of the installed files, all in the program's directory.
 inline const QString databaseFileName = QStringLiteral("KESTRPT.DAT");
 inline const QString clipFileName = QStringLiteral("SEARCH.AVI");
+inline const QString helpFileName = QStringLiteral("KESTREL.HLP");

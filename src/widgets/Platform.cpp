@@ -48,7 +48,15 @@ bool Platform::previousInstance()
 
 bool Platform::startProgram(const QString& program)
 {
-    return QProcess::startDetached(program, {});
+    // The program must hold nothing of ours open: neither files inherited from whoever started us nor our
+    // output.
+    close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC);
+    QProcess process;
+    process.setProgram(program);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    return process.startDetached();
 }
 
 void Platform::openLink(const QUrl& link)

@@ -1,0 +1,59 @@
+#include "app/LinkLabel.h"
+
+#include "app/LinkColor.h"
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+
+LinkLabel::LinkLabel(const QString& name, const QString& text, QWidget* parent)
+    : QAbstractButton(parent)
+{
+    setObjectName(name);
+    setText(text);
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+}
+
+LinkLabel::LinkLabel(const QString& name, const QIcon& picture, QWidget* parent)
+    : QAbstractButton(parent)
+{
+    setObjectName(name);
+    setIcon(picture);
+    setFocusPolicy(Qt::NoFocus);
+    setCursor(Qt::PointingHandCursor);
+}
+
+QSize LinkLabel::sizeHint() const
+{
+    constexpr int roomForFocusRing = 6;
+    if (text().isEmpty())
+        return iconSize();
+    return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(roomForFocusRing, roomForFocusRing);
+}
+
+void LinkLabel::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+void LinkLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    if (text().isEmpty()) {
+        icon().paint(&painter, rect());
+        return;
+    }
+    QFont underlined = font();
+    underlined.setUnderline(true);
+    painter.setFont(underlined);
+    painter.setPen(linkColor(palette(), QPalette::Window, QPalette::WindowText));
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
+    if (!hasFocus())
+        return;
+    QStyleOptionFocusRect ring;
+    ring.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &ring, &painter, this);
+}

@@ -1,0 +1,80 @@
+#include "app/Notepad.h"
+
+#include "widgets/MsgBox.h"
+#include "widgets/Platform.h"
+#include "widgets/ProgramFlags.h"
+#include <QStandardPaths>
+
+namespace {
+
+constexpr int launchedBefore = 3;
+
+bool userWantsAnother()
+{
+    const QStringList lines = {
+        "Notepad has already been launched.",
+        "Would you like to launch a new copy of Notepad now?",
+        "",
+        "To switch to the previously launched copy of Notepad (assuming you have not closed it), press and "
+        "hold "
+        "down ALT while pressing TAB repeatedly to cycle through running applications and select Notepad, "
+        "then "
+        "release TAB. Notepad will come to the foreground. You may also click Notepad's button on Windows® "
+        "98 "
+        "taskbar.",
+        "",
+        "To launch a new copy of Notepad now, choose Yes.",
+    };
+    return MsgBox::show(lines.join("\r\n"), MsgIcon::Question, MsgButtons::YesNo) == MsgAnswer::Yes;
+}
+
+void reportFailure()
+{
+    MsgBox::show(
+        "A problem has been encountered while trying to launch Notepad.exe, the standard text editor that "
+        "ships with Windows.\r\n"
+        "Make sure Notepad.exe is on your system's Path and that it works properly.",
+        MsgIcon::Exclamation);
+}
+
+} // namespace
+
+const QStringList& standInEditors()
+{
+    static const QStringList editors = {
+        "gnome-text-editor",
+        "gedit", // GNOME
+        "kwrite",
+        "kate", // KDE
+        "mousepad",
+        "xed", // Xfce, Cinnamon
+        "pluma",
+        "featherpad", // MATE, LXQt
+        "l3afpad",
+        "leafpad", // LXDE
+    };
+    return editors;
+}
+
+QString textEditor()
+{
+#ifdef Q_OS_WIN
+    return "notepad.exe"; // the system searches the path itself
+#else
+    for (const QString& name : QStringList("notepad.exe") + standInEditors())
+        if (const QString path = QStandardPaths::findExecutable(name); !path.isEmpty())
+            return path;
+    return {};
+#endif
+}
+
+void launchNotepad(ProgramFlags& flags)
+{
+    if (flags.NotepadLaunched == launchedBefore && !userWantsAnother())
+        return;
+    const QString editor = textEditor();
+    if (!editor.isEmpty() && Platform::current().startProgram(editor))
+        flags.NotepadLaunched = launchedBefore;
+    else
+        reportFailure();
+}

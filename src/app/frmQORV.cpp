@@ -1,0 +1,8 @@
+#include "app/frmQORV.h"
+
+#include "app/AboutTexts.h"
+
+frmQORV::frmQORV(QWidget* owner)
+    : LetterWindow("frmQORV", "QORV CD-ROM Offer", discOfferText(), owner)
+{
+}
