@@ -54,7 +54,7 @@ MDIParent::~MDIParent()
 void MDIParent::load()
 {
     const QSize room = screen()->availableSize();
-    resize(qMin(1024, room.width() * 9 / 10), qMin(740, room.height() * 9 / 10));
+    resize(qMin(1160, room.width() * 92 / 100), qMin(860, room.height() * 92 / 100)); // room for a map
     QMainWindow::show();
     MDIForm_Load();
     // A desktop that does not give the focus to new windows must not leave the splash standing.
