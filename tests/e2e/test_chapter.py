@@ -2,6 +2,7 @@
 import json
 import os
 import pathlib
+import select
 import subprocess
 import time
 
@@ -25,7 +26,7 @@ def chapter_text(reader, desktop):
 
 @pytest.fixture
 def drop_target(desktop):
-    """Another program's window at the lower right, over the frame."""
+    """Another program's window, partly beside the frame on the right."""
     program = os.environ.get("KESTREL_DROP_TARGET", TOP / "build" / "release" / "tests" / "drop_target")
     process = subprocess.Popen([program], env=desktop.environment, stdout=subprocess.PIPE, text=True)
     desktop.wait_for_window("^Drop target$")
@@ -72,7 +73,8 @@ def test_selected_text_is_dropped_in_another_program_to_the_letter(reader, deskt
 
     import pyatspi
     x, y, width, height = chapter_text.queryText().getCharacterExtents(3, pyatspi.DESKTOP_COORDS)
-    drag(desktop, (x + width // 2, y + height // 2), (1100, 620))
+    drag(desktop, (x + width // 2, y + height // 2), (1200, 620))
+    assert select.select([drop_target.stdout], [], [], 20)[0], "nothing was dropped"
     dropped = json.loads(drop_target.stdout.readline())
 
     assert dropped["formats"] == ["text/plain"]
