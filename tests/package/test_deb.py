@@ -1,6 +1,7 @@
 """The Debian package: what it holds, what the validators say, and its life on a clean Debian 12."""
 import gzip
 import os
+import pathlib
 import re
 import shutil
 import stat
@@ -9,6 +10,7 @@ import subprocess
 
 import pytest
 
+TOP = pathlib.Path(__file__).resolve().parents[2]
 APPLICATION = "io.github.kestrelreader.KestrelReader"
 PROGRAM = "usr/lib/kestrel-reader"
 DATABASE = f"/{PROGRAM}/KESTRPT.DAT"
@@ -69,6 +71,7 @@ def test_version_is_the_same_everywhere(deb, tree):
     assert re.search(r'<release version="([^"]+)"', metainfo)[1] == version
     changelog = gzip.decompress((tree / "usr/share/doc/kestrel-reader/changelog.gz").read_bytes()).decode()
     assert changelog.startswith(f"kestrel-reader ({version}) ")
+    assert f"\n## {version}\n" in (TOP / "CHANGELOG.md").read_text(encoding="utf-8")
     manual = gzip.decompress((tree / "usr/share/man/man1/kestrel-reader.1.gz").read_bytes()).decode()
     assert f'"Kestrel Reader {version}"' in manual
 
