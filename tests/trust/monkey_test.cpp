@@ -83,6 +83,12 @@ protected:
         watchDialogs();
     }
 
+    /// A monkey that reaches nothing proves nothing.
+    static void TearDownTestSuite()
+    {
+        EXPECT_EQ(seen.size(), 6) << QStringList(seen.values()).join(" ").toStdString();
+    }
+
     /// A number from 0 to count - 1.
     int anyOf(qsizetype count) { return static_cast<int>(random() % static_cast<unsigned>(count)); }
 
@@ -448,12 +454,12 @@ protected:
     std::mt19937 randomOfDialogs; ///< its own, because dialogs answer by the clock
     std::deque<QString> told;
     int step = 0;
+    static inline QSet<QString> seen; ///< the windows that any of the runs had open
     int dialogsUsed = 0;
 };
 
 TEST_P(Monkey, LeavesEverythingInOrder)
 {
-    QSet<QString> seen;
     for (step = 1; step <= eventsOfOneRun; ++step) {
         doAnything();
         settle();
@@ -462,8 +468,6 @@ TEST_P(Monkey, LeavesEverythingInOrder)
         for (const Form* form : forms())
             seen << form->objectName();
     }
-    // A monkey that reaches nothing proves nothing.
-    EXPECT_EQ(seen.size(), 6) << QStringList(seen.values()).join(" ").toStdString();
     EXPECT_GT(boxes.shown.size(), 20);
     EXPECT_GT(dialogsUsed, 5);
 }
