@@ -1,6 +1,8 @@
 #include "app/Program.h"
 
 #include "app/MDIParent.h"
+#include "store/Database.h"
+#include "store/DataError.h"
 #include "widgets/BasePath.h"
 
 Program::Program(const QString& directory)
@@ -24,6 +26,7 @@ bool Program::start()
 
 void Program::showFrame()
 {
+    keepDatabase();
     m_frame = std::make_unique<MDIParent>(*this);
     m_frame->load();
 }
@@ -39,4 +42,13 @@ void Program::unloadStartWindow()
 {
     if (m_startWindow)
         m_startWindow->close();
+}
+
+void Program::keepDatabase()
+{
+    try {
+        m_database = Database::open((basePath + databaseFileName).toStdString());
+    } catch (const DataError&) {
+        // The first lookup meets the same error, and its window tells of it.
+    }
 }

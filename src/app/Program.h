@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QString>
 
+class Database;
 class MDIParent;
 
 /// The running program: what it remembers, and the one place that makes the start window and the main frame.
@@ -34,6 +35,9 @@ public:
     frmStart* startWindow() const { return m_startWindow; }
 
 private:
+    void keepDatabase();
+
     QPointer<frmStart> m_startWindow;
+    std::shared_ptr<Database> m_database; ///< for the data sources of all windows, which share it
     std::unique_ptr<MDIParent> m_frame;
 };
