@@ -1,0 +1,240 @@
+"""The program in surroundings that are not its own choice, and what it leaves behind in them."""
+import os
+import pathlib
+import re
+import shutil
+import stat
+import subprocess
+import tempfile
+import time
+
+import pytest
+from reader import Reader, install
+
+VERSE = "Mt:24:43"
+IGREJA = "2 verse(s) found."  # in the Gospels, which the window proposes
+FONTS = pathlib.Path("/usr/share/fonts/truetype/liberation")
+
+
+@pytest.fixture
+def copy(installed, tmp_path):
+    return install(installed, tmp_path / "kestrel")
+
+
+@pytest.fixture
+def wrapped(installed, tmp_path):
+    """A folder whose program starts the installed one by way of a command."""
+    def make(*command, folder=installed):
+        script = tmp_path / "wrapped" / "kestrel-reader"
+        script.parent.mkdir()
+        script.write_text(f"#!/bin/sh\nexec {' '.join(map(str, command))} {folder}/kestrel-reader\n")
+        script.chmod(0o755)
+        return script.parent
+    return make
+
+
+def frame(reader):
+    return reader.find("frame", starts="Kestrel Reader: Portuguese Version")
+
+
+def look_up(reader, desktop, reference, key):
+    desktop.key("F2", "ctrl+a")
+    desktop.type(reference)
+    desktop.key("Return")
+    return reader.find("frame", f"Reading Window -- {key}")
+
+
+def is_focused(node):
+    import pyatspi
+    return node.getState().contains(pyatspi.STATE_FOCUSED)
+
+
+def search(reader, desktop, words):
+    """Searches the Gospels; how many verses it found, as the message says it."""
+    desktop.key("F3")
+    reader.find("frame", "Advanced Search")
+    desktop.key("ctrl+a")
+    desktop.type(words)
+    desktop.key("Return")
+    found = reader.text_of_box("Search Results:")
+    desktop.key("Return")
+    results = reader.find("list", "Search results:")
+    reader.wait_for(lambda: is_focused(results), "the focus in the list of results")
+    return found
+
+
+def first_result(reader, desktop, key):
+    """Opens the first verse of the list."""
+    desktop.key("Down", "Return")
+    reader.find("frame", f"Reading Window -- {key}")
+
+
+def open_map(reader, desktop):
+    desktop.key("F8")
+    window = reader.find("frame", "Study Aids")
+    reader.click(reader.find("page tab", starts="Maps", within=window))
+    reader.click(reader.find("list item", within=reader.find("list", "Maps", window)))
+
+
+# --- It writes nothing ---
+
+WRITING = re.compile(r"O_WRONLY|O_RDWR|O_CREAT|O_TRUNC|O_TMPFILE")
+CHANGING = ("creat", "mkdir", "mkdirat", "mknod", "mknodat", "rename", "renameat", "renameat2", "unlink", "unlinkat",
+            "rmdir", "link", "linkat", "symlink", "symlinkat", "truncate", "ftruncate", "chmod", "fchmodat", "chown",
+            "lchown", "fchownat", "utime", "utimes", "utimensat", "futimesat", "setxattr", "removexattr")
+NO_FILES = ("/dev/", "/proc/")  # devices, and the kernel's own pages
+
+
+def changes(trace):
+    """The calls of a trace that succeed and open for writing, make, change or remove something in a file system."""
+    found = []
+    for line in trace.splitlines():
+        call = re.match(r"(?:\d+ +)?(\w+)\((.*)\) += (-?\d+)", line)
+        if not call or int(call[3]) < 0:
+            continue
+        path = re.search(r'"((?:[^"\\]|\\.)*)"', call[2])
+        writes = call[1] in CHANGING or (call[1] in ("open", "openat", "openat2") and WRITING.search(call[2]))
+        if writes and not (path and path[1].startswith(NO_FILES)):
+            found.append(line)
+    return found
+
+
+def test_the_trace_reader_sees_what_it_should():
+    assert changes('12 openat(AT_FDCWD, "/a/b", O_RDONLY|O_CLOEXEC) = 3') == []
+    assert changes('12 openat(AT_FDCWD, "/dev/null", O_RDWR) = 3') == []
+    assert changes('12 openat(AT_FDCWD, "/a/b", O_WRONLY|O_CREAT, 0600) = -1 EACCES (Permission denied)') == []
+    for line in ('12 openat(AT_FDCWD, "/a/b", O_WRONLY|O_CREAT, 0600) = 3', '12 mkdir("/a", 0700) = 0',
+                 'unlink("/a/b") = 0', '7  renameat2(AT_FDCWD, "/a", AT_FDCWD, "/b", 0) = 0',
+                 '12 openat(AT_FDCWD, "/a\\"/dev/", O_RDWR) = 3'):
+        assert changes(line) == [line]
+
+
+def test_it_writes_no_file_from_start_to_end(start, desktop, wrapped, tmp_path):
+    log = tmp_path / "trace"
+    # -D: the program keeps the process it was started as, and the tracer watches from the side
+    reader = start(wrapped("strace", "-D", "-f", "-qq", "-s", "4096", "-o", log, "-e", "trace=%file,ftruncate"))
+    frame(reader)
+    look_up(reader, desktop, VERSE, VERSE)
+    desktop.key("F9")
+    reader.find("frame", "Chapter Window -- Mt:24:")
+    assert search(reader, desktop, "ladrão").endswith("verse(s) found.")
+    open_map(reader, desktop)
+    reader.find("frame", starts="Map -- Abraham's Journeys")
+    desktop.key("F1")
+    desktop.wait_for_window("Help")
+    desktop.run("xdotool", "search", "--onlyvisible", "--name", "^Kestrel Reader: Portuguese", "windowactivate", "--sync")
+    desktop.key("alt+f", "x")
+    assert reader.wait() == 0
+    time.sleep(0.2)  # the tracer's last lines
+    trace = log.read_text(errors="replace")
+    assert "KESTRPT.DAT" in trace and "KESTREL.HLP" in trace and "SEARCH.AVI" in trace
+    assert changes(trace) == []
+
+
+# --- Locales ---
+
+@pytest.fixture(scope="module")
+def locales(tmp_path_factory):
+    """A folder with locales of other letters, digits and directions."""
+    folder = tmp_path_factory.mktemp("locales")
+    for name in ("pt_BR", "tr_TR", "ar_EG"):
+        subprocess.run(["localedef", "-i", name, "-f", "UTF-8", folder / f"{name}.UTF-8"], check=True)
+    return folder
+
+
+@pytest.mark.parametrize("locale", ["C", "pt_BR.UTF-8", "tr_TR.UTF-8", "ar_EG.UTF-8"])
+def test_every_locale_finds_the_same_verses(desktop, installed, locales, locale):
+    reader = Reader(desktop, installed, LC_ALL=locale, LOCPATH=str(locales))
+    try:
+        frame(reader)
+        look_up(reader, desktop, "mt:24:43", VERSE)
+        look_up(reader, desktop, "TI:1:1", "Ti:1:1")  # i and I are no pair in Turkish
+        assert search(reader, desktop, "IGREJA") == IGREJA
+        first_result(reader, desktop, "Mt:16:18")
+    finally:
+        errors = reader.end()
+    # The toolkit tells on standard error that it takes UTF-8 where the locale names no such thing.
+    assert errors == "" or locale == "C"
+
+
+# --- Other users, folders, fonts ---
+
+def test_a_folder_that_cannot_be_written_serves_another_user(desktop, installed, wrapped):
+    with tempfile.TemporaryDirectory() as name:
+        folder = install(installed, pathlib.Path(name) / "kestrel")
+        for path in (folder, *folder.iterdir()):
+            path.chmod(stat.S_IMODE(path.stat().st_mode) & ~0o222 | 0o444)
+        os.chmod(name, 0o755)
+        runtime = pathlib.Path(name) / "run"
+        runtime.mkdir(mode=0o700)
+        if os.geteuid() == 0:
+            os.chown(runtime, 65534, 65534)
+        nobody = ("setpriv", "--reuid", "65534", "--regid", "65534", "--clear-groups") if os.geteuid() == 0 else ()
+        reader = Reader(desktop, wrapped(*nobody, folder=folder), HOME="/nonexistent", XDG_RUNTIME_DIR=str(runtime),
+                        DBUS_SESSION_BUS_ADDRESS="unix:path=/nonexistent")  # the bus serves one user
+        try:
+            desktop.wait_for_window("^Kestrel Reader: Portuguese")
+            time.sleep(0.5)
+            desktop.key("F2", "ctrl+a")
+            desktop.type(VERSE)
+            desktop.key("Return", "ctrl+c")
+            reader.wait_for(lambda: desktop.clipboard().startswith(VERSE + "\r\n "), "the verse on the clipboard")
+            status = pathlib.Path(f"/proc/{reader.process.pid}/status").read_text()
+            assert os.geteuid() != 0 or "Uid:\t65534\t65534" in status
+        finally:
+            errors = reader.end()
+        assert errors == ""
+
+
+@pytest.mark.parametrize("font", ["LiberationSerif-Regular.ttf", None])
+def test_it_starts_with_one_font_and_with_none(desktop, installed, tmp_path, font):
+    fonts = tmp_path / "fonts"
+    fonts.mkdir()
+    if font:
+        shutil.copy(FONTS / font, fonts)
+    config = tmp_path / "fonts.conf"
+    config.write_text(f"<fontconfig><dir>{fonts}</dir><cachedir>{tmp_path}/cache</cachedir></fontconfig>")
+    reader = Reader(desktop, installed, FONTCONFIG_FILE=str(config))
+    try:
+        frame(reader)
+        look_up(reader, desktop, VERSE, VERSE)
+    finally:
+        print(reader.end())
+
+
+# --- Files that change under it ---
+
+@pytest.mark.parametrize("damage", ["noise", "pictures"])
+def test_a_damaged_clip_does_not_stop_a_search(start, desktop, copy, damage):
+    clip = copy / "SEARCH.AVI"
+    bytes_ = bytearray(clip.read_bytes())
+    if damage == "noise":
+        bytes_ = bytearray((i * 7919 >> 3) & 255 for i in range(len(bytes_)))
+    else:  # inside every picture, after its headers
+        for picture in re.finditer(rb"\xff\xda", bytes(bytes_)):
+            bytes_[picture.end() + 40:picture.end() + 60] = b"\xff\x01" * 10
+    assert bytes_ != clip.read_bytes()
+    clip.write_bytes(bytes_)
+    reader = start(copy)
+    frame(reader)
+    assert search(reader, desktop, "IGREJA") == IGREJA
+
+
+def test_files_removed_after_the_start_are_not_missed(start, desktop, copy):
+    reader = start(copy)
+    frame(reader)
+    for name in ("KESTRPT.DAT", "SEARCH.AVI"):
+        (copy / name).unlink()
+    look_up(reader, desktop, VERSE, VERSE)
+    assert search(reader, desktop, "IGREJA") == IGREJA
+    open_map(reader, desktop)
+    reader.find("frame", starts="Map -- Abraham's Journeys")
+    look_up(reader, desktop, "Rv", "Rv:1:1")
+
+
+def test_killed_in_the_splash_it_starts_again(start, copy):
+    first = start(copy)
+    first.find(None, "Kestrel Reader (PT)")
+    first.process.kill()
+    first.process.wait()
+    frame(start(copy))
