@@ -4,6 +4,7 @@
 #include "widgets/Fonts.h"
 #include "widgets/MsgBox.h"
 #include <exception>
+#include <QLoggingCategory>
 
 int Application::argumentCount = 1;
 
@@ -13,6 +14,8 @@ Application::Application(char* programName[])
     setApplicationName("kestrel-reader");
     setApplicationDisplayName(""); // captions are the windows' own
     setDesktopFileName("io.github.kestrelreader.KestrelReader");
+    // A damaged picture is left out, or shown as far as it goes; what its decoder says serves nobody.
+    QLoggingCategory::setFilterRules("qt.gui.imageio*=false");
     setStyle(new FrameStyle);
     Fonts::install();
     setFont(Fonts::tahomaOf(9));

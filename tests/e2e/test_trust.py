@@ -3,13 +3,12 @@ import os
 import pathlib
 import re
 import shutil
-import stat
 import subprocess
 import tempfile
 import time
 
 import pytest
-from reader import Reader, install
+from reader import install
 
 VERSE = "Mt:24:43"
 IGREJA = "2 verse(s) found."  # in the Gospels, which the window proposes
@@ -117,7 +116,7 @@ def test_it_writes_no_file_from_start_to_end(start, desktop, wrapped, tmp_path):
     look_up(reader, desktop, VERSE, VERSE)
     desktop.key("F9")
     reader.find("frame", "Chapter Window -- Mt:24:")
-    assert search(reader, desktop, "ladrão").endswith("verse(s) found.")
+    assert search(reader, desktop, "IGREJA") == IGREJA
     open_map(reader, desktop)
     reader.find("frame", starts="Map -- Abraham's Journeys")
     desktop.key("F1")
@@ -143,63 +142,60 @@ def locales(tmp_path_factory):
 
 
 @pytest.mark.parametrize("locale", ["C", "pt_BR.UTF-8", "tr_TR.UTF-8", "ar_EG.UTF-8"])
-def test_every_locale_finds_the_same_verses(desktop, installed, locales, locale):
-    reader = Reader(desktop, installed, LC_ALL=locale, LOCPATH=str(locales))
-    try:
-        frame(reader)
-        look_up(reader, desktop, "mt:24:43", VERSE)
-        look_up(reader, desktop, "TI:1:1", "Ti:1:1")  # i and I are no pair in Turkish
-        assert search(reader, desktop, "IGREJA") == IGREJA
-        first_result(reader, desktop, "Mt:16:18")
-    finally:
-        errors = reader.end()
-    # The toolkit tells on standard error that it takes UTF-8 where the locale names no such thing.
-    assert errors == "" or locale == "C"
+def test_every_locale_finds_the_same_verses(start, desktop, installed, locales, locale):
+    reader = start(installed, LC_ALL=locale, LOCPATH=str(locales))
+    frame(reader)
+    look_up(reader, desktop, "mt:24:43", VERSE)
+    look_up(reader, desktop, "TI:1:1", "Ti:1:1")  # i and I are no pair in Turkish
+    assert search(reader, desktop, "IGREJA") == IGREJA
+    first_result(reader, desktop, "Mt:16:18")
 
 
 # --- Other users, folders, fonts ---
 
-def test_a_folder_that_cannot_be_written_serves_another_user(desktop, installed, wrapped):
+NOBODY = 65534
+
+
+@pytest.fixture
+def locked(installed):
+    """An installation that everybody can read and nobody can write, and a private folder of another user."""
     with tempfile.TemporaryDirectory() as name:
-        folder = install(installed, pathlib.Path(name) / "kestrel")
-        for path in (folder, *folder.iterdir()):
-            path.chmod(stat.S_IMODE(path.stat().st_mode) & ~0o222 | 0o444)
-        os.chmod(name, 0o755)
-        runtime = pathlib.Path(name) / "run"
-        runtime.mkdir(mode=0o700)
+        top = pathlib.Path(name)
+        folder = install(installed, top / "kestrel")
+        (top / "run").mkdir(mode=0o700)
         if os.geteuid() == 0:
-            os.chown(runtime, 65534, 65534)
-        nobody = ("setpriv", "--reuid", "65534", "--regid", "65534", "--clear-groups") if os.geteuid() == 0 else ()
-        reader = Reader(desktop, wrapped(*nobody, folder=folder), HOME="/nonexistent", XDG_RUNTIME_DIR=str(runtime),
-                        DBUS_SESSION_BUS_ADDRESS="unix:path=/nonexistent")  # the bus serves one user
-        try:
-            desktop.wait_for_window("^Kestrel Reader: Portuguese")
-            time.sleep(0.5)
-            desktop.key("F2", "ctrl+a")
-            desktop.type(VERSE)
-            desktop.key("Return", "ctrl+c")
-            reader.wait_for(lambda: desktop.clipboard().startswith(VERSE + "\r\n "), "the verse on the clipboard")
-            status = pathlib.Path(f"/proc/{reader.process.pid}/status").read_text()
-            assert os.geteuid() != 0 or "Uid:\t65534\t65534" in status
-        finally:
-            errors = reader.end()
-        assert errors == ""
+            os.chown(top / "run", NOBODY, NOBODY)
+        for path in (*folder.iterdir(), folder, top):
+            path.chmod(0o555)
+        yield folder
+
+
+def test_a_folder_that_cannot_be_written_serves_another_user(locked, start, desktop, wrapped):
+    is_root = os.geteuid() == 0  # who else cannot become another user
+    other = ("setpriv", "--reuid", NOBODY, "--regid", NOBODY, "--clear-groups") if is_root else ()
+    reader = start(wrapped(*other, folder=locked), HOME="/nonexistent", XDG_RUNTIME_DIR=str(locked.parent / "run"),
+                   DBUS_SESSION_BUS_ADDRESS="unix:path=/nonexistent")  # the bus serves one user
+    desktop.wait_for_window("^Kestrel Reader: Portuguese")
+    desktop.run("xdotool", "search", "--name", "^Kestrel Reader: Portuguese", "windowactivate", "--sync")
+    desktop.key("F2", "ctrl+a")
+    desktop.type(VERSE)
+    desktop.key("Return", "ctrl+c")
+    reader.wait_for(lambda: desktop.clipboard().startswith(VERSE + "\r\n "), "the verse on the clipboard")
+    user = os.stat(f"/proc/{reader.process.pid}").st_uid
+    assert user == (NOBODY if is_root else os.geteuid())
 
 
 @pytest.mark.parametrize("font", ["LiberationSerif-Regular.ttf", None])
-def test_it_starts_with_one_font_and_with_none(desktop, installed, tmp_path, font):
+def test_it_starts_with_one_font_and_with_none(start, desktop, installed, tmp_path, font):
     fonts = tmp_path / "fonts"
     fonts.mkdir()
     if font:
         shutil.copy(FONTS / font, fonts)
     config = tmp_path / "fonts.conf"
     config.write_text(f"<fontconfig><dir>{fonts}</dir><cachedir>{tmp_path}/cache</cachedir></fontconfig>")
-    reader = Reader(desktop, installed, FONTCONFIG_FILE=str(config))
-    try:
-        frame(reader)
-        look_up(reader, desktop, VERSE, VERSE)
-    finally:
-        print(reader.end())
+    reader = start(installed, FONTCONFIG_FILE=str(config))
+    frame(reader)
+    look_up(reader, desktop, VERSE, VERSE)
 
 
 # --- Files that change under it ---
