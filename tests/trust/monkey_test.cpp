@@ -246,7 +246,7 @@ protected:
         if (windows.isEmpty())
             return;
         QMdiSubWindow* window = anyOf(windows);
-        switch (anyOf(7)) {
+        switch (anyOf(8)) {
         case 0:
             tell("minimise " + nameOf(window));
             window->showMinimized();
@@ -273,6 +273,11 @@ protected:
         case 6:
             tell("close " + nameOf(window));
             window->close();
+            break;
+        case 7:
+            tell("close all windows");
+            for (QMdiSubWindow* open : windows)
+                open->close();
             break;
         }
     }
