@@ -4,6 +4,7 @@
 #include "store/Database.h"
 #include "store/DataError.h"
 #include "widgets/BasePath.h"
+#include <QTimer>
 
 Program::Program(const QString& directory)
     : basePath(::basePath(directory))
@@ -21,6 +22,8 @@ bool Program::start()
     if (!m_startWindow->load())
         return false;
     m_startWindow->show();
+    QTimer::singleShot(0, m_startWindow,
+                       [this] { keepDatabase(); }); // while the splash stands, so that nobody waits for it
     return true;
 }
 
