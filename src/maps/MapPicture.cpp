@@ -7,6 +7,7 @@
 #include <QImageReader>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QtEndian>
 
 namespace {
 
@@ -22,6 +23,24 @@ qreal naturalTwips(int pixels, int dotsPerMeter, int dotsPerMeterOfNone)
     const qreal dotsPerInch = dotsPerMeter * 0.0254;
     const bool isGiven = dotsPerMeter != dotsPerMeterOfNone && dotsPerInch >= fewestDotsPerInch;
     return toTwips(pixels) * (isGiven ? 96 / dotsPerInch : 1);
+}
+
+// The decoder takes a part's declared length on trust and asks for as much memory: up to 2 GB for one damaged
+// byte.
+bool declaresMoreThanItHas(const QByteArray& bytes)
+{
+    constexpr qsizetype signature = 8;
+    constexpr qsizetype partHead = 8;
+    constexpr qsizetype partEnd = 4;
+    if (!bytes.startsWith("\x89PNG\r\n\x1a\n"))
+        return false;
+    for (qsizetype at = signature; at + partHead <= bytes.size();) {
+        const qint64 length = qFromBigEndian<quint32>(bytes.constData() + at);
+        if (length > bytes.size() - at - partHead)
+            return true;
+        at += partHead + length + partEnd;
+    }
+    return false;
 }
 
 } // namespace
@@ -105,6 +124,8 @@ void MapPicture::mouseMoveEvent(QMouseEvent* event)
 
 QImage decodedImage(const QByteArray& bytes)
 {
+    if (declaresMoreThanItHas(bytes))
+        return {};
     QBuffer buffer;
     buffer.setData(bytes);
     QImageReader reader(&buffer);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <QAccessible>
+#include <QBuffer>
 #include <QDrag>
 #include <QMimeData>
 #include <QPainter>
@@ -142,6 +143,17 @@ TEST(DecodedImage, BytesThatAreNoPictureGiveAnEmptyOne)
 {
     EXPECT_TRUE(decodedImage("").isNull());
     EXPECT_TRUE(decodedImage("no picture at all").isNull());
+}
+
+TEST(DecodedImage, PartThatDeclaresMoreBytesThanThereAreIsRefused)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(imageOf(12, 8, 96).save(&buffer, "PNG"));
+    EXPECT_FALSE(decodedImage(bytes).isNull());
+    bytes[bytes.indexOf("IDAT") - 4] = 0x5B; // a length of 1.5 GB
+    EXPECT_TRUE(decodedImage(bytes).isNull());
 }
 
 TEST(DecodedImage, SizeThatNoMapHasIsRefused)
