@@ -110,6 +110,8 @@ void registerAll()
     RegisterBenchmark("one word", search, " WHERE KJVerseText LIKE '*amor*'");
     RegisterBenchmark("whole word", search, " WHERE KJVerseText LIKE '*[!0-9a-zA-Z]amor[!0-9a-zA-Z]*'");
     RegisterBenchmark("two words with OR", search,
+                      " WHERE (KJVerseText LIKE '*casa*' OR KJVerseText LIKE '*terra*')");
+    RegisterBenchmark("commonest words with OR", search,
                       " WHERE (KJVerseText LIKE '*Deus*' OR KJVerseText LIKE '*Senhor*')");
     RegisterBenchmark("two words with AND", search,
                       " WHERE KJVerseText LIKE '*Deus*' AND KJVerseText LIKE '*Senhor*'");

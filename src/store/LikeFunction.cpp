@@ -19,13 +19,21 @@ public:
         }
     }
 
-    bool matches(sqlite3_value* value)
+    /// The result of like() for a text. NULL, for which it is unknown, has none.
+    void answer(sqlite3_context* context, sqlite3_value* value)
     {
         // Rows are asked for in ascending order: those between `from` and the next match need no look at
         // their text.
         const auto* text = static_cast<const char*>(sqlite3_value_blob(value));
         if (text >= m_from && text <= m_nextMatch)
-            return text == m_nextMatch;
+            sqlite3_result_int(context, text == m_nextMatch);
+        else if (text || sqlite3_value_type(value) != SQLITE_NULL)
+            sqlite3_result_int(context, matches(value, text));
+    }
+
+private:
+    bool matches(sqlite3_value* value, const char* text)
+    {
         if (!m_block || !m_block->holds(text))
             return m_pattern.matches(valueBytes(value));
         m_row = m_block->rowAt(text, text < m_from ? 0 : m_row);
@@ -35,7 +43,6 @@ public:
         return text == m_nextMatch;
     }
 
-private:
     LikePattern m_pattern;
     const VerseBlock* m_block = nullptr;
     std::optional<TextSearch> m_search;
@@ -47,14 +54,12 @@ private:
 /// like(pattern, text), which is what `text LIKE pattern` calls. Unknown, that is NULL, when either is NULL.
 void like(sqlite3_context* context, int, sqlite3_value** arguments)
 try {
-    if (sqlite3_value_type(arguments[1]) == SQLITE_NULL)
-        return;
     if (auto* test = static_cast<LikeTest*>(sqlite3_get_auxdata(context, 0))) {
-        sqlite3_result_int(context, test->matches(arguments[1]));
+        test->answer(context, arguments[1]);
     } else if (sqlite3_value_type(arguments[0]) != SQLITE_NULL) {
         const auto* verses = static_cast<const Verses*>(sqlite3_user_data(context));
         auto fresh = std::make_unique<LikeTest>(*verses, valueBytes(arguments[0]));
-        sqlite3_result_int(context, fresh->matches(arguments[1]));
+        fresh->answer(context, arguments[1]);
         sqlite3_set_auxdata(context, 0, fresh.release(),
                             [](void* used) { delete static_cast<LikeTest*>(used); });
     }

@@ -65,7 +65,8 @@ std::size_t TextSearch::next(std::size_t row, std::size_t end) const
     return end;
 }
 
-const char* TextSearch::findPiece(const char* at, const char* end) const
+[[gnu::target_clones("avx2", "default")]] const char* TextSearch::findPiece(const char* at,
+                                                                            const char* end) const
 {
     constexpr std::ptrdiff_t stride = 64;
     const auto length = static_cast<std::ptrdiff_t>(m_pattern.piece().size());
