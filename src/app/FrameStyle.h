@@ -13,12 +13,7 @@ public:
     {
     }
 
-    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
-    {
-        if (metric == PM_TitleBarHeight)
-            return 20;
-        if (metric == PM_MdiSubWindowFrameWidth)
-            return 4;
-        return QProxyStyle::pixelMetric(metric, option, widget);
-    }
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
+                       const QWidget* widget) const override;
 };

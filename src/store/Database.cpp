@@ -83,6 +83,7 @@ void Database::readVerses(std::size_t fileSize)
     try {
         m_verses.block.emplace(m_connection.get(), fileSize);
         m_verses.keys.emplace(*m_verses.block);
+        sqlite3_db_release_memory(m_connection.get()); // the pages just read are not needed again
     } catch (const DataError& error) {
         m_verses.damage = error;
     }
