@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""The rules of the house, as a script: formatting, the direction of includes, headers that compile alone.
+"""The rules of the house, as a script: formatting, the direction of includes, headers that compile alone, documents that
+name what is there.
 
     check_rules.py SOURCE_DIR BUILD_DIR
 
@@ -80,10 +81,26 @@ def dependent_headers(top, build):
         return [line for lines in pool.map(dependent_header, headers) for line in lines]
 
 
+def dead_references(top):
+    """Paths of the repository that a document names and that are not there."""
+    breaches = []
+    for document in [*top.glob("*.md"), *(top / "docs").glob("*.md"), *(top / "data").rglob("README.md")]:
+        for number, line in enumerate(document.read_text(encoding="utf-8").splitlines(), 1):
+            names = re.findall(r"`([^`\s]+)`", line) + re.findall(r"\]\(([^):]+)\)", line)
+            for name in names:
+                path = name.removeprefix("./").split("#")[0]
+                if not re.match(r"(src|tests|tools|docs|data|bench|cmake|packaging|man)/|[A-Z]+\.md$|run$|test$|setup$|package$",
+                                path):
+                    continue
+                if not (top / path).exists() and not (document.parent / path).exists():
+                    breaches.append(f"{document}:{number}: there is no {name}")
+    return breaches
+
+
 def main():
     top, build = pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(sys.argv[2]).resolve()
-    breaches = unformatted(top) + include_breaches(top) + dependent_headers(top, build)
-    print("\n".join(breaches) if breaches else "formatting, includes and headers keep the rules")
+    breaches = unformatted(top) + include_breaches(top) + dead_references(top) + dependent_headers(top, build)
+    print("\n".join(breaches) if breaches else "formatting, includes, headers and documents keep the rules")
     return 1 if breaches else 0
 
 

@@ -1,5 +1,5 @@
-#include "widgets/AviReader.h"
 #include "widgets/AviBytes.h"
+#include "widgets/AviReader.h"
 #include <gtest/gtest.h>
 #include <QFile>
 #include <QRandomGenerator>

@@ -1,5 +1,5 @@
-#include "widgets/Pictures.h"
 #include "widgets/PictureInk.h"
+#include "widgets/Pictures.h"
 #include <gtest/gtest.h>
 #include <QPainter>
 #include <set>

@@ -1,6 +1,6 @@
-#include "widgets/SoftBttn.h"
 #include "support/Recorders.h"
 #include "widgets/PictureInk.h"
+#include "widgets/SoftBttn.h"
 #include <gtest/gtest.h>
 #include <QAccessible>
 #include <QApplication>
