@@ -38,8 +38,9 @@ def start(desktop):
 
 
 @pytest.fixture
-def reader(start, installed):
+def reader(start, installed, desktop):
     """The program, its frame shown and the selection window active."""
     program = start(installed)
     program.find("frame", "Select Verse for Reading")
+    desktop.wait_for_focus("Kestrel Reader: Portuguese Version")
     return program

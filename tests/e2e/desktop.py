@@ -80,6 +80,14 @@ class Desktop:
                 raise RuntimeError(f"no window named {title!r} appeared")
             time.sleep(0.02)
 
+    def wait_for_focus(self, title, timeout=30):
+        """Waits until the window with the focus has this in its title."""
+        deadline = time.monotonic() + timeout
+        while title not in self.run("xdotool", "getactivewindow", "getwindowname", check=False):
+            if time.monotonic() > deadline:
+                raise RuntimeError(f"no window named {title!r} got the focus")
+            time.sleep(0.05)
+
     def key(self, *keys):
         self.run("xdotool", "key", "--clearmodifiers", *keys)
 
