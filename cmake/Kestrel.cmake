@@ -56,6 +56,8 @@ function(kestrel_test name)
     set_target_properties(test_${name} PROPERTIES AUTOMOC ${ARG_QT})
     target_compile_definitions(test_${name} PRIVATE KESTREL_INSTALL_DIR="${KESTREL_INSTALL_DIR}"
                                KESTREL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+    # Test code is compiled for a quick build; what it tests is compiled as everywhere.
+    target_compile_options(test_${name} PRIVATE -O0 -U_FORTIFY_SOURCE)
     target_link_libraries(test_${name} PRIVATE ${ARG_LINK} GTest::gmock $<IF:$<BOOL:${ARG_QT}>,qt_test_main,GTest::gtest_main>)
     add_test(NAME ${name} COMMAND test_${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT

@@ -2,6 +2,7 @@
 
 #include "LetterCase.h"
 #include "Utf8.h"
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -63,6 +64,22 @@ std::size_t TextSearch::next(std::size_t row, std::size_t end) const
             return row;
     }
     return end;
+}
+
+double TextSearch::share() const
+{
+    constexpr std::size_t stretches = 16;
+    const std::size_t step = m_block.size() / stretches + 1;
+    const std::size_t length = step / 8 + 1;
+    std::size_t looked = 0;
+    std::size_t found = 0;
+    for (std::size_t start = 0; start < m_block.size(); start += step) {
+        const std::size_t end = std::min(start + length, m_block.size());
+        looked += end - start;
+        for (std::size_t row = next(start, end); row < end; row = next(row + 1, end))
+            ++found;
+    }
+    return looked ? static_cast<double>(found) / static_cast<double>(looked) : 0;
 }
 
 [[gnu::target_clones("avx2", "default")]] const char* TextSearch::findPiece(const char* at,

@@ -18,6 +18,9 @@ public:
     /// The first matching row from `row` on and before `end`; `end` if there is none.
     std::size_t next(std::size_t row, std::size_t end) const;
 
+    /// The share of the rows that match, 0 to 1, roughly: as in a few stretches spread over the block.
+    double share() const;
+
 private:
     struct Probe
     {

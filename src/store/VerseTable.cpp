@@ -86,6 +86,18 @@ Use useOf(int column, int comparison)
     }
 }
 
+/// The share of the rows whose text a pattern finds, roughly; it is known while planning when it stands in
+/// the query.
+double shareOfTexts(const Verses& verses, sqlite3_index_info* info, int constraint)
+try {
+    sqlite3_value* pattern = nullptr;
+    if (!verses.block || sqlite3_vtab_rhs_value(info, constraint, &pattern) != SQLITE_OK)
+        return 1;
+    return TextSearch(*verses.block, valueBytes(pattern)).share();
+} catch (const DataError&) { // an invalid pattern; the query itself will say so
+    return 0;
+}
+
 /// The share of the rows that a condition leaves, roughly.
 double share(Use use)
 {
@@ -100,10 +112,16 @@ double share(Use use)
     }
 }
 
-int planQuery(sqlite3_vtab*, sqlite3_index_info* info)
+// What rows cost, measured: one found by its text counts 1, for where the engine joins the finds of several
+// conditions it must sort them; one that it only tests, and one that a search for a text passes over, less.
+constexpr double costOfTesting = 0.3;
+constexpr double costOfSearching = 0.04;
+
+int planQuery(sqlite3_vtab* table, sqlite3_index_info* info)
 try {
-    constexpr double allRows = 31102;
-    double rows = allRows;
+    double rows = 31102;
+    double found = 1;
+    int searches = 0;
     std::string plan;
     for (int i = 0; i < info->nConstraint; ++i) {
         const auto& constraint = info->aConstraint[i];
@@ -114,12 +132,18 @@ try {
         info->aConstraintUsage[i].argvIndex = static_cast<int>(plan.size());
         // Comparisons are narrowed by only; the engine knows best how it compares values of different types.
         info->aConstraintUsage[i].omit = use == KeyLike || use == TextLike;
-        rows *= share(use);
+        if (use == TextLike) {
+            found *= shareOfTexts(*static_cast<Table*>(table)->verses, info, i);
+            ++searches;
+        } else {
+            rows *= share(use);
+        }
     }
+    const double searching = searches * costOfSearching + found;
+    info->estimatedCost = 1 + rows * (searches ? searching : costOfTesting);
+    info->estimatedRows = static_cast<sqlite3_int64>(rows * found) + 1;
     info->idxStr = sqlite3_mprintf("%s", plan.c_str());
     info->needToFreeIdxStr = 1;
-    info->estimatedRows = static_cast<sqlite3_int64>(rows) + 1;
-    info->estimatedCost = rows + 1;
     info->orderByConsumed =
         info->nOrderBy == 1 && info->aOrderBy[0].iColumn == VerseNumber && !info->aOrderBy[0].desc;
     return info->idxStr ? SQLITE_OK : SQLITE_NOMEM;

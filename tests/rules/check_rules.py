@@ -74,9 +74,16 @@ def dependent_header(args):
     return [f"{header}: does not compile alone: {errors[0]}"] if errors else []
 
 
+def is_compiled_first(header):
+    """Whether the header opens a source file of its own name; then every build compiles it alone."""
+    source = header.with_suffix(".cpp")
+    return source.exists() and bool(re.match(rf'#include "(\w+/)?{header.name}"\n', source.read_text(encoding="utf-8")))
+
+
 def dependent_headers(top, build):
     flags = {folder: compile_flags(build, folder) for folder in MAY_INCLUDE}
-    headers = [(path, flags[path.parent.name]) for path in sources(top, "src") if path.suffix == ".h"]
+    headers = [(path, flags[path.parent.name]) for path in sources(top, "src")
+               if path.suffix == ".h" and not is_compiled_first(path)]
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         return [line for lines in pool.map(dependent_header, headers) for line in lines]
 

@@ -277,7 +277,7 @@ TEST_F(SearchOracle, AgreesLineByLineOnGeneratedQueries)
     const std::vector<Verse> verses = readVerses(program->basePath + "KESTRPT.DAT");
     ASSERT_EQ(verses.size(), 31102U);
     QueryMaker maker(verses);
-    constexpr int queries = 2200;
+    constexpr int queries = KESTREL_GENERATED_SEARCHES;
     int found = 0;
     for (int i = 0; i < queries; ++i) {
         const Query query = maker.next();

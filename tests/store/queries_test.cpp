@@ -158,6 +158,9 @@ const std::vector<Shape> shapes = {
           [](int, auto, auto t) { return like("*deus*", t) && !like("*senhor*", t); }},
     Shape{"(KJVerseText LIKE '*amor*' OR KJVerseText LIKE '*deus*')",
           [](int, auto, auto t) { return like("*amor*", t) || like("*deus*", t); }},
+    // So common that the engine is quicker testing every row.
+    Shape{"(KJVerseText LIKE '*senhor*' OR KJVerseText LIKE '*deus*')",
+          [](int, auto, auto t) { return like("*senhor*", t) || like("*deus*", t); }},
     Shape{"VerseId LIKE 'Gn*' AND (KJVerseText LIKE '*terra*' OR KJVerseText LIKE '*deus*')",
           [](int, auto k, auto t) { return like("gn*", k) && (like("*terra*", t) || like("*deus*", t)); }},
     Shape{"VerseId LIKE 'Gn*' AND KJVerseText LIKE '*terra*'",
