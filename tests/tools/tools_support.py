@@ -37,8 +37,13 @@ def publish(reference, folder):
 
 def read_books():
     """Abbreviation to published name."""
+    return {book: name for name, book in load_find_text(SOURCE / "tools/find_text").BOOKS}
+
+
+def load_find_text(path):
+    """The tool as a module."""
     sys.dont_write_bytecode = True
-    loader = importlib.machinery.SourceFileLoader("find_text", str(SOURCE / "tools/find_text"))
+    loader = importlib.machinery.SourceFileLoader("find_text", str(path))
     module = importlib.util.module_from_spec(importlib.util.spec_from_loader("find_text", loader))
     loader.exec_module(module)
-    return {book: name for name, book in module.BOOKS}
+    return module
