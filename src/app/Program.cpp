@@ -4,6 +4,7 @@
 #include "store/Database.h"
 #include "store/DataError.h"
 #include "widgets/BasePath.h"
+#include "widgets/Platform.h"
 #include <QTimer>
 
 Program::Program(const QString& directory)
@@ -14,6 +15,9 @@ Program::Program(const QString& directory)
 Program::~Program()
 {
     delete m_startWindow;
+    m_frame.reset();
+    // The toolkit may wait seconds for a clipboard manager, and nobody sees why a new copy should not start.
+    Platform::current().endInstance();
 }
 
 bool Program::start()

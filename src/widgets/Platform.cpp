@@ -12,11 +12,14 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
 // An abstract socket lives in no folder, is taken by one process at a time in one step, and is free again the
 // moment its owner ends, however it ends. Its name holds the user and the executable.
+int instanceHandle = -1;
+
 bool takeInstanceName(const QByteArray& name)
 {
     const int handle = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
@@ -27,8 +30,10 @@ bool takeInstanceName(const QByteArray& name)
     std::memcpy(address.sun_path + 1, name.constData(), static_cast<std::size_t>(name.size()));
     const auto length =
         static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + static_cast<std::size_t>(name.size()));
-    if (bind(handle, reinterpret_cast<const sockaddr*>(&address), length) == 0)
-        return true; // the handle stays open until the process ends
+    if (bind(handle, reinterpret_cast<const sockaddr*>(&address), length) == 0) {
+        instanceHandle = handle;
+        return true;
+    }
     const bool taken = errno == EADDRINUSE;
     close(handle);
     return !taken;
@@ -44,6 +49,12 @@ bool Platform::previousInstance()
     const QByteArray digest =
         QCryptographicHash::hash(executable.toUtf8(), QCryptographicHash::Sha256).toHex().left(32);
     return !takeInstanceName("kestrel-reader-" + QByteArray::number(getuid()) + "-" + digest);
+}
+
+void Platform::endInstance()
+{
+    if (instanceHandle >= 0)
+        close(std::exchange(instanceHandle, -1));
 }
 
 bool Platform::startProgram(const QString& program)

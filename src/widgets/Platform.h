@@ -12,8 +12,10 @@ public:
     virtual ~Platform() = default;
 
     /// Whether another copy of this executable already runs for this user. The first call that finds none
-    /// makes this process the running copy, until it ends. No file is written.
+    /// makes this process the running copy, until it ends or says so. No file is written.
     virtual bool previousInstance();
+    /// From now on another copy may run.
+    virtual void endInstance();
     /// Starts a program by its path in a session of its own and does not wait for it. False when it cannot be
     /// started.
     virtual bool startProgram(const QString& program);

@@ -17,6 +17,14 @@ def installed():
 
 
 @pytest.fixture(scope="session")
+def verses():
+    """The text list: the verses by their keys."""
+    text = (TOP / "build" / "data" / "scripture.tsv").read_text(encoding="utf-8")
+    rows = (line.split("\t") for line in text.splitlines())
+    return {f"{book}:{chapter}:{verse}": text for book, chapter, verse, text in rows}
+
+
+@pytest.fixture(scope="session")
 def desktop():
     with Desktop() as session:
         os.environ.update(session.environment)  # before the accessibility client looks for its bus

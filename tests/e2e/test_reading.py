@@ -1,17 +1,5 @@
 """A reader's first minutes: look a verse up, step, copy, let it run by itself."""
-import pathlib
 import time
-
-import pytest
-
-TEXT = pathlib.Path(__file__).resolve().parents[2] / "build" / "data" / "scripture.tsv"
-
-
-@pytest.fixture(scope="session")
-def verses():
-    """The text list: the verses by their keys."""
-    rows = (line.split("\t") for line in TEXT.read_text(encoding="utf-8").splitlines())
-    return {f"{book}:{chapter}:{verse}": text for book, chapter, verse, text in rows}
 
 
 def look_up(reader, desktop, reference):
