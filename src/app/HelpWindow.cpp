@@ -13,6 +13,7 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QToolButton>
 #include <QWindow>
 
 namespace {
@@ -158,5 +159,7 @@ void HelpWindow::makeToolbar()
     toolbar->addActions({findNext, findPrevious});
     toolbar->addSeparator();
     toolbar->addActions({copy, larger, smaller, normalSize});
+    for (auto* button : toolbar->findChildren<QToolButton*>())
+        button->setFocusPolicy(Qt::TabFocus);
     setContextMenuPolicy(Qt::NoContextMenu); // the toolbar cannot be hidden
 }

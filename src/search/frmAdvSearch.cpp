@@ -331,6 +331,7 @@ void frmAdvSearch::stopClip()
 void frmAdvSearch::enterResultsMode()
 {
     enableResults(true);
+    List1->setFocus(); // before the inputs rest, or the focus would wander over one after the other
     cmdOK->setEnabled(false);
     enableInputs(false);
     Form_Resize();

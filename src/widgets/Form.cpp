@@ -2,12 +2,27 @@
 
 #include "widgets/Menus.h"
 #include "widgets/Twips.h"
+#include <QAccessible>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QShortcut>
+
+namespace {
+
+// The keys of inner windows; on some desktops the toolkit has others for closing, and none for the menu.
+void giveKeys(QMdiSubWindow& window)
+{
+    QAction* const close = window.systemMenu()->actions().constLast();
+    close->setShortcuts({Qt::CTRL | Qt::Key_F4, Qt::CTRL | Qt::Key_W});
+    new QShortcut(Qt::ALT | Qt::Key_Minus, &window, &window, &QMdiSubWindow::showSystemMenu,
+                  Qt::WidgetWithChildrenShortcut);
+}
+
+} // namespace
 
 Form::Form(Shell& shell, const QString& name)
     : m_shell(shell)
@@ -27,6 +42,7 @@ void Form::loadInto(QMdiArea& area)
     QMdiSubWindow* window = area.addSubWindow(this);
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setObjectName(objectName() + "Window");
+    giveKeys(*window);
     connect(window, &QMdiSubWindow::windowStateChanged, this, &Form::windowStateChanged);
     m_loaded = true;
     Form_Load();
@@ -40,6 +56,11 @@ QString Form::caption() const
 void Form::setCaption(const QString& caption)
 {
     setWindowTitle(caption);
+    if (!subWindow())
+        return;
+    // The toolkit names the window anew without a word about it to a screen reader.
+    QAccessibleEvent renamed(subWindow(), QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&renamed);
 }
 
 Form::WindowState Form::state() const

@@ -52,3 +52,13 @@ def reader(start, installed, desktop):
     program.find("frame", "Select Verse for Reading")
     desktop.wait_for_focus("Kestrel Reader: Portuguese Version")
     return program
+
+
+@pytest.fixture(scope="module")
+def sitting(desktop, installed):
+    """One program for all tests of a module, one after another, as in one sitting. Each opens what it needs."""
+    program = Reader(desktop, installed)
+    program.find("frame", "Select Verse for Reading")
+    desktop.wait_for_focus("Kestrel Reader: Portuguese Version")
+    yield program
+    assert program.end() == ""

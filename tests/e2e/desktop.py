@@ -103,5 +103,17 @@ class Desktop:
                                 timeout=10)
         return result.stdout.decode("utf-8")
 
+    def clipboard_picture(self):
+        """The picture on the clipboard, as the bytes of a PNG file."""
+        result = subprocess.run(["xclip", "-selection", "clipboard", "-t", "image/png", "-o"], env=self.environment,
+                                capture_output=True, timeout=10)
+        return result.stdout
+
+    def picture(self, shape):
+        """What the screen shows there, as its dots."""
+        result = subprocess.run(["import", "-window", "root", "-crop", shape, "rgb:-"], env=self.environment,
+                                capture_output=True, timeout=10, check=True)
+        return result.stdout
+
     def screenshot(self, path):
         self.run("import", "-window", "root", str(path))

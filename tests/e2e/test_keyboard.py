@@ -1,0 +1,313 @@
+"""Every window by keyboard alone: where Tab goes, what shows the focus, which keys press, open, change and close."""
+import pytest
+
+READING = ["push button: Next Verse", "push button: Previous Verse", "check box: AutoJump to next verse after",
+           "combo box: 4", "push button: Font Size", "push button: Font Face", "push button: Copy Verse to Clipboard",
+           "push button: Current Chapter"]
+SEARCH = ["text: Search for verses containing the following text:", "combo box: And containing",
+          "text: Second word or phrase", "combo box: The Four Gospels", "check box: Match whole word(s) only",
+          "push button: Search", "push button: Cancel/Close", "push button: Help"]
+RESULTS = ["push button: Cancel/Close", "push button: Help", "push button: New Search",
+           "push button: Copy Search Results to Clipboard", "list: Search results:"]
+
+
+@pytest.fixture
+def reader(sitting):
+    """The program with a fresh selection window and no other inner window."""
+    close_inner_windows(sitting)
+    sitting.key("F2")
+    window = sitting.find("frame", "Select Verse for Reading")
+    sitting.wait_for_focus(window, "combo box", "Mt")
+    return sitting
+
+
+def close_inner_windows(reader):
+    for window in list(reader.find("layered pane", "Windows")):
+        count = reader.find("layered pane", "Windows").childCount
+        reader.key("ctrl+F4")
+        reader.wait_for(lambda: reader.find("layered pane", "Windows").childCount < count, f"no more {window.name!r}")
+
+
+def has_focus(reader, window):
+    reader.wait_for(lambda: reader.focused(window), f"the focus in {window.name!r}")
+    return window
+
+
+def selection(reader):
+    return has_focus(reader, reader.find("frame", "Select Verse for Reading"))
+
+
+def reading(reader):
+    reader.key("ctrl+a")
+    reader.desktop.type("2Jn")
+    reader.key("Return")
+    return has_focus(reader, reader.find("frame", "Reading Window -- 2Jn:1:1"))
+
+
+def chapter(reader):
+    reading(reader)
+    reader.key("F9")
+    window = reader.find("frame", "Chapter Window -- 2Jn:1:")
+    reader.wait_for_focus(window, "text", "Chapter text")
+    return window
+
+
+def search(reader):
+    """The search window with a word in its box and nothing found yet."""
+    reader.key("F3")
+    window = reader.find("frame", "Advanced Search")
+    reader.wait_for_focus(window, "text", "Search for verses containing the following text:")
+    reader.desktop.type("amor")
+    reader.wait_for(lambda: "push button: Search" in [line.strip() for line in reader.lines(window)], "a search to run")
+    return window
+
+
+def results(reader):
+    window = search(reader)
+    reader.key("Return")
+    reader.find("alert", "Search Results:")
+    reader.key("Return")
+    reader.wait_for_focus(window, "list", "Search results:")
+    return window
+
+
+def aids(reader, page="c"):
+    reader.key("F8")
+    window = has_focus(reader, reader.find("frame", "Study Aids"))
+    reader.key(f"alt+{page}")
+    reader.wait_for(lambda: (reader.focused(window) or [""])[0] == "page tab list", "the focus on the tabs")
+    return window
+
+
+def map_window(reader):
+    window = aids(reader, "m")
+    reader.key("Tab")
+    reader.wait_for_focus(window, "list", "Maps")
+    reader.key("Home", "Return")
+    return has_focus(reader, reader.find("frame", starts="Map -- Abraham's Journeys"))
+
+
+def help_window(reader):
+    reader.key("F1")
+    window = reader.find("frame", "Kestrel Reader Help")
+    reader.wait_for_focus(window, "label", "Select Verse for Reading")
+    reader.key("F1")  # its own page, which has no links to stop at
+    reader.wait_for_focus(window, "label", "This help")
+    return window
+
+
+def about(reader):
+    reader.key("alt+h", "a")
+    window = reader.find("dialog", "Kestrel Reader (PT)")
+    reader.wait_for_focus(window, "push button", "OK")
+    return window
+
+
+def walk(reader, window, key):
+    """The controls that have the focus one after another, from the one that has it now until it comes round."""
+    visited = []
+    while (now := ": ".join(reader.focused(window) or ("nothing", ""))) not in visited:
+        visited.append(now)
+        reader.key(key)
+        reader.wait_for(lambda: reader.focused(window) and ": ".join(reader.focused(window)) != now, f"{key} to go on")
+    assert now == visited[0], f"{key} comes back to {now} and not to the first of {visited}"
+    return visited
+
+
+def stops(reader, window):
+    """What a reader can use in the window now: the enabled controls that take the focus."""
+    import pyatspi
+    wanted = (pyatspi.STATE_SHOWING, pyatspi.STATE_SENSITIVE, pyatspi.STATE_FOCUSABLE)
+    found = []
+
+    def gather(node):
+        state, role = node.getState(), node.getRoleName()
+        # of radio buttons only the chosen one is a stop: the arrow keys go to the others
+        is_other_choice = role == "radio button" and not state.contains(pyatspi.STATE_CHECKED)
+        is_stop = role in ("push button", "check box", "radio button", "combo box", "text", "list", "tree", "page tab list")
+        if is_stop and not is_other_choice and all(map(state.contains, wanted)):
+            found.append(f"{role}: {node.name}")
+        if not is_stop:
+            for child in node:
+                gather(child)
+
+    gather(window)
+    return found
+
+
+WINDOWS = [
+    (selection, ["combo box: Mt", "push button: Display Verse", "push button: Examples", "tree: Books"]),
+    (reading, READING),
+    (chapter, ["text: Chapter text", "push button: Font Size", "push button: Font Face",
+               "push button: Copy Chapter to Clipboard", "push button: Tip"]),
+    (search, SEARCH),
+    (results, RESULTS[-1:] + RESULTS[:-1]),
+    (aids, ["page tab list: Classified Verses", "radio button: Major Gospels Events", "combo box:  Preface of Luke",
+            "list: Verse references"]),
+    (lambda reader: aids(reader, "m"), ["page tab list: Maps", "list: Maps"]),
+    (lambda reader: aids(reader, "d"), ["page tab list: Download Other Translations", "push button: Visit the Web Site"]),
+    (map_window, ["push button: Zoom In/Restore Normal Size", "push button: Copy Map to Clipboard"]),
+    (about, ["push button: OK", "push button: E-mail: author@kestrel-reader.example", "push button: More Info",
+             "push button: DonationWare", "push button: QORV CD-ROM Offer"]),
+    (help_window, ["label: This help", "push button: Back", "text: Find:", "push button: Next", "push button: Previous",
+                   "push button: Larger", "push button: Smaller", "push button: Normal Size", "list: Contents"]),
+]
+NAMES = ["selection", "reading", "chapter", "search", "results", "verses", "maps", "download", "map", "about", "help"]
+ESCAPED = (about, help_window)
+
+
+@pytest.mark.parametrize("opened, order", WINDOWS, ids=NAMES)
+def test_tab_visits_every_control_in_order_and_comes_round(reader, opened, order):
+    window = opened(reader)
+    assert walk(reader, window, "Tab") == order
+    assert walk(reader, window, "shift+Tab") == [order[0], *reversed(order[1:])]
+    assert sorted(stops(reader, window)) == sorted(stop for stop in order if not stop.startswith("label"))
+    if opened in ESCAPED:
+        title = window.name
+        reader.key("Escape")
+        reader.absent(None, title)
+
+
+@pytest.mark.parametrize("button, title", [("DonationWare", "Your support is needed!"),
+                                           ("QORV CD-ROM Offer", "QORV CD-ROM Offer")])
+def test_the_letters_are_opened_scrolled_and_closed_by_keyboard(reader, button, title):
+    window = about(reader)
+    while reader.focused(window) != ("push button", button):
+        before = reader.focused(window)
+        reader.key("Tab")
+        reader.wait_for(lambda: reader.focused(window) not in (None, before), "Tab to go on")
+    reader.key("space")
+    letter = reader.find("dialog", title)
+    reader.wait_for_focus(letter, "text", title)
+    top = reader.picture(letter)
+    reader.key("Tab", "Next")  # Tab has nowhere to go
+    reader.wait_for(lambda: reader.picture(letter) != top, "the next page")
+    assert reader.focused(letter) == ("text", title)
+    reader.key("Escape")
+    reader.wait_for_focus(window, "push button", button)
+    reader.key("Escape")
+    reader.absent("dialog", "Kestrel Reader (PT)")
+
+
+def test_without_inner_windows_tab_goes_through_the_toolbar(reader, desktop):
+    close_inner_windows(reader)
+    frame = reader.find("frame", starts="Kestrel Reader: Portuguese Version")
+    reader.key("Tab")
+    has_focus(reader, frame)
+    order = ["push button: Select Verse to read", "push button: Notepad", "push button: Search", "push button: Study Aids",
+             "push button: About/QORV CD-ROM Offer"]
+    assert walk(reader, frame, "Tab") == order
+    assert walk(reader, frame, "shift+Tab") == [order[0], *reversed(order[1:])]
+    reader.key("space")
+    has_focus(reader, reader.find("frame", "Select Verse for Reading"))
+
+
+@pytest.mark.parametrize("opened, name, role", [
+    (reading, "Next Verse", "push button"),
+    (reading, "AutoJump to next verse after", "check box"),
+    (reading, "4", "combo box"),
+    (search, "Match whole word(s) only", "check box"),
+    (results, "Search results:", "list"),
+    (lambda reader: aids(reader, "m"), "Maps", "list"),
+    (map_window, "Zoom In/Restore Normal Size", "push button"),
+])
+def test_the_focus_is_seen(reader, desktop, opened, name, role):
+    window = opened(reader)
+    desktop.run("xdotool", "mousemove", "1270", "890")
+    control = reader.find(role, name, window)
+    while reader.focused(window) != (role, name):
+        before = reader.focused(window)
+        reader.key("Tab")
+        reader.wait_for(lambda: reader.focused(window) not in (None, before), "Tab to go on")
+    with_focus = reader.picture(control)
+    reader.key("Tab")
+    reader.wait_for(lambda: reader.focused(window) not in (None, (role, name)), "Tab to go on")
+    assert reader.picture(control) != with_focus
+
+
+def test_space_presses_and_enter_leaves_the_button_to_the_window(reader):
+    window = reading(reader)
+    reader.key("space")
+    assert reader.find("frame", "Reading Window -- 2Jn:1:2")
+    reader.key("Return")
+    reader.key("Tab", "space")  # back again: Enter has not stepped
+    assert reader.find("frame", "Reading Window -- 2Jn:1:1")
+    reader.key("Tab", "space")
+    box = reader.find("check box", "AutoJump to next verse after", window)
+    reader.wait_for(lambda: "(checked)" in "".join(reader.lines(box)), "the box checked")
+    reader.key("space")
+    reader.wait_for(lambda: "(checked)" not in "".join(reader.lines(box)), "the box unchecked")
+
+
+MENUS = {"f": "File", "s": "Search", "t": "Tools", "w": "Window", "h": "Help"}
+WITH_EDIT = {**MENUS, "e": "Edit"}
+WITH_VIEW = {**WITH_EDIT, "v": "View"}
+VERSES = {"g": "radio button: Major Gospels Events", "p": "radio button: Christ's Parables",
+          "e": "radio button: Messianic Prophecies", "i": "radio button: Christ's Miracles",
+          "r": "combo box:  Wisdom of the Child", "l": "radio button: Christ's Miracles"}
+TABS = {"c": "page tab list: Classified Verses", "m": "page tab list: Maps",
+        "d": "page tab list: Download Other Translations"}
+
+
+def is_open(menu):
+    import pyatspi
+    return any(popup.getState().contains(pyatspi.STATE_SHOWING) for popup in menu)
+
+
+@pytest.mark.parametrize("opened, menus, controls", [
+    (selection, MENUS, {}),
+    (reading, WITH_VIEW, {"d": "combo box: 4", "a": "check box: AutoJump to next verse after"}),
+    (chapter, WITH_EDIT, {}),
+    # while there is something to type, its controls have the letters that two menus have too
+    (search, {letter: menu for letter, menu in MENUS.items() if letter != "w"},
+     {"e": SEARCH[0], "b": "combo box: The Four Gospels", "w": SEARCH[0]}),
+    (results, WITH_EDIT, {"r": "list: Search results:"}),
+    (aids, MENUS, VERSES),
+    (lambda reader: aids(reader, "d"), MENUS, TABS),
+    (lambda reader: aids(reader, "m"), MENUS, {"d": TABS["d"], "m": TABS["m"], "a": "list: Maps"}),
+    (map_window, WITH_VIEW, {}),
+], ids=["selection", "reading", "chapter", "search", "results", "verses", "tabs", "maps", "map"])
+def test_every_alt_letter_has_one_meaning(reader, opened, menus, controls):
+    window = opened(reader)
+    assert not set(menus) & set(controls)
+    for letter, menu in menus.items():
+        reader.key(f"alt+{letter}")
+        item = reader.find("menu item", menu)
+        reader.wait_for(lambda: is_open(item), f"the menu {menu}")
+        reader.key("Escape", "Escape")
+        reader.wait_for(lambda: reader.focused(window), "the focus back in the window")
+    for letter, target in controls.items():
+        reader.key(f"alt+{letter}")
+        reader.wait_for_focus(window, *target.split(": ", 1))
+
+
+def test_a_menu_whose_letter_a_control_has_is_reached_along_the_bar(reader):
+    window = search(reader)
+    reader.key("Alt_L", "Right", "Down")
+    edit = reader.find("menu item", "Edit")
+    reader.wait_for(lambda: is_open(edit), "the menu Edit")
+    reader.key("Escape", "Escape")
+    has_focus(reader, window)
+
+
+def test_inner_windows_are_changed_and_closed_by_keyboard(reader):
+    first = selection(reader)
+    second = reading(reader)
+    for key in ("ctrl+Tab", "ctrl+shift+Tab"):
+        reader.key(key)
+        reader.wait_for(lambda: reader.focused(first) and not reader.focused(second), f"{key} to go on")
+        reader.key(key)
+        reader.wait_for(lambda: reader.focused(second) and not reader.focused(first), f"{key} to come back")
+    reader.key("ctrl+F4")
+    reader.absent("frame", "Reading Window -- 2Jn:1:1")
+    has_focus(reader, first)
+
+
+def test_an_inner_windows_own_menu_is_opened_by_keyboard(reader):
+    import pyatspi
+    window = selection(reader)
+    height = window.queryComponent().getExtents(pyatspi.DESKTOP_COORDS).height
+    reader.key("alt+minus", "n")
+    reader.wait_for(lambda: window.queryComponent().getExtents(pyatspi.DESKTOP_COORDS).height < height / 2, "an icon")
+    reader.key("F2")
+    reader.wait_for(lambda: window.queryComponent().getExtents(pyatspi.DESKTOP_COORDS).height == height, "the window")
