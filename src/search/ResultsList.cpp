@@ -2,6 +2,7 @@
 
 #include "search/ResultsModel.h"
 #include "widgets/Text.h"
+#include <QAccessible>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QStyledItemDelegate>
@@ -93,11 +94,19 @@ void ResultsList::moveByKey(QKeyEvent* event)
     const int before = selected();
     const bool isArrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
     if (isArrow && before < 0 && currentIndex().isValid())
-        setCurrentIndex(currentIndex()); // the first arrow key selects the line it stands on
+        selectLineItStandsOn();
     else
         QListView::keyPressEvent(event);
     if (selected() != before)
         Q_EMIT lineClicked();
+}
+
+void ResultsList::selectLineItStandsOn()
+{
+    setCurrentIndex(currentIndex());
+    QAccessibleEvent reached(this, QAccessible::Focus); // which the view does not tell, for nothing moved
+    reached.setChild(currentIndex().row());
+    QAccessible::updateAccessibility(&reached);
 }
 
 void ResultsList::mouseMoveEvent(QMouseEvent* event)

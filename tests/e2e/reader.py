@@ -130,6 +130,16 @@ class Reader:
     def key(self, *keys):
         self.desktop.key(*keys)
 
+    def begin_afresh(self):
+        """Closes the inner windows and opens a new selection window."""
+        area = self.find("layered pane", "Windows")
+        for _ in range(area.childCount):
+            count = area.childCount
+            self.key("ctrl+F4")
+            self.wait_for(lambda: area.childCount < count, "one window less")
+        self.key("F2")
+        self.wait_for_focus(self.find("frame", "Select Verse for Reading"), "combo box", "Mt")
+
     def lines(self, node, showing=True, depth=0):
         """What a screen reader meets below an object, as indented lines: its role and name, and what it cannot do.
 

@@ -341,6 +341,10 @@ def test_f1_opens_the_page_of_every_window(reader, desktop):
         expect_help(reader, page)
         reader.wait_for(lambda: reader.focused(frame), f"the focus back in {window}")
     aids = open_study_aids(reader)
+    reader.key("ctrl+F4")  # a new one begins on its tabs
+    reader.absent("frame", "Study Aids")
+    aids = open_study_aids(reader)
+    reader.wait_for_focus(aids, "page tab list", "Classified Verses")
     reader.key("alt+m", "Tab", "Return")
     reader.wait_for(lambda: reader.focused(reader.find("frame", starts="Map -- ")), "the focus in the map window")
     expect_help(reader, "Map")

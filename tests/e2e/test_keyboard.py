@@ -14,18 +14,8 @@ RESULTS = ["push button: Cancel/Close", "push button: Help", "push button: New S
 @pytest.fixture
 def reader(sitting):
     """The program with a fresh selection window and no other inner window."""
-    close_inner_windows(sitting)
-    sitting.key("F2")
-    window = sitting.find("frame", "Select Verse for Reading")
-    sitting.wait_for_focus(window, "combo box", "Mt")
+    sitting.begin_afresh()
     return sitting
-
-
-def close_inner_windows(reader):
-    for window in list(reader.find("layered pane", "Windows")):
-        count = reader.find("layered pane", "Windows").childCount
-        reader.key("ctrl+F4")
-        reader.wait_for(lambda: reader.find("layered pane", "Windows").childCount < count, f"no more {window.name!r}")
 
 
 def has_focus(reader, window):
@@ -190,7 +180,8 @@ def test_the_letters_are_opened_scrolled_and_closed_by_keyboard(reader, button, 
 
 
 def test_without_inner_windows_tab_goes_through_the_toolbar(reader, desktop):
-    close_inner_windows(reader)
+    reader.key("ctrl+F4")
+    reader.absent("frame", "Select Verse for Reading")
     frame = reader.find("frame", starts="Kestrel Reader: Portuguese Version")
     reader.key("Tab")
     has_focus(reader, frame)
@@ -244,7 +235,7 @@ WITH_EDIT = {**MENUS, "e": "Edit"}
 WITH_VIEW = {**WITH_EDIT, "v": "View"}
 VERSES = {"g": "radio button: Major Gospels Events", "p": "radio button: Christ's Parables",
           "e": "radio button: Messianic Prophecies", "i": "radio button: Christ's Miracles",
-          "r": "combo box:  Wisdom of the Child", "l": "radio button: Christ's Miracles"}
+          "r": "combo box:  Turning Water into Wine", "l": "radio button: Christ's Miracles"}
 TABS = {"c": "page tab list: Classified Verses", "m": "page tab list: Maps",
         "d": "page tab list: Download Other Translations"}
 
@@ -252,6 +243,15 @@ TABS = {"c": "page tab list: Classified Verses", "m": "page tab list: Maps",
 def is_open(menu):
     import pyatspi
     return any(popup.getState().contains(pyatspi.STATE_SHOWING) for popup in menu)
+
+
+def leave(reader, menu, window):
+    """Out of an open menu to the bar, and from there to the window."""
+    import pyatspi
+    reader.key("Escape")
+    reader.wait_for(lambda: not is_open(menu) and menu.getState().contains(pyatspi.STATE_FOCUSED), "the menu bar")
+    reader.key("Escape")
+    reader.wait_for(lambda: reader.focused(window), "the focus back in the window")
 
 
 @pytest.mark.parametrize("opened, menus, controls", [
@@ -274,8 +274,7 @@ def test_every_alt_letter_has_one_meaning(reader, opened, menus, controls):
         reader.key(f"alt+{letter}")
         item = reader.find("menu item", menu)
         reader.wait_for(lambda: is_open(item), f"the menu {menu}")
-        reader.key("Escape", "Escape")
-        reader.wait_for(lambda: reader.focused(window), "the focus back in the window")
+        leave(reader, item, window)
     for letter, target in controls.items():
         reader.key(f"alt+{letter}")
         reader.wait_for_focus(window, *target.split(": ", 1))
@@ -286,8 +285,7 @@ def test_a_menu_whose_letter_a_control_has_is_reached_along_the_bar(reader):
     reader.key("Alt_L", "Right", "Down")
     edit = reader.find("menu item", "Edit")
     reader.wait_for(lambda: is_open(edit), "the menu Edit")
-    reader.key("Escape", "Escape")
-    has_focus(reader, window)
+    leave(reader, edit, window)
 
 
 def test_inner_windows_are_changed_and_closed_by_keyboard(reader):

@@ -1,0 +1,24 @@
+"""What a screen reader is told, one JSON list a line: the kind of event, the role and name of what it is about.
+
+A process of its own, because whoever listens has to wait for events all the time.
+"""
+import json
+
+import pyatspi
+
+KINDS = {"object:property-change:accessible-name": "name", "object:state-changed:focused": "focus"}
+
+
+def tell(event):
+    try:
+        if event.type == "object:state-changed:focused" and not event.detail1:
+            return  # the focus went away; where it goes is told next
+        print(json.dumps([KINDS[str(event.type)], event.source.getRoleName(), event.source.name]), flush=True)
+    except Exception:  # an object that went away before it could be asked
+        pass
+
+
+for kind in KINDS:
+    pyatspi.Registry.registerEventListener(tell, kind)
+print("listening", flush=True)
+pyatspi.Registry.start()
