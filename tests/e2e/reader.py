@@ -131,7 +131,9 @@ class Reader:
         self.desktop.key(*keys)
 
     def begin_afresh(self):
-        """Closes the inner windows and opens a new selection window."""
+        """Closes what stands over the frame and the inner windows, and opens a new selection window."""
+        for _ in range(self.application().childCount - 1):  # what a failed test has left
+            self.key("Escape")
         area = self.find("layered pane", "Windows")
         for _ in range(area.childCount):
             count = area.childCount

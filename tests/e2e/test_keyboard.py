@@ -263,8 +263,8 @@ def leave(reader, menu, window):
      {"e": SEARCH[0], "b": "combo box: The Four Gospels", "w": SEARCH[0]}),
     (results, WITH_EDIT, {"r": "list: Search results:"}),
     (aids, MENUS, VERSES),
-    (lambda reader: aids(reader, "d"), MENUS, TABS),
-    (lambda reader: aids(reader, "m"), MENUS, {"d": TABS["d"], "m": TABS["m"], "a": "list: Maps"}),
+    (lambda reader: aids(reader, "d"), {}, TABS),
+    (lambda reader: aids(reader, "m"), {}, {"d": TABS["d"], "m": TABS["m"], "a": "list: Maps"}),
     (map_window, WITH_VIEW, {}),
 ], ids=["selection", "reading", "chapter", "search", "results", "verses", "tabs", "maps", "map"])
 def test_every_alt_letter_has_one_meaning(reader, opened, menus, controls):
@@ -309,3 +309,9 @@ def test_an_inner_windows_own_menu_is_opened_by_keyboard(reader):
     reader.wait_for(lambda: window.queryComponent().getExtents(pyatspi.DESKTOP_COORDS).height < height / 2, "an icon")
     reader.key("F2")
     reader.wait_for(lambda: window.queryComponent().getExtents(pyatspi.DESKTOP_COORDS).height == height, "the window")
+
+
+def test_the_study_aids_are_opened_where_f8_is_not_theirs(reader):
+    reading(reader)
+    reader.key("alt+t", "Return")
+    has_focus(reader, reader.find("frame", "Study Aids"))
