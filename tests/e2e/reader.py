@@ -155,7 +155,8 @@ class Reader:
         marks = [mark for mark, on in (("disabled", not state.contains(pyatspi.STATE_SENSITIVE)),
                                        ("checked", state.contains(pyatspi.STATE_CHECKED)))
                  if on and role != "separator"]
-        lines = ["  " * depth + " ".join([f"{role}: {node.name}", *(f"({mark})" for mark in marks)])] if has_words else []
+        words = " ".join([f"{role}: {node.name}", *(f"({mark})" for mark in marks)])
+        lines = ["  " * depth + words] if has_words else []
         if role not in WITH_ENTRIES:
             for child in node:
                 lines += self.lines(child, showing, depth + has_words)
