@@ -22,6 +22,11 @@ public:
     }
 };
 
+bool isMove(int key)
+{
+    return (key >= Qt::Key_Home && key <= Qt::Key_PageDown) && key != Qt::Key_Left && key != Qt::Key_Right;
+}
+
 } // namespace
 
 ResultsList::ResultsList(QWidget* parent)
@@ -93,10 +98,11 @@ void ResultsList::moveByKey(QKeyEvent* event)
 {
     const int before = selected();
     const bool isArrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
-    if (isArrow && before < 0 && currentIndex().isValid())
-        selectLineItStandsOn();
-    else
+    if (!isArrow || before >= 0)
         QListView::keyPressEvent(event);
+    // The first arrow key selects the line it stands on, as does a jump to the line that is current already.
+    if (isMove(event->key()) && selected() < 0 && currentIndex().isValid())
+        selectLineItStandsOn();
     if (selected() != before)
         Q_EMIT lineClicked();
 }

@@ -42,7 +42,7 @@ protected:
 
 private:
     void moveByKey(QKeyEvent* event);
-    void selectLineItStandsOn(); ///< what the first arrow key does
+    void selectLineItStandsOn();
     void showTip(const QPoint& point, const QPoint& globalPoint);
 
     ResultsModel* m_model;

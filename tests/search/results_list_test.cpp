@@ -73,6 +73,41 @@ TEST_F(SearchResults, AreSelectedFromTheFirstOnWithTheArrowKeys)
     EXPECT_EQ(list().selected(), 1);
 }
 
+TEST_F(SearchResults, AreSelectedByAJumpRightAfterTheSearch)
+{
+    press(Qt::Key_Home);
+    EXPECT_EQ(list().selected(), 0);
+    newSearch();
+    search("amor", 44);
+    press(Qt::Key_PageUp);
+    EXPECT_EQ(list().selected(), 0);
+    newSearch();
+    search("amor", 47);
+    press(Qt::Key_End);
+    EXPECT_EQ(list().selected(), list().count() - 1);
+    EXPECT_EQ(open<ChildRead>(), nullptr);
+}
+
+TEST_F(SearchResults, AreSelectedByAnyJumpWhenThereIsOne)
+{
+    const std::pair<Qt::Key, int> jumps[] = {
+        {Qt::Key_Home, 44}, {Qt::Key_End, 47}, {Qt::Key_PageUp, 51}, {Qt::Key_PageDown, -1}};
+    for (const auto& [jump, range] : jumps) {
+        newSearch();
+        search("Jesus chorou", range); // another range, so that the list is made anew
+        ASSERT_EQ(list().count(), 1);
+        press(jump);
+        EXPECT_EQ(list().selected(), 0);
+    }
+}
+
+TEST_F(SearchResults, AreNotSelectedByAKeyThatMovesNowhere)
+{
+    press(Qt::Key_Shift);
+    press(Qt::Key_Left);
+    EXPECT_EQ(list().selected(), -1);
+}
+
 TEST_F(SearchResults, AreOpenedByEnterAndBySpace)
 {
     press(Qt::Key_Down);
