@@ -1,8 +1,10 @@
 #include "app/FrameStyle.h"
 
+#include "widgets/PictureInk.h"
 #include "widgets/Pictures.h"
 #include <QApplication>
 #include <QPainter>
+#include <QStyleOption>
 
 namespace {
 
@@ -46,6 +48,53 @@ QIcon markIcon(QStyle::StandardPixmap which)
     return icon;
 }
 
+struct TitleButton
+{
+    QStyle::SubControl control;
+    QStyle::StandardPixmap mark;
+};
+
+constexpr TitleButton titleButtons[] = {
+    {QStyle::SC_TitleBarMinButton, QStyle::SP_TitleBarMinButton},
+    {QStyle::SC_TitleBarMaxButton, QStyle::SP_TitleBarMaxButton},
+    {QStyle::SC_TitleBarNormalButton, QStyle::SP_TitleBarNormalButton},
+    {QStyle::SC_TitleBarCloseButton, QStyle::SP_TitleBarCloseButton},
+};
+
+void drawTitleButton(QPainter& painter, const QRect& rect, const TitleButton& button,
+                     const QStyleOptionTitleBar& bar)
+{
+    const bool active = bar.titleBarState & QStyle::State_Active;
+    const QColor ink = bar.palette.color(active ? QPalette::HighlightedText : QPalette::WindowText);
+    const bool touched = bar.activeSubControls & button.control;
+    QColor face = bar.state & QStyle::State_Sunken ? Qt::black : ink;
+    face.setAlphaF(touched ? 0.3F : 0.0F);
+    QColor edge = ink;
+    edge.setAlphaF(0.5F);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(edge);
+    painter.setBrush(face);
+    painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(ink, 1.2));
+    painter.translate(rect.center() - QPoint(side / 2, side / 2));
+    drawMark(painter, button.mark);
+    painter.restore();
+}
+
+/// What the outline of a check box or an option button needs to be seen: at least 3:1 on the window.
+QColor outlineOn(const QPalette& palette)
+{
+    const QColor window = palette.color(QPalette::Window);
+    const QColor text = palette.color(QPalette::WindowText);
+    double share = 0.3;
+    while (share < 1 && contrastRatio(blended(window, text, share), window) < 3.5)
+        share += 0.05;
+    return blended(window, text, share);
+}
+
 } // namespace
 
 int FrameStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
@@ -72,5 +121,45 @@ QIcon FrameStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
         return markIcon(which);
     default:
         return QProxyStyle::standardIcon(which, option, widget);
+    }
+}
+
+// The base style's outlines can hardly be told from the window, least of all on dark desktops.
+void FrameStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const
+{
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool isBox = element == PE_IndicatorCheckBox;
+    if ((!isBox && element != PE_IndicatorRadioButton) || !(option->state & State_Enabled))
+        return;
+    const QRectF outline = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(outlineOn(option->palette));
+    painter->setBrush(Qt::NoBrush);
+    if (isBox)
+        painter->drawRect(outline);
+    else
+        painter->drawEllipse(outline);
+    painter->restore();
+}
+
+// The base style draws the marks of a title bar's buttons for a higher bar; in this one they are mere dots.
+void FrameStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                    QPainter* painter, const QWidget* widget) const
+{
+    const auto* bar = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
+    if (control != CC_TitleBar || !bar) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    QStyleOptionTitleBar rest = *bar;
+    for (const TitleButton& button : titleButtons)
+        rest.subControls &= ~button.control;
+    QProxyStyle::drawComplexControl(control, &rest, painter, widget);
+    for (const TitleButton& button : titleButtons) {
+        const QRect rect = subControlRect(control, bar, button.control, widget);
+        if (bar->subControls & button.control && rect.isValid())
+            drawTitleButton(*painter, rect, button, *bar);
     }
 }
