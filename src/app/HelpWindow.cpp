@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
@@ -60,7 +61,7 @@ HelpWindow::HelpWindow(const QList<HelpPage>& pages)
     split->setStretchFactor(1, 1);
     split->setSizes({twips(3000), twips(9000)});
     setCentralWidget(split);
-    resize(twips(12600), twips(9000));
+    resize(QSize(twips(12600), twips(9000)).boundedTo(screen()->availableSize() * 0.92));
 
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
     connect(back, &QAction::triggered, browser, &QTextBrowser::backward);

@@ -9,7 +9,9 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QScrollBar>
 #include <QShortcut>
+#include <QTimer>
 
 namespace {
 
@@ -20,6 +22,12 @@ void giveKeys(QMdiSubWindow& window)
     close->setShortcuts({Qt::CTRL | Qt::Key_F4, Qt::CTRL | Qt::Key_W});
     new QShortcut(Qt::ALT | Qt::Key_Minus, &window, &window, &QMdiSubWindow::showSystemMenu,
                   Qt::WidgetWithChildrenShortcut);
+}
+
+/// How far to scroll so that a window shows, its beginning first of all.
+int scrollTo(int start, int length, int room)
+{
+    return start < 0 || length > room ? start : qMax(0, start + length - room);
 }
 
 } // namespace
@@ -118,6 +126,20 @@ void Form::restoreAndActivate()
     if (state() == Minimized)
         setState(Normal);
     activate();
+    QTimer::singleShot(0, this, &Form::scrollIntoView); // once it has its place, and the area its scroll bars
+}
+
+void Form::scrollIntoView()
+{
+    if (!subWindow() || state() != Normal)
+        return;
+    const QMdiArea& area = *subWindow()->mdiArea();
+    const QRect place = subWindow()->geometry();
+    const QSize room = area.viewport()->size();
+    QScrollBar& across = *area.horizontalScrollBar();
+    QScrollBar& down = *area.verticalScrollBar();
+    across.setValue(across.value() + scrollTo(place.x(), place.width(), room.width()));
+    down.setValue(down.value() + scrollTo(place.y(), place.height(), room.height()));
 }
 
 void Form::unload()

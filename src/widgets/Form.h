@@ -37,7 +37,7 @@ public:
     /// Shows the window, brings it to the front and gives it the keyboard focus.
     void activate();
     /// What every window does that hands something to this one: restore it if it is minimised, then activate
-    /// it.
+    /// it. If it lies outside what the frame shows, the frame is scrolled to it.
     void restoreAndActivate();
     /// Closes the window.
     void unload();
@@ -88,6 +88,7 @@ private:
     QMdiSubWindow* subWindow() const;
     /// Gives the focus to the control that had it last, else to the first that can have it.
     void takeFocus();
+    void scrollIntoView();
     void windowStateChanged(Qt::WindowStates oldState, Qt::WindowStates newState);
 
     Shell& m_shell;

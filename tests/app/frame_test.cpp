@@ -1,4 +1,7 @@
 // The main frame: toolbar, menus, shared commands, single instances.
+#include "maps/ChildMapSel.h"
+#include "read/ChildRead.h"
+#include "select/ChildSelect.h"
 #include "support/Session.h"
 #include "widgets/SoftBttn.h"
 #include <QComboBox>
@@ -94,6 +97,29 @@ TEST_F(Frame, F2RestoresAMinimisedSelectionWindow)
     press(Qt::Key_F2);
     EXPECT_EQ(get<ChildSelect>().state(), Form::Normal);
     EXPECT_EQ(activeForm(), open<ChildSelect>());
+}
+
+TEST_F(Frame, F2ScrollsToASelectionWindowOutOfView)
+{
+    outer(frame().readingWindow()).move(frame().area()->width() * 2, frame().area()->height() * 2);
+    QTest::qWait(0);
+    frame().readingWindow().restoreAndActivate();
+    QTest::qWait(0);
+    EXPECT_LT(outer(get<ChildSelect>()).x(), 0);
+    EXPECT_TRUE(frame().area()->viewport()->rect().contains(outer(get<ChildRead>()).geometry()));
+    press(Qt::Key_F2);
+    QTest::qWait(0);
+    EXPECT_TRUE(frame().area()->viewport()->rect().contains(outer(get<ChildSelect>()).geometry()));
+}
+
+TEST_F(Frame, ShowsTheTitleOfAWindowHigherThanItself)
+{
+    frame().resize(640, 400);
+    frame().openStudyAids();
+    QTest::qWait(0);
+    const QRect area = frame().area()->viewport()->rect();
+    EXPECT_GT(outer(get<ChildMapSel>()).height(), area.height());
+    EXPECT_EQ(outer(get<ChildMapSel>()).y(), 0);
 }
 
 TEST_F(Frame, F2LeavesAMaximisedSelectionWindowMaximised)

@@ -16,6 +16,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -214,6 +215,14 @@ TEST_F(HelpSession, OpensAtThePageOfTheActiveChildWindow)
     frame().readingWindow().restoreAndActivate();
     frame().readingWindow().cmdNext->setFocus();
     EXPECT_EQ(pageOnF1(), "ChildRead");
+}
+
+TEST_F(HelpSession, FitsOnASmallScreen)
+{
+    pageOnF1();
+    const QSize room = helpWindow()->screen()->availableSize();
+    EXPECT_LT(helpWindow()->width(), room.width());
+    EXPECT_LT(helpWindow()->height(), room.height());
 }
 
 TEST_F(HelpSession, ToolbarBelongsToTheActiveChildWindow)
