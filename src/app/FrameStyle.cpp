@@ -3,6 +3,7 @@
 #include "widgets/PictureInk.h"
 #include "widgets/Pictures.h"
 #include <QApplication>
+#include <QMenu>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -132,6 +133,8 @@ void FrameStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     const bool isBox = element == PE_IndicatorCheckBox;
     if ((!isBox && element != PE_IndicatorRadioButton) || !(option->state & State_Enabled))
         return;
+    if (qobject_cast<const QMenu*>(widget))
+        return; // in the list of windows a check alone marks the active one
     const QRectF outline = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
@@ -154,6 +157,8 @@ void FrameStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
         return;
     }
     QStyleOptionTitleBar rest = *bar;
+    if (bar->titleBarState & State_Active) // its white letters have a shadow, which must not be white too
+        rest.palette.setColor(QPalette::Text, Qt::black);
     for (const TitleButton& button : titleButtons)
         rest.subControls &= ~button.control;
     QProxyStyle::drawComplexControl(control, &rest, painter, widget);
