@@ -71,7 +71,7 @@ QString discOfferText()
         "everything on one disc than fetch it piece by piece. It holds:",
         "",
         "    the free editions of Kestrel Reader in other languages;",
-        "    a spoken reading of selected chapters, to listen to while you follow the text;",
+        "    a spoken reading of selected chapters, to hear while you follow the text;",
         "    pictures of the places on the maps, in large size;",
         "    larger, printable copies of all eleven maps.",
         "",

@@ -79,7 +79,7 @@ void drawTitleButton(QPainter& painter, const QRect& rect, const TitleButton& bu
     painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(ink, 1.2));
+    painter.setPen(QPen(ink, 1));
     painter.translate(rect.center() - QPoint(side / 2, side / 2));
     drawMark(painter, button.mark);
     painter.restore();
