@@ -102,13 +102,13 @@ TEST_F(Frame, F2RestoresAMinimisedSelectionWindow)
 TEST_F(Frame, F2ScrollsToASelectionWindowOutOfView)
 {
     outer(frame().readingWindow()).move(frame().area()->width() * 2, frame().area()->height() * 2);
-    QTest::qWait(0);
+    settle();
     frame().readingWindow().restoreAndActivate();
-    QTest::qWait(0);
+    settle();
     EXPECT_LT(outer(get<ChildSelect>()).x(), 0);
     EXPECT_TRUE(frame().area()->viewport()->rect().contains(outer(get<ChildRead>()).geometry()));
     press(Qt::Key_F2);
-    QTest::qWait(0);
+    settle();
     EXPECT_TRUE(frame().area()->viewport()->rect().contains(outer(get<ChildSelect>()).geometry()));
 }
 
@@ -116,7 +116,7 @@ TEST_F(Frame, ShowsTheTitleOfAWindowHigherThanItself)
 {
     frame().resize(640, 400);
     frame().openStudyAids();
-    QTest::qWait(0);
+    settle();
     const QRect area = frame().area()->viewport()->rect();
     EXPECT_GT(outer(get<ChildMapSel>()).height(), area.height());
     EXPECT_EQ(outer(get<ChildMapSel>()).y(), 0);

@@ -5,7 +5,9 @@
 #include "support/Recorders.h"
 #include <gtest/gtest.h>
 #include <memory>
+#include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -97,6 +99,15 @@ protected:
     {
         ASSERT_NE(QApplication::focusWidget(), nullptr) << "nothing has the focus";
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    }
+
+    /// Until nothing is left to be done now; one round may leave some of it on a slow machine.
+    static void settle()
+    {
+        const QDeadlineTimer enough(5000);
+        while (QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents))
+            if (enough.hasExpired())
+                break;
     }
 
     static void click(QWidget& control) { QTest::mouseClick(&control, Qt::LeftButton); }
