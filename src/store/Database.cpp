@@ -85,6 +85,9 @@ void Database::readVerses(std::size_t fileSize)
         m_verses.keys.emplace(*m_verses.block);
         sqlite3_db_release_memory(m_connection.get()); // the pages just read are not needed again
     } catch (const DataError& error) {
+        // The file will stay as it is, but there may be memory for it the next time.
+        if (error.number() == SQLITE_NOMEM)
+            throw;
         m_verses.damage = error;
     }
 }
