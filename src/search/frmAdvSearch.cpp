@@ -49,11 +49,17 @@ void keepColor(QLabel& label)
     label.setPalette(palette);
 }
 
-void setBackground(QWidget& control, const QColor& color)
+/// Paper while it takes input, grey while it does not. Said once and for all: a palette that is set anew at
+/// each search makes the style keep the control's pictures anew.
+void setBackgrounds(QWidget& control)
 {
     QPalette palette = control.palette();
-    palette.setColor(QPalette::Base, color);
-    palette.setColor(QPalette::Button, color); // the face of a combo box
+    const QColor paper = palette.color(QPalette::Base);
+    const QColor grey = palette.color(QPalette::Button);
+    for (const auto role : {QPalette::Base, QPalette::Button}) { // the second is the face of a combo box
+        palette.setColor(role, paper);
+        palette.setColor(QPalette::Disabled, role, grey);
+    }
     control.setPalette(palette);
 }
 
@@ -96,6 +102,8 @@ void frmAdvSearch::placeControls()
     Line1->setFrameStyle(QFrame::HLine | QFrame::Sunken);
     Label1->setBuddy(Text1);
     keepColor(*Label1);
+    for (QWidget* input : std::initializer_list<QWidget*>{Text1, Text2, Combo1, Combo2})
+        setBackgrounds(*input);
     Label3->setBuddy(Combo2);
     Label2->setBuddy(List1);
 
@@ -348,12 +356,8 @@ void frmAdvSearch::cmdHideList_Click()
 
 void frmAdvSearch::enableInputs(bool enable)
 {
-    const QPalette::ColorRole background = enable ? QPalette::Base : QPalette::Button;
-    for (QWidget* input : std::initializer_list<QWidget*>{Text1, Text2, Combo1, Combo2}) {
-        setBackground(*input, palette().color(background));
+    for (QWidget* input : std::initializer_list<QWidget*>{Text1, Text2, Combo1, Combo2, chkWholeWrd})
         input->setEnabled(enable);
-    }
-    chkWholeWrd->setEnabled(enable);
     Label1->setEnabled(enable); // so that its Alt key is the Edit menu's while the inputs rest
 }
 

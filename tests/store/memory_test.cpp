@@ -1,106 +1,8 @@
 // Memory that runs out: whichever allocation fails, of the engine's or of ours, the answer is an error or the
 // right one, and the same question is answered when there is memory again.
+#include "Allocations.h"
 #include "TestDatabase.h"
-#include <cstdlib>
 #include <functional>
-#include <new>
-
-namespace {
-
-/// Counts every allocation of the process and lets one of them fail, or all from there on.
-class Allocations
-{
-public:
-    static void failAt(int number, bool allAfter)
-    {
-        failing = number;
-        failsOn = allAfter;
-        count = 0;
-        failed = false;
-    }
-    /// Whether any has failed since.
-    static bool stopFailing()
-    {
-        failing = 0;
-        return failed;
-    }
-    static bool mayPass()
-    {
-        if (failing == 0)
-            return true;
-        ++count;
-        if (failsOn ? count < failing : count != failing)
-            return true;
-        failed = true;
-        return false;
-    }
-
-private:
-    static inline int failing = 0;
-    static inline int count = 0;
-    static inline bool failsOn = false;
-    static inline bool failed = false;
-};
-
-sqlite3_mem_methods engineMemory; ///< as the engine came with it
-
-/// The engine takes its memory by other methods only before its first use.
-const bool engineMemoryIsWatched = [] {
-    if (sqlite3_config(SQLITE_CONFIG_GETMALLOC, &engineMemory) != SQLITE_OK)
-        return false;
-    sqlite3_mem_methods watched = engineMemory;
-    watched.xMalloc = [](int size) { return Allocations::mayPass() ? engineMemory.xMalloc(size) : nullptr; };
-    watched.xRealloc = [](void* memory, int size) {
-        return Allocations::mayPass() ? engineMemory.xRealloc(memory, size) : nullptr;
-    };
-    return sqlite3_config(SQLITE_CONFIG_MALLOC, &watched) == SQLITE_OK;
-}();
-
-} // namespace
-
-// All of them, so that what one takes no other kind gives back.
-void* operator new(std::size_t size, const std::nothrow_t&) noexcept
-{
-    return Allocations::mayPass() ? std::malloc(size ? size : 1) : nullptr;
-}
-void* operator new(std::size_t size)
-{
-    if (void* memory = operator new(size, std::nothrow))
-        return memory;
-    throw std::bad_alloc();
-}
-void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
-{
-    return operator new(size, std::nothrow);
-}
-void* operator new[](std::size_t size)
-{
-    return operator new(size);
-}
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
-void operator delete(void* memory, const std::nothrow_t&) noexcept
-{
-    std::free(memory);
-}
-void operator delete[](void* memory) noexcept
-{
-    std::free(memory);
-}
-void operator delete[](void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
-void operator delete[](void* memory, const std::nothrow_t&) noexcept
-{
-    std::free(memory);
-}
 
 namespace {
 
@@ -119,7 +21,7 @@ class FailingMemory : public testing::TestWithParam<const char*>
 protected:
     FailingMemory()
     {
-        EXPECT_TRUE(engineMemoryIsWatched);
+        EXPECT_TRUE(Allocations::areWatched());
         makeDatabase(m_folder.file(), smallBible);
         m_kept.setDatabaseName(m_folder.file());
         m_kept.setRecordSource(GetParam());
