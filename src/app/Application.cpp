@@ -3,13 +3,29 @@
 #include "app/FrameStyle.h"
 #include "widgets/Fonts.h"
 #include "widgets/MsgBox.h"
+#include <cstdlib>
 #include <exception>
 #include <QLoggingCategory>
+
+namespace {
+
+QtMessageHandler printMessage = nullptr;
+
+// Without memory for a thread the toolkit says so and goes on, to wait for ever for what the thread should
+// do.
+void endWithoutThreads(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    printMessage(type, context, message);
+    if (message.startsWith("QThread::start: Thread creation error"))
+        std::_Exit(1);
+}
+
+} // namespace
 
 int Application::argumentCount = 1;
 
 Application::Application(char* programName[])
-    : QApplication(argumentCount, programName)
+    : QApplication((printMessage = qInstallMessageHandler(endWithoutThreads), argumentCount), programName)
 {
     setApplicationName("kestrel-reader");
     setApplicationDisplayName(""); // captions are the windows' own

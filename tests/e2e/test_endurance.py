@@ -2,17 +2,13 @@
 import hashlib
 import os
 import pathlib
-import random
-import re
-import resource
 import shutil
 import signal
 import subprocess
 import time
 
 import pytest
-from desktop import Desktop
-from reader import install
+from reader import Reader, install
 
 TITLE = "Kestrel Reader: Portuguese Version"
 VERSE = "Mt:24:43"
@@ -220,3 +216,34 @@ def test_a_file_that_may_not_be_read_counts_as_missing(start, desktop, copy, tmp
     assert reader.text_of_box(TITLE) == MISSING.format(name)
     desktop.key("Return")
     assert reader.wait() == 1
+
+
+# --- Too little memory ---
+
+@pytest.mark.parametrize("megabytes", [40, 100, 108, 116, 128, 160, 230, 236, 240, 400])
+def test_with_any_amount_of_memory_it_runs_or_ends(desktop, installed, tmp_path, megabytes):
+    """From far too little to enough: an error, or the right verse; never an endless wait. What the toolkit and the
+    system's libraries write to standard error then, and how they end, is theirs."""
+    script = tmp_path / "kestrel-reader"
+    script.write_text(f"#!/bin/sh\nulimit -v {megabytes * 1024}\nexec {installed}/kestrel-reader\n")
+    script.chmod(0o755)
+    reader = Reader(desktop, tmp_path)
+    try:
+        deadline = time.monotonic() + 20
+        title = ""
+        while reader.process.poll() is None and not title.startswith(f"{TITLE} - Freeware"):
+            assert time.monotonic() < deadline, "it neither runs nor ends"
+            title = desktop.run("xdotool", "getactivewindow", "getwindowname", check=False)
+            if title.strip() == TITLE:  # a message that it cannot go on
+                desktop.key("Return")
+            time.sleep(0.05)
+        if reader.process.poll() is None:
+            desktop.key("ctrl+a")
+            desktop.type(VERSE)
+            desktop.key("Return", "ctrl+c")
+            while reader.process.poll() is None and not desktop.clipboard().startswith(VERSE + "\r\n "):
+                assert time.monotonic() < deadline, "no verse, no error"
+        if reader.process.poll() is not None:
+            assert reader.process.returncode != 0
+    finally:
+        reader.end()

@@ -14,6 +14,11 @@ struct Row
     bool matches;
 };
 
+void PrintTo(const Row& row, std::ostream* out)
+{
+    *out << row.pattern;
+}
+
 class LikeTable : public testing::TestWithParam<Row>
 {
 };

@@ -19,6 +19,11 @@ struct First
     std::string number;
 };
 
+void PrintTo(const First& first, std::ostream* out)
+{
+    *out << first.condition;
+}
+
 class FirstRow : public testing::TestWithParam<First>
 {
 };
@@ -112,6 +117,11 @@ struct Shape
     std::string conditions;
     std::function<bool(int number, std::string_view key, std::string_view text)> wanted;
 };
+
+void PrintTo(const Shape& shape, std::ostream* out)
+{
+    *out << shape.conditions;
+}
 
 bool like(const char* pattern, std::string_view text)
 {
