@@ -139,12 +139,12 @@ def test_it_writes_no_file_from_start_to_end(start, desktop, wrapped, tmp_path):
 def locales(tmp_path_factory):
     """A folder with locales of other letters, digits and directions."""
     folder = tmp_path_factory.mktemp("locales")
-    for name in ("pt_BR", "tr_TR", "ar_EG"):
+    for name in ("pt_BR", "tr_TR", "ar_EG", "de_DE"):
         subprocess.run(["localedef", "-i", name, "-f", "UTF-8", folder / f"{name}.UTF-8"], check=True)
     return folder
 
 
-@pytest.mark.parametrize("locale", ["C", "pt_BR.UTF-8", "tr_TR.UTF-8", "ar_EG.UTF-8"])
+@pytest.mark.parametrize("locale", ["C", "pt_BR.UTF-8", "tr_TR.UTF-8", "ar_EG.UTF-8", "de_DE.UTF-8"])
 def test_every_locale_finds_the_same_verses(start, desktop, installed, locales, locale):
     reader = start(installed, LC_ALL=locale, LOCPATH=str(locales))
     frame(reader)
