@@ -132,7 +132,6 @@ TEST_P(FailingMemoryAtTheOpening, isForgottenByTheSameSourcesNextUse)
 }
 
 INSTANTIATE_TEST_SUITE_P(kinds, FailingMemoryAtTheOpening,
-                         testing::Values("SELECT * FROM NewTestament WHERE VerseId LIKE 'Gn:1*'",
-                                         "SELECT * FROM NTMaps WHERE MapNumber = 1"));
+                         testing::Values("SELECT * FROM NewTestament WHERE VerseId LIKE 'Gn:1*'"));
 
 } // namespace
