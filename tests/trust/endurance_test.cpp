@@ -150,7 +150,7 @@ protected:
 
     void searchAndRead(int times)
     {
-        static const QStringList words = {"amor", "casa", "luz", "terra", "pastor", "deus", "rei", "e"};
+        static const QStringList words = {"amor", "casa", "luz", "igreja", "pastor", "jugo"};
         for (int i = 0; i < times; ++i)
             search(words[i % words.size()]);
     }
@@ -180,7 +180,7 @@ TEST_F(Soak, AThousandSearchesLeaveTheMemoryFlat)
     searchAndRead(1'000);
     const long after = residentKilobytes();
     EXPECT_LE(after - before, 1024) << before << " kB before, " << after << " kB after";
-    EXPECT_GT(found, 1'000'000);
+    EXPECT_GT(found, 10'000);
 }
 
 } // namespace
