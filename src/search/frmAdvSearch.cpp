@@ -339,7 +339,8 @@ void frmAdvSearch::stopClip()
 void frmAdvSearch::enterResultsMode()
 {
     enableResults(true);
-    List1->setFocus(); // before the inputs rest, or the focus would wander over one after the other
+    if (QWidget* input = focusWidget())
+        input->clearFocus(); // or it would wander over the inputs as they come to rest, one after the other
     cmdOK->setEnabled(false);
     enableInputs(false);
     Form_Resize();
