@@ -4,12 +4,12 @@
 #include "app/frmDN.h"
 #include "app/frmQORV.h"
 #include "app/LinkLabel.h"
+#include "support/OnceModal.h"
 #include "support/Session.h"
 #include "widgets/Maker.h"
 #include "widgets/SoftBttn.h"
 #include <QCheckBox>
 #include <QPlainTextEdit>
-#include <QTimer>
 
 namespace {
 
@@ -132,7 +132,7 @@ protected:
     void whileAboutIsOpen(std::function<void(frmStart&)> use)
     {
         bool used = false;
-        QTimer::singleShot(0, [&] {
+        const auto looking = onceModal([&](QWidget&) {
             frmStart* window = program->startWindow();
             ASSERT_NE(window, nullptr);
             QPointer<frmStart> open = window;
@@ -153,8 +153,8 @@ protected:
     void whileLetterIsOpen(std::function<void()> open, std::function<void(QDialog&)> use)
     {
         bool used = false;
-        QTimer::singleShot(0, [&] {
-            auto* letter = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        const auto looking = onceModal([&](QWidget& window) {
+            auto* letter = qobject_cast<QDialog*>(&window);
             ASSERT_NE(letter, nullptr);
             QApplication::setActiveWindow(letter);
             use(*letter);
@@ -226,7 +226,7 @@ TEST_F(About, OpensFromTheMenuOfAnyWindow)
 {
     for (int i = 0; i < 2; ++i) {
         bool seen = false;
-        QTimer::singleShot(0, [&] {
+        const auto looking = onceModal([&](QWidget&) {
             ASSERT_NE(program->startWindow(), nullptr);
             seen = program->startWindow()->isVisible();
             click(*program->startWindow()->cmdOK);

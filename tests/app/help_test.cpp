@@ -4,6 +4,7 @@
 #include "app/HelpFile.h"
 #include "app/HelpWindow.h"
 #include "store/BookCatalog.h"
+#include "support/OnceModal.h"
 #include "support/Session.h"
 #include "widgets/Maker.h"
 #include "widgets/SoftBttn.h"
@@ -19,7 +20,6 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QWindow>
 
 namespace {
@@ -262,7 +262,7 @@ TEST_F(HelpSession, OpensAtThePageOfEveryChildWindow)
 TEST_F(HelpSession, OpensAtTheAboutWindowsPageWhileThatIsOpen)
 {
     QString page;
-    QTimer::singleShot(0, [&] {
+    const auto looking = onceModal([&](QWidget&) {
         QApplication::setActiveWindow(program->startWindow());
         program->startWindow()->cmdMore->setFocus();
         page = pageOnF1();
@@ -281,14 +281,13 @@ TEST_F(HelpSession, OpensAtTheAboutWindowsPageWhileThatIsOpen)
 TEST_F(HelpSession, OpensAtThePageOfBothLetters)
 {
     QStringList pages;
-    QTimer::singleShot(0, [&] {
+    const auto looking = onceModal([&](QWidget&) {
         for (SoftBttn* button : {program->startWindow()->cmdDonation, program->startWindow()->cmdQORV}) {
-            QTimer::singleShot(0, [&] {
-                QWidget* letter = QApplication::activeModalWidget();
-                QApplication::setActiveWindow(letter);
+            const auto reading = onceModal([&](QWidget& letter) {
+                QApplication::setActiveWindow(&letter);
                 pages << pageOnF1();
-                QApplication::setActiveWindow(letter);
-                QTest::keyClick(letter->focusWidget(), Qt::Key_Escape);
+                QApplication::setActiveWindow(&letter);
+                QTest::keyClick(letter.focusWidget(), Qt::Key_Escape);
             });
             click(*button);
         }
@@ -303,13 +302,11 @@ TEST_F(HelpSession, OpensAtThePageBehindAMessageWhileThatIsOpen)
 {
     MsgBox::setBackEnd({}); // the real boxes
     QString page;
-    QTimer::singleShot(0, [&] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        ASSERT_NE(box, nullptr);
-        QApplication::setActiveWindow(box);
+    const auto looking = onceModal([&](QWidget& box) {
+        QApplication::setActiveWindow(&box);
         page = pageOnF1();
-        EXPECT_TRUE(box->isVisible());
-        box->close();
+        EXPECT_TRUE(box.isVisible());
+        box.close();
     });
     MsgBox::show("A message.", MsgIcon::Information);
     EXPECT_EQ(page, "ChildSelect");
@@ -320,7 +317,7 @@ TEST_F(HelpSession, CanBeUsedBesideAModalWindowAndStaysWhenThatCloses)
     openHelp("Keys"); // stands alone, and is then called again from the modal window
     EXPECT_EQ(helpWindow()->windowHandle()->transientParent(), nullptr);
     QApplication::setActiveWindow(&frame());
-    QTimer::singleShot(0, [&] {
+    const auto looking = onceModal([&](QWidget&) {
         QApplication::setActiveWindow(program->startWindow());
         EXPECT_EQ(pageOnF1(), "frmStart");
         EXPECT_EQ(helpWindow()->windowHandle()->transientParent(), program->startWindow()->windowHandle());

@@ -1,4 +1,5 @@
 // The doors to the desktop: message boxes, hourglass, fonts, the rule of one copy.
+#include "support/OnceModal.h"
 #include "widgets/Fonts.h"
 #include "widgets/Hourglass.h"
 #include "widgets/MsgBox.h"
@@ -11,16 +12,15 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 
 namespace {
 
 /// Looks at the open message box and answers it with a key.
 template <class Look>
-void whenShown(Qt::Key answer, Look look)
+[[nodiscard]] std::unique_ptr<QTimer> whenShown(Qt::Key answer, Look look)
 {
-    QTimer::singleShot(50, [answer, look] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    return onceModal([answer, look](QWidget& window) {
+        auto* box = qobject_cast<QMessageBox*>(&window);
         ASSERT_NE(box, nullptr);
         look(*box);
         QTest::keyClick(box, answer);
@@ -31,7 +31,7 @@ void whenShown(Qt::Key answer, Look look)
 
 TEST(MsgBox, ShowsTextTitleIconAndOneButton)
 {
-    whenShown(Qt::Key_Return, [](QMessageBox& box) {
+    const auto looking = whenShown(Qt::Key_Return, [](QMessageBox& box) {
         EXPECT_EQ(box.text(), "first\n\nsecond <b>");
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
         EXPECT_EQ(box.windowTitle(), "Title");
@@ -44,7 +44,7 @@ TEST(MsgBox, ShowsTextTitleIconAndOneButton)
 
 TEST(MsgBox, CarriesTheApplicationTitleUnlessGivenAnother)
 {
-    whenShown(Qt::Key_Escape, [](QMessageBox& box) {
+    const auto looking = whenShown(Qt::Key_Escape, [](QMessageBox& box) {
         EXPECT_EQ(box.windowTitle(), "Kestrel Reader: Portuguese Version");
         EXPECT_EQ(box.icon(), QMessageBox::Critical);
     });
@@ -53,11 +53,12 @@ TEST(MsgBox, CarriesTheApplicationTitleUnlessGivenAnother)
 
 TEST(MsgBox, AsksYesOrNoAndTakesClosingForNo)
 {
-    whenShown(Qt::Key_Return, [](QMessageBox& box) { EXPECT_EQ(box.icon(), QMessageBox::Question); });
+    auto looking =
+        whenShown(Qt::Key_Return, [](QMessageBox& box) { EXPECT_EQ(box.icon(), QMessageBox::Question); });
     EXPECT_EQ(MsgBox::show("?", MsgIcon::Question, MsgButtons::YesNo), MsgAnswer::Yes);
-    whenShown(Qt::Key_Escape, [](QMessageBox&) {});
+    looking = whenShown(Qt::Key_Escape, [](QMessageBox&) {});
     EXPECT_EQ(MsgBox::show("?", MsgIcon::Question, MsgButtons::YesNo), MsgAnswer::No);
-    whenShown(Qt::Key_N, [](QMessageBox& box) {
+    looking = whenShown(Qt::Key_N, [](QMessageBox& box) {
         EXPECT_EQ(box.button(QMessageBox::No)->text().remove('&'), "No");
         QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton);
     });
