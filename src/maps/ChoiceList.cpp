@@ -22,6 +22,11 @@ bool isStep(int key)
     return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Home;
 }
 
+bool isJump(int key)
+{
+    return key == Qt::Key_PageUp || key == Qt::Key_PageDown || key == Qt::Key_End;
+}
+
 } // namespace
 
 ChoiceList::ChoiceList(const QString& name, QWidget* parent)
@@ -41,6 +46,8 @@ void ChoiceList::keyPressEvent(QKeyEvent* event)
         currentItem()->setSelected(true);
     else
         QListWidget::keyPressEvent(event);
+    if (isJump(event->key()) && selectedItems().isEmpty() && currentItem())
+        currentItem()->setSelected(true); // the jump ended where it began
     if (selectedItems() != chosen)
         Q_EMIT click();
     if (character != 0)

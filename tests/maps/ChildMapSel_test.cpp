@@ -215,6 +215,17 @@ TEST_F(ChildMapSelTest, FirstArrowKeyChoosesTheFirstEntry)
     EXPECT_TRUE(aids->List1->item(0)->isSelected());
 }
 
+TEST_F(ChildMapSelTest, FirstJumpInAListOfOneChoosesItsEntry)
+{
+    ASSERT_EQ(aids->List1->count(), 1);
+    for (Qt::Key key : {Qt::Key_Home, Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageDown}) {
+        aids->List1->setFocus();
+        aids->List1->clearSelection();
+        EXPECT_FALSE(opensVerse([this, key] { QTest::keyClick(aids->List1, key); }));
+        EXPECT_TRUE(aids->List1->item(0)->isSelected()) << key;
+    }
+}
+
 TEST_F(ChildMapSelTest, ArrowKeyMovesAndOpensNothing)
 {
     aids->List1->addItem(" Mt:5:3-12 ");
