@@ -70,9 +70,10 @@ function(kestrel_script_test name script)
     set_tests_properties(${name} PROPERTIES TIMEOUT 600)
 endfunction()
 
-# kestrel_pytest(NAME FOLDER): the Python tests of tests/FOLDER.
-function(kestrel_pytest name folder)
-    add_test(NAME ${name} COMMAND ${SYSTEM_PYTHON} -m pytest -q -p no:cacheprovider ${CMAKE_SOURCE_DIR}/tests/${folder})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT
+# kestrel_pytest(NAME PATH...): the Python tests of these folders or files of tests/.
+function(kestrel_pytest name)
+    list(TRANSFORM ARGN PREPEND ${CMAKE_SOURCE_DIR}/tests/ OUTPUT_VARIABLE paths)
+    add_test(NAME ${name} COMMAND ${SYSTEM_PYTHON} -m pytest -q -p no:cacheprovider ${paths})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 900 ENVIRONMENT
         "KESTREL_TOOLS_DIR=${CMAKE_BINARY_DIR}/tools;KESTREL_INSTALL_DIR=${KESTREL_INSTALL_DIR}")
 endfunction()

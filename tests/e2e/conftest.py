@@ -4,16 +4,17 @@ import pathlib
 
 import pytest
 from desktop import Desktop
-from reader import Reader
+from reader import Reader, install
 
 TOP = pathlib.Path(__file__).resolve().parents[2]
 
 
 @pytest.fixture(scope="session")
-def installed():
+def installed(tmp_path_factory):
+    """A copy of the assembled program: the one in its own place may be in use."""
     folder = pathlib.Path(os.environ.get("KESTREL_INSTALL_DIR", TOP / "build" / "kestrel"))
     assert (folder / "kestrel-reader").exists(), f"no program in {folder}: run ./setup"
-    return folder
+    return install(folder, tmp_path_factory.mktemp("installed"))
 
 
 @pytest.fixture(scope="session")

@@ -10,7 +10,7 @@ SEED = 1998
 EVENTS = 1000
 AT_ONCE = 10  # events of one command
 LOOK_EVERY = 100
-GROWTH_LIMIT = 16  # MB over the whole run: each window, the clip, maps and fonts come into memory once
+GROWTH_LIMIT = 32  # MB over the whole run: each window, the clip, maps and fonts come into memory once
 FRAME = "Kestrel Reader: Portuguese Version - Freeware"
 WINDOWS = ("Select Verse for Reading", "Reading Window -- ", "Chapter Window -- ", "Advanced Search", "Study Aids",
            "Map -- ")
