@@ -151,6 +151,8 @@ class Reader:
         state, role = node.getState(), node.getRoleName()
         if showing and not state.contains(pyatspi.STATE_SHOWING):
             return []
+        if role == "scroll bar" and not node.name:  # whether a text needs one is its font's business
+            return []
         has_words = role not in LAYOUT
         marks = [mark for mark, on in (("disabled", not state.contains(pyatspi.STATE_SENSITIVE)),
                                        ("checked", state.contains(pyatspi.STATE_CHECKED)))
