@@ -2,6 +2,7 @@
 
 #include "widgets/PictureInk.h"
 #include "widgets/Pictures.h"
+#include <algorithm>
 #include <QApplication>
 #include <QMenu>
 #include <QPainter>
@@ -147,10 +148,24 @@ void FrameStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     painter->restore();
 }
 
+// The base style keeps a picture of each combo box by the identity of its palette, and a key for each for
+// ever. New windows' palettes are new ones that say the same.
+const QPalette& FrameStyle::firstEqual(const QPalette& palette) const
+{
+    const auto known = std::find(m_palettes.cbegin(), m_palettes.cend(), palette);
+    return known != m_palettes.cend() ? *known : m_palettes.emplaceBack(palette);
+}
+
 // The base style draws the marks of a title bar's buttons for a higher bar; in this one they are mere dots.
 void FrameStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                     QPainter* painter, const QWidget* widget) const
 {
+    if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option)) {
+        QStyleOptionComboBox known = *combo;
+        known.palette = firstEqual(combo->palette);
+        QProxyStyle::drawComplexControl(control, &known, painter, widget);
+        return;
+    }
     const auto* bar = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
     if (control != CC_TitleBar || !bar) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QList>
+#include <QPalette>
 #include <QProxyStyle>
 
 /// The one style of all windows, on every desktop: the windows' sizes count their title bars and borders in.
@@ -20,4 +22,9 @@ public:
                        const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
+
+private:
+    const QPalette& firstEqual(const QPalette& palette) const;
+
+    mutable QList<QPalette> m_palettes; ///< of combo boxes; all differ
 };

@@ -2,8 +2,10 @@
 #include "app/FrameStyle.h"
 #include "widgets/PictureInk.h"
 #include <gtest/gtest.h>
+#include <QCommonStyle>
 #include <QImage>
 #include <QPainter>
+#include <QSet>
 #include <QStyleOption>
 
 namespace {
@@ -93,4 +95,34 @@ TEST(TitleBar, CloseButtonBearsACross)
         FrameStyle().subControlRect(QStyle::CC_TitleBar, &bar, QStyle::SC_TitleBarCloseButton, nullptr);
     ASSERT_TRUE(close.isValid());
     EXPECT_GE(whiteOnDiagonal(titleBar(QStyle::State_Active), close), 7);
+}
+
+TEST(ComboBoxes, WithPalettesThatSayTheSameShareOneIdentity)
+{
+    class Recorder : public QCommonStyle
+    {
+    public:
+        void drawComplexControl(ComplexControl, const QStyleOptionComplex* option, QPainter*,
+                                const QWidget*) const override
+        {
+            keys.insert(option->palette.cacheKey());
+        }
+        mutable QSet<qint64> keys;
+    };
+    FrameStyle style;
+    auto* recorder = new Recorder;
+    style.setBaseStyle(recorder);
+    const auto draw = [&style](const QPalette& palette) {
+        QStyleOptionComboBox combo;
+        combo.palette = palette;
+        QImage image(8, 8, QImage::Format_RGB32);
+        QPainter painter(&image);
+        style.drawComplexControl(QStyle::CC_ComboBox, &combo, &painter, nullptr);
+    };
+    for (int window = 0; window < 10; ++window)
+        draw(light());
+    EXPECT_EQ(recorder->keys.size(), 1);
+    draw(dark());
+    draw(light());
+    EXPECT_EQ(recorder->keys.size(), 2);
 }
