@@ -49,8 +49,7 @@ void keepColor(QLabel& label)
     label.setPalette(palette);
 }
 
-/// Paper while it takes input, grey while it does not. Said once and for all: a palette that is set anew at
-/// each search makes the style keep the control's pictures anew.
+/// Paper while it takes input, grey while it does not.
 void setBackgrounds(QWidget& control)
 {
     QPalette palette = control.palette();
