@@ -17,6 +17,12 @@ def installed(tmp_path_factory):
     return install(folder, tmp_path_factory.mktemp("installed"))
 
 
+@pytest.fixture
+def copy(installed, tmp_path):
+    """A copy that a test may change."""
+    return install(installed, tmp_path / "kestrel")
+
+
 @pytest.fixture(scope="session")
 def verses():
     """The text list: the verses by their keys."""

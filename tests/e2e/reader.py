@@ -1,5 +1,4 @@
 """The installed program as a user meets it: started, looked at through the accessibility services, ended."""
-import os
 import pathlib
 import shutil
 import subprocess
@@ -129,6 +128,26 @@ class Reader:
 
     def key(self, *keys):
         self.desktop.key(*keys)
+
+    def look_up(self, reference, key):
+        """Types a reference into the selection window; the reading window with the verse of that key."""
+        self.desktop.wait_for_focus("Kestrel Reader: Portuguese Version")
+        self.key("F2", "ctrl+a")
+        self.desktop.type(reference)
+        self.key("Return")
+        return self.find("frame", f"Reading Window -- {key}")
+
+    def search(self, words):
+        """Searches the Gospels; how many verses it found, as the message says it."""
+        self.key("F3")
+        window = self.find("frame", "Advanced Search")
+        self.key("ctrl+a")
+        self.desktop.type(words)
+        self.key("Return")
+        found = self.text_of_box("Search Results:")
+        self.key("Return")
+        self.wait_for_focus(window, "list", "Search results:")
+        return found
 
     def begin_afresh(self):
         """Closes what stands over the frame and the inner windows, and opens a new selection window."""

@@ -7,37 +7,11 @@ import subprocess
 import time
 
 import pytest
-from reader import Reader, install
+from reader import Reader
 
 TITLE = "Kestrel Reader: Portuguese Version"
 VERSE = "Mt:24:43"
 MISSING = "Couldn't find file '{}'. Please run Setup."
-
-
-@pytest.fixture
-def copy(installed, tmp_path):
-    return install(installed, tmp_path / "kestrel")
-
-
-def look_up(reader, desktop, reference, key):
-    desktop.wait_for_focus(TITLE)
-    desktop.key("F2", "ctrl+a")
-    desktop.type(reference)
-    desktop.key("Return")
-    return reader.find("frame", f"Reading Window -- {key}")
-
-
-def search(reader, desktop, words):
-    """Searches the Gospels; what the message says."""
-    desktop.key("F3")
-    reader.find("frame", "Advanced Search")
-    desktop.key("ctrl+a")
-    desktop.type(words)
-    desktop.key("Return")
-    found = reader.text_of_box("Search Results:")
-    desktop.key("Return")
-    reader.absent(None, "Search Results:")
-    return found
 
 
 # --- A full disk ---
@@ -70,17 +44,17 @@ def test_a_full_disk_stops_nothing(start, desktop, installed, full_disk):
     folders = ("HOME", "TMPDIR", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_DATA_HOME")
     reader = start(installed, **{name: str(full_disk) for name in folders})
     reader.find("frame", "Select Verse for Reading")
-    look_up(reader, desktop, VERSE, VERSE)
+    reader.look_up(VERSE, VERSE)
     desktop.key("ctrl+c")
     reader.wait_for(lambda: desktop.clipboard().startswith(VERSE + "\r\n "), "the verse on the clipboard")
-    assert search(reader, desktop, "IGREJA") == "2 verse(s) found."
+    assert reader.search("IGREJA") == "2 verse(s) found."
 
 
 # --- The clipboard ---
 
 def test_a_clipboard_that_others_take_and_leave(reader, desktop):
     """Its owner is killed with the clipboard; another takes it again and again while the program copies."""
-    look_up(reader, desktop, VERSE, VERSE)
+    reader.look_up(VERSE, VERSE)
     owner = subprocess.Popen(["xclip", "-selection", "clipboard", "-quiet"], env=desktop.environment,
                              stdin=subprocess.PIPE, stderr=subprocess.DEVNULL)
     owner.stdin.write(b"of another program")
@@ -131,7 +105,7 @@ def test_killed_at_any_moment_it_leaves_nothing_and_starts_again(start, desktop,
         reader.find(None, "Kestrel Reader (PT)")
     else:
         reader.find("frame", "Select Verse for Reading")
-        look_up(reader, desktop, VERSE, VERSE)
+        reader.look_up(VERSE, VERSE)
     if moment == "search":
         desktop.key("F3")
         reader.find("frame", "Advanced Search")
@@ -151,7 +125,7 @@ def test_killed_at_any_moment_it_leaves_nothing_and_starts_again(start, desktop,
     assert sorted(path.name for path in copy.iterdir()) == ["KESTREL.HLP", "KESTRPT.DAT", "SEARCH.AVI", "kestrel-reader"]
     again = start(copy, **private)
     again.find("frame", "Select Verse for Reading")
-    look_up(again, desktop, VERSE, VERSE)
+    again.look_up(VERSE, VERSE)
 
 
 # --- Time zones ---

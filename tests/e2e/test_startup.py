@@ -8,11 +8,6 @@ from reader import install
 TITLE = "Kestrel Reader: Portuguese Version"
 
 
-@pytest.fixture
-def copy(installed, tmp_path):
-    return install(installed, tmp_path / "kestrel")
-
-
 def refusal(start, desktop, folder, title=TITLE):
     program = start(folder)
     text = program.text_of_box(title)

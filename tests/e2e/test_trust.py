@@ -16,11 +16,6 @@ FONTS = pathlib.Path("/usr/share/fonts/truetype/liberation")
 
 
 @pytest.fixture
-def copy(installed, tmp_path):
-    return install(installed, tmp_path / "kestrel")
-
-
-@pytest.fixture
 def wrapped(installed, tmp_path):
     """A folder whose program starts the installed one by way of a command."""
     def make(*command, folder=installed):
@@ -34,35 +29,6 @@ def wrapped(installed, tmp_path):
 
 def frame(reader):
     return reader.find("frame", starts="Kestrel Reader: Portuguese Version")
-
-
-def look_up(reader, desktop, reference, key):
-    desktop.wait_for_focus("Kestrel Reader: Portuguese Version")
-    desktop.key("F2")
-    time.sleep(0.3)  # a traced or odd program is slow to follow
-    desktop.key("ctrl+a")
-    desktop.type(reference)
-    desktop.key("Return")
-    return reader.find("frame", f"Reading Window -- {key}")
-
-
-def is_focused(node):
-    import pyatspi
-    return node.getState().contains(pyatspi.STATE_FOCUSED)
-
-
-def search(reader, desktop, words):
-    """Searches the Gospels; how many verses it found, as the message says it."""
-    desktop.key("F3")
-    reader.find("frame", "Advanced Search")
-    desktop.key("ctrl+a")
-    desktop.type(words)
-    desktop.key("Return")
-    found = reader.text_of_box("Search Results:")
-    desktop.key("Return")
-    results = reader.find("list", "Search results:")
-    reader.wait_for(lambda: is_focused(results), "the focus in the list of results")
-    return found
 
 
 def first_result(reader, desktop, key):
@@ -116,10 +82,10 @@ def test_it_writes_no_file_from_start_to_end(start, desktop, wrapped, tmp_path):
     # -D: the program keeps the process it was started as, and the tracer watches from the side
     reader = start(wrapped("strace", "-D", "-f", "-qq", "-s", "4096", "-o", log, "-e", "trace=%file,ftruncate"))
     frame(reader)
-    look_up(reader, desktop, VERSE, VERSE)
+    reader.look_up(VERSE, VERSE)
     desktop.key("F9")
     reader.find("frame", "Chapter Window -- Mt:24:")
-    assert search(reader, desktop, "IGREJA") == IGREJA
+    assert reader.search("IGREJA") == IGREJA
     open_map(reader, desktop)
     reader.find("frame", starts="Map -- Abraham's Journeys")
     desktop.key("F1")
@@ -148,9 +114,9 @@ def locales(tmp_path_factory):
 def test_every_locale_finds_the_same_verses(start, desktop, installed, locales, locale):
     reader = start(installed, LC_ALL=locale, LOCPATH=str(locales))
     frame(reader)
-    look_up(reader, desktop, "mt:24:43", VERSE)
-    look_up(reader, desktop, "TI:1:1", "Ti:1:1")  # i and I are no pair in Turkish
-    assert search(reader, desktop, "IGREJA") == IGREJA
+    reader.look_up("mt:24:43", VERSE)
+    reader.look_up("TI:1:1", "Ti:1:1")  # i and I are no pair in Turkish
+    assert reader.search("IGREJA") == IGREJA
     first_result(reader, desktop, "Mt:16:18")
 
 
@@ -201,7 +167,7 @@ def test_it_starts_with_one_font_and_with_none(start, desktop, installed, tmp_pa
     config.write_text(f"<fontconfig><dir>{fonts}</dir><cachedir>{tmp_path}/cache</cachedir></fontconfig>")
     reader = start(installed, FONTCONFIG_FILE=str(config))
     frame(reader)
-    look_up(reader, desktop, VERSE, VERSE)
+    reader.look_up(VERSE, VERSE)
 
 
 # --- Files that change under it ---
@@ -219,7 +185,7 @@ def test_a_damaged_clip_does_not_stop_a_search(start, desktop, copy, damage):
     clip.write_bytes(bytes_)
     reader = start(copy)
     frame(reader)
-    assert search(reader, desktop, "IGREJA") == IGREJA
+    assert reader.search("IGREJA") == IGREJA
 
 
 def test_files_removed_after_the_start_are_not_missed(start, desktop, copy):
@@ -227,11 +193,11 @@ def test_files_removed_after_the_start_are_not_missed(start, desktop, copy):
     frame(reader)
     for name in ("KESTRPT.DAT", "SEARCH.AVI"):
         (copy / name).unlink()
-    look_up(reader, desktop, VERSE, VERSE)
-    assert search(reader, desktop, "IGREJA") == IGREJA
+    reader.look_up(VERSE, VERSE)
+    assert reader.search("IGREJA") == IGREJA
     open_map(reader, desktop)
     reader.find("frame", starts="Map -- Abraham's Journeys")
-    look_up(reader, desktop, "Rv", "Rv:1:1")
+    reader.look_up("Rv", "Rv:1:1")
 
 
 def test_killed_in_the_splash_it_starts_again(start, copy):
