@@ -20,6 +20,7 @@ TextSearch::TextSearch(const VerseBlock& block, std::string_view pattern)
     , m_pattern(pattern)
 {
     chooseProbes();
+    chooseBits();
 }
 
 void TextSearch::chooseProbes()
@@ -42,6 +43,17 @@ void TextSearch::chooseProbes()
     if (!piece.empty()) {
         m_rarest = {rarest, withoutCase(piece[rarest])};
         m_second = {second, withoutCase(piece[second])};
+    }
+}
+
+void TextSearch::chooseBits()
+{
+    const std::string& piece = m_pattern.piece();
+    for (const char *at = piece.data(), *end = at + piece.size(); at != end;) {
+        const char32_t letter = nextCharacter(at, end);
+        m_bits.resize(at - piece.data(), '\xFF');
+        if (toOtherCase(letter) != letter)
+            m_bits.back() = '\xDF';
     }
 }
 
@@ -70,7 +82,7 @@ double TextSearch::share() const
 {
     constexpr std::size_t stretches = 16;
     const std::size_t step = m_block.size() / stretches + 1;
-    const std::size_t length = step / 8 + 1;
+    const std::size_t length = step / 32 + 1;
     std::size_t looked = 0;
     std::size_t found = 0;
     for (std::size_t start = 0; start < m_block.size(); start += step) {
@@ -85,21 +97,17 @@ double TextSearch::share() const
 [[gnu::target_clones("avx2", "default")]] const char* TextSearch::findPiece(const char* at,
                                                                             const char* end) const
 {
-    constexpr std::ptrdiff_t stride = 64;
+    constexpr std::ptrdiff_t stride = 256;
     const auto length = static_cast<std::ptrdiff_t>(m_pattern.piece().size());
     for (; end - at >= length + stride; at += stride) {
         const char* const first = at + m_rarest.offset;
         const char* const second = at + m_second.offset;
         unsigned char hits[stride];
-        unsigned char any = 0;
         for (int i = 0; i < stride; ++i) {
             const int difference =
                 (withoutCase(first[i]) ^ m_rarest.byte) | (withoutCase(second[i]) ^ m_second.byte);
             hits[i] = difference == 0;
-            any |= hits[i];
         }
-        if (!any)
-            continue;
         const unsigned char* hit = hits;
         while ((hit = static_cast<const unsigned char*>(std::memchr(hit, 1, hits + stride - hit)))) {
             if (pieceStandsAt(at + (hit - hits)))
@@ -117,9 +125,8 @@ double TextSearch::share() const
 bool TextSearch::pieceStandsAt(const char* at) const
 {
     const std::string& piece = m_pattern.piece();
-    const char* const end = at + piece.size();
-    for (const char* wanted = piece.data(); at != end;) {
-        if (toSmallLetter(nextCharacter(at, end)) != nextCharacter(wanted, piece.data() + piece.size()))
+    for (std::size_t i = 0; i < piece.size(); ++i) {
+        if ((at[i] ^ piece[i]) & m_bits[i])
             return false;
     }
     return true;

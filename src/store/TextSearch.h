@@ -29,12 +29,14 @@ private:
     };
 
     void chooseProbes();
+    void chooseBits();
     // Compiled twice: a processor with wide registers takes twice the text in a step.
     [[gnu::target_clones("avx2", "default")]] const char* findPiece(const char* at, const char* end) const;
     bool pieceStandsAt(const char* at) const;
 
     const VerseBlock& m_block;
     LikePattern m_pattern;
+    std::string m_bits; ///< of each byte of the piece, those that a text must share: all, or all but 0x20
     Probe m_rarest{};
     Probe m_second{};
 };
