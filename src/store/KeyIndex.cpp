@@ -2,22 +2,37 @@
 
 #include "LetterCase.h"
 #include <algorithm>
+#include <compare>
 
 namespace {
 
-/// A folded key and its row. The first bytes as one number decide nearly every comparison.
+/// The first bytes of a folded key, as numbers that compare like it.
+struct Head
+{
+    std::uint64_t first;
+    std::uint64_t second;
+
+    auto operator<=>(const Head&) const = default;
+};
+
+/// A key and its row. The head decides nearly every comparison: sound keys are no longer.
 struct Entry
 {
-    std::uint64_t head;
+    Head head;
     std::uint32_t row;
 };
 
-std::uint64_t headOf(std::string_view folded)
+std::uint64_t bytesFrom(std::string_view text, std::size_t from)
 {
-    std::uint64_t head = 0;
-    for (std::size_t i = 0; i < sizeof head; ++i)
-        head = head << 8 | (i < folded.size() ? static_cast<unsigned char>(folded[i]) : 0);
-    return head;
+    std::uint64_t bytes = 0;
+    for (std::size_t i = from; i < from + sizeof bytes; ++i)
+        bytes = bytes << 8 | (i < text.size() ? static_cast<unsigned char>(text[i]) : 0);
+    return bytes;
+}
+
+Head headOf(std::string_view folded)
+{
+    return {bytesFrom(folded, 0), bytesFrom(folded, sizeof(std::uint64_t))};
 }
 
 } // namespace
