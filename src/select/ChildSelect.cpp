@@ -63,6 +63,7 @@ void ChildSelect::Form_Load()
 void ChildSelect::Form_Activate()
 {
     Combo1->setFocus();
+    Combo1->lineEdit()->selectAll(); // a new reference, typed at once, takes the place of the old one
 }
 
 void ChildSelect::Form_Resize()

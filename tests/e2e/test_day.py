@@ -54,8 +54,7 @@ def open_selection(reader):
 
 def look_up(reader, desktop, reference):
     open_selection(reader)
-    reader.key("ctrl+a")
-    desktop.type(reference)
+    desktop.type(reference)  # in place of the old one
     reader.key("Return")
 
 

@@ -331,6 +331,16 @@ TEST_F(Selection, EachActivationGivesTheBoxTheFocus)
     EXPECT_TRUE(window->Combo1->hasFocus() || box->hasFocus());
 }
 
+TEST_F(Selection, AReferenceTypedAtOnceReplacesTheOldOne)
+{
+    QTest::keyClicks(box, "Mt:24:43");
+    EXPECT_EQ(box->text(), "Mt:24:43");
+    press(Qt::Key_Return);
+    window->activate();
+    QTest::keyClicks(box, "Rv");
+    EXPECT_EQ(box->text(), "Rv");
+}
+
 TEST_F(Selection, ChoosingFromTheListEnablesTheButton)
 {
     box->clear();
