@@ -351,7 +351,8 @@ void frmAdvSearch::cmdHideList_Click()
     Form_Resize();
     cmdOK->setEnabled(true);
     enableInputs(true);
-    Text1->setFocus(); // the button that had it is hidden now
+    Text1->setFocus();  // the button that had it is hidden now
+    Text1->selectAll(); // a new word, typed at once, takes the place of the old one
 }
 
 void frmAdvSearch::enableInputs(bool enable)

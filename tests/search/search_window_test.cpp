@@ -269,6 +269,14 @@ TEST_F(SearchWindow, TurnsIntoResultsModeAndBack)
     EXPECT_TRUE(window().Text1->hasFocus());
 }
 
+TEST_F(SearchWindow, ReplacesTheOldWordByANewOneTypedAtOnce)
+{
+    search("amor");
+    newSearch();
+    QTest::keyClicks(window().Text1, "paz");
+    EXPECT_EQ(window().Text1->text(), "paz");
+}
+
 TEST_F(SearchWindow, StaysAsItIsWithoutAMatch)
 {
     Appearances clip(*window().Animation1);
