@@ -42,8 +42,11 @@ std::shared_ptr<Database> Database::open(const std::string& path)
 
 Database::Database(const std::string& path)
 {
-    // Opening a pipe would wait for ever, and a folder fails late with a message that misleads.
-    if (!std::filesystem::is_regular_file(path))
+    // Only files have a length: opening a pipe would wait for ever, and a folder fails late with a message
+    // that misleads.
+    std::error_code unreadable;
+    const std::uintmax_t fileSize = std::filesystem::file_size(path, unreadable);
+    if (unreadable)
         throw DataError(SQLITE_CANTOPEN, sqlite3_errstr(SQLITE_CANTOPEN));
     sqlite3* connection = nullptr;
     const int result = sqlite3_open_v2(readOnlyUri(path).c_str(), &connection,
@@ -52,7 +55,7 @@ Database::Database(const std::string& path)
     if (result != SQLITE_OK)
         throw connection ? engineError(connection) : DataError(result, sqlite3_errstr(result));
     setUp();
-    readVerses(std::filesystem::file_size(path));
+    readVerses(fileSize);
     allowReadingOnly(connection);
 }
 

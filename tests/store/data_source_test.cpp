@@ -253,9 +253,10 @@ TEST(Paths, whatIsNoFileCannotBeOpenedAndIsNotCreated)
     const TestFolder folder;
     ASSERT_EQ(mkfifo(folder.file("pipe").c_str(), 0600), 0);
     std::filesystem::create_symlink(folder.file("nowhere"), folder.file("dangling"));
-    for (const std::string& path :
-         {folder.file("missing"), folder.file("pipe"), folder.file("dangling"), folder.path().string(),
-          std::string(), folder.file("missing/KESTRPT.DAT")}) {
+    std::filesystem::create_symlink(folder.file("circle"), folder.file("circle"));
+    for (const std::string& path : {folder.file("missing"), folder.file("pipe"), folder.file("dangling"),
+                                    folder.path().string(), std::string(), folder.file("missing/KESTRPT.DAT"),
+                                    folder.file("circle"), folder.file(std::string(300, 'x'))}) {
         const DataError error = errorOf(path, "SELECT * FROM NewTestament");
         EXPECT_EQ(error.number(), SQLITE_CANTOPEN) << path;
         EXPECT_EQ(error.description(), "unable to open database file") << path;
