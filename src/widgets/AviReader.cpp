@@ -100,8 +100,9 @@ QImage decodeUncompressed(QByteArrayView data, const PictureFormat& format, Budg
     const auto layout = format.bits == 24 ? QImage::Format_BGR888 : QImage::Format_RGB32;
     const QImage borrowed(reinterpret_cast<const uchar*>(data.data()), static_cast<int>(width),
                           static_cast<int>(height), stride, layout);
-    const QImage image = format.height > 0 ? borrowed.mirrored() : borrowed.copy();
-    return image.convertToFormat(QImage::Format_RGB32);
+    // A picture that needs no change would go on borrowing the clip's bytes.
+    const QImage image = borrowed.copy().convertToFormat(QImage::Format_RGB32);
+    return format.height > 0 ? image.mirrored() : image;
 }
 
 QImage decodeJpeg(QByteArrayView data, Budget& budget)

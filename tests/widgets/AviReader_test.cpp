@@ -100,6 +100,18 @@ TEST(AviReader, ReadsUncompressedPicturesOf32BitsTopRowFirst)
     EXPECT_EQ(clip.frames[0].pixelColor(0, 1), QColor(Qt::green));
 }
 
+TEST(AviReader, KeepsNoHoldOfTheBytes)
+{
+    for (const int height : {1, -1}) {
+        QByteArray bytes =
+            file(headers(20'000, 1, height, 32), chunk("00db", QByteArray::fromHex("ff000000")));
+        const AviClip clip = readAvi(bytes);
+        ASSERT_EQ(clip.frames.size(), 1);
+        bytes.fill(0);
+        EXPECT_EQ(clip.frames[0].pixelColor(0, 0), QColor(Qt::blue)) << height;
+    }
+}
+
 TEST(AviReader, LeavesOutUncompressedPicturesThatCannotBe)
 {
     struct Row
