@@ -61,7 +61,7 @@ function(kestrel_test name)
     target_link_libraries(test_${name} PRIVATE ${ARG_LINK} GTest::gmock $<IF:$<BOOL:${ARG_QT}>,qt_test_main,GTest::gtest_main>)
     add_test(NAME ${name} COMMAND test_${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/leaks.supp;UBSAN_OPTIONS=print_stacktrace=1")
+        "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions='${CMAKE_SOURCE_DIR}/tests/support/leaks.supp';UBSAN_OPTIONS=print_stacktrace=1")
 endfunction()
 
 # kestrel_script_test(NAME SCRIPT [argument...]): a script of tests/ that ends with 0 when all is well.

@@ -9,14 +9,15 @@ set(doc_dir share/doc/kestrel-reader)
 
 # Made when installing, since only a package needs them.
 install(CODE "
-    file(MAKE_DIRECTORY ${made})
-    file(CREATE_LINK ../lib/kestrel-reader/kestrel-reader ${made}/kestrel-reader SYMBOLIC)
-    execute_process(COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen $<TARGET_FILE:export_pictures> ${made}
+    file(MAKE_DIRECTORY \"${made}\")
+    file(CREATE_LINK ../lib/kestrel-reader/kestrel-reader \"${made}/kestrel-reader\" SYMBOLIC)
+    execute_process(COMMAND \"${CMAKE_COMMAND}\" -E env QT_QPA_PLATFORM=offscreen
+                            \"$<TARGET_FILE:export_pictures>\" \"${made}\"
                     COMMAND_ERROR_IS_FATAL ANY)
-    execute_process(COMMAND gzip -9nc ${CMAKE_SOURCE_DIR}/man/kestrel-reader.1
-                    OUTPUT_FILE ${made}/kestrel-reader.1.gz COMMAND_ERROR_IS_FATAL ANY)
-    execute_process(COMMAND gzip -9nc ${CMAKE_SOURCE_DIR}/packaging/changelog
-                    OUTPUT_FILE ${made}/changelog.gz COMMAND_ERROR_IS_FATAL ANY)")
+    execute_process(COMMAND gzip -9nc \"${CMAKE_SOURCE_DIR}/man/kestrel-reader.1\"
+                    OUTPUT_FILE \"${made}/kestrel-reader.1.gz\" COMMAND_ERROR_IS_FATAL ANY)
+    execute_process(COMMAND gzip -9nc \"${CMAKE_SOURCE_DIR}/packaging/changelog\"
+                    OUTPUT_FILE \"${made}/changelog.gz\" COMMAND_ERROR_IS_FATAL ANY)")
 
 install(TARGETS kestrel-reader RUNTIME DESTINATION ${program_dir})
 install(FILES ${KESTREL_INSTALL_DIR}/KESTRPT.DAT ${KESTREL_INSTALL_DIR}/SEARCH.AVI ${KESTREL_INSTALL_DIR}/KESTREL.HLP
