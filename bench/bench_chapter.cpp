@@ -9,17 +9,14 @@
 #include "app/Program.h"
 #include "read/Chapter.h"
 #include <benchmark/benchmark.h>
-#include <cstdlib>
+#include <QAction>
 #include <QFileInfo>
-#include <QMdiArea>
-#include <QMenu>
 
 namespace {
 
 QString databasePath()
 {
-    const char* path = std::getenv("KESTREL_DATABASE");
-    return QString::fromLocal8Bit(path ? path : "KESTRPT.DAT");
+    return qEnvironmentVariable("KESTREL_DATABASE", "KESTRPT.DAT");
 }
 
 void gather(benchmark::State& state)

@@ -1,4 +1,5 @@
 """What a user waits for at the start, and what the open program takes: measured on the assembled program in a real X session."""
+import contextlib
 import os
 import pathlib
 import re
@@ -20,56 +21,47 @@ def resident_megabytes(process):
     return int(re.search(r"VmRSS:\s+(\d+) kB", status).group(1)) / 1024
 
 
-def start(desktop, program):
-    return subprocess.Popen([program], env=desktop.environment, stdin=subprocess.DEVNULL)
+@contextlib.contextmanager
+def running(desktop, *command, **options):
+    process = subprocess.Popen(command, env=desktop.environment, stdin=subprocess.DEVNULL, **options)
+    try:
+        yield process
+    finally:
+        process.kill()
+        process.wait()
 
 
 def frame_delay(desktop, program):
     """Milliseconds between the splash and the frame, as the window manager lists them."""
-    watch = subprocess.Popen(["xprop", "-spy", "-root", "_NET_CLIENT_LIST"], env=desktop.environment,
-                             stdout=subprocess.PIPE, text=True)
-    watch.stdout.readline()
-    reader = start(desktop, program)
     seen = {}
-    try:
-        for line in watch.stdout:
-            for window in re.findall(r"0x[0-9a-f]+", line):
-                seen.setdefault(window, time.perf_counter())
-            if len(seen) == 2:
-                first, second = seen.values()
-                return (second - first) * 1000
-    finally:
-        reader.kill()
-        reader.wait()
-        watch.kill()
-        watch.wait()
+    with running(desktop, "xprop", "-spy", "-root", "_NET_CLIENT_LIST", stdout=subprocess.PIPE, text=True) as watch:
+        watch.stdout.readline()
+        with running(desktop, program):
+            for line in watch.stdout:
+                for window in re.findall(r"0x[0-9a-f]+", line):
+                    seen.setdefault(window, time.perf_counter())
+                if len(seen) == 2:
+                    first, second = seen.values()
+                    return (second - first) * 1000
     raise RuntimeError("the frame did not appear")
 
 
 def open_memory(desktop, program):
     """Megabytes resident with the selection and reading windows open."""
-    reader = start(desktop, program)
-    try:
+    with running(desktop, program) as reader:
         desktop.wait_for_window("Portuguese Version - Freeware")
         desktop.key("ctrl+a")
         desktop.type("Mt:24:43")
         desktop.key("Return")
         time.sleep(1)
         return resident_megabytes(reader)
-    finally:
-        reader.kill()
-        reader.wait()
 
 
 def bare_memory(desktop, program):
-    window = start(desktop, program)
-    try:
+    with running(desktop, program) as window:
         desktop.wait_for_window("bare_window")
         time.sleep(1)
         return resident_megabytes(window)
-    finally:
-        window.kill()
-        window.wait()
 
 
 def figures(build, installed):
