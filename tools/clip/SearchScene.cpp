@@ -1,5 +1,6 @@
 #include "clip/SearchScene.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <QLinearGradient>
@@ -17,7 +18,7 @@ const QColor foundInk(0xc0, 0x7a, 0x1e);
 const QColor metal(0x3d, 0x4a, 0x57);
 const QColor handle(0x8a, 0x5a, 0x33);
 
-/// Half the width of a page's spread and the height of the spine, in pixels of the scene.
+// In pixels of the scene.
 constexpr double spineX = 120;
 constexpr double pageWidth = 82;
 constexpr double pageTop = 9;

@@ -5,22 +5,8 @@
 #include "importer/Versification.h"
 
 #include <algorithm>
-#include <unordered_map>
 
 namespace {
-
-/// The place of a verse in the Bible, or -1 when there is none of this key.
-int position(const std::string& key)
-{
-    static const auto positions = [] {
-        std::unordered_map<std::string, int> result;
-        for (const VerseKey& verse : canonicalVerses())
-            result.emplace(verse.text(), static_cast<int>(result.size()));
-        return result;
-    }();
-    const auto found = positions.find(key);
-    return found == positions.end() ? -1 : found->second;
-}
 
 /// The whole key of the end of a range, which may leave out what it shares with the start.
 std::string rangeEnd(const std::string& start, const std::string& end)
@@ -39,14 +25,16 @@ void checkReference(const std::string& reference, const std::string& place)
 {
     const std::size_t hyphen = reference.find('-');
     const std::string start = reference.substr(0, hyphen);
-    if (position(start) < 0)
+    const auto first = canonicalPosition(start);
+    if (!first)
         throw InputError(place + "there is no verse \"" + start + "\".");
     if (hyphen == std::string::npos)
         return;
     const std::string end = rangeEnd(start, reference.substr(hyphen + 1));
-    if (position(end) < 0)
+    const auto last = canonicalPosition(end);
+    if (!last)
         throw InputError(place + "\"" + reference + "\" ends at a verse that does not exist.");
-    if (position(end) <= position(start))
+    if (*last <= *first)
         throw InputError(place + "\"" + reference + "\" does not end after it starts.");
 }
 

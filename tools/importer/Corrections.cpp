@@ -61,9 +61,7 @@ std::vector<Correction> readCorrections(std::string_view bytes, const std::strin
                              " columns, not the six of book, chapter, verse, before, after and witness.");
         if (columns[3].empty())
             throw InputError(at(file, i + 1) + "the piece to be mended is empty.");
-        std::string key =
-            std::string(columns[0]) + ":" + std::string(columns[1]) + ":" + std::string(columns[2]);
-        corrections.push_back({std::move(key), std::string(columns[3]), std::string(columns[4]), i + 1});
+        corrections.push_back({writtenKey(columns), std::string(columns[3]), std::string(columns[4]), i + 1});
     }
     return corrections;
 }

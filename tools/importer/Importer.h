@@ -3,7 +3,6 @@
 #include "importer/VerseList.h"
 
 #include <filesystem>
-#include <string>
 #include <vector>
 
 /// The published text made ready for the database: corrections first, then the typography rules.

@@ -3,43 +3,28 @@
 #include "importer/InputError.h"
 #include "importer/Lines.h"
 
-#include <string>
-#include <unordered_map>
-
 namespace {
-
-/// Chapter and verse are compared as they are written, so "01" is not "1".
-std::string writtenKey(const std::vector<std::string_view>& columns)
-{
-    return std::string(columns[0]) + ":" + std::string(columns[1]) + ":" + std::string(columns[2]);
-}
-
-const std::unordered_map<std::string, std::size_t>& canonicalPositions()
-{
-    static const auto positions = [] {
-        std::unordered_map<std::string, std::size_t> result;
-        for (const VerseKey& key : canonicalVerses())
-            result.emplace(key.text(), result.size());
-        return result;
-    }();
-    return positions;
-}
 
 /// Says what is wrong with a line that does not hold the verse expected at this position.
 std::string misplaced(const std::string& found, std::size_t expected)
 {
-    const auto position = canonicalPositions().find(found);
-    if (position == canonicalPositions().end())
+    const std::optional<std::size_t> position = canonicalPosition(found);
+    if (!position)
         return "there is no verse " + found + ".";
     if (expected == canonicalVerses().size())
         return found + " stands after the last verse.";
     const std::string wanted = canonicalVerses()[expected].text();
-    if (position->second < expected)
+    if (*position < expected)
         return found + " is repeated or out of order; " + wanted + " should stand here.";
     return wanted + " is missing; " + found + " stands in its place.";
 }
 
 } // namespace
+
+std::string writtenKey(const std::vector<std::string_view>& columns)
+{
+    return std::string(columns[0]) + ":" + std::string(columns[1]) + ":" + std::string(columns[2]);
+}
 
 std::vector<Verse> readVerseList(std::string_view bytes, const std::string& file)
 {

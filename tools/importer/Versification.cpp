@@ -3,6 +3,7 @@
 #include "store/BookCatalog.h"
 
 #include <array>
+#include <unordered_map>
 
 namespace {
 
@@ -133,4 +134,16 @@ const std::vector<VerseKey>& canonicalVerses()
 {
     static const std::vector<VerseKey> verses = everyVerse();
     return verses;
+}
+
+std::optional<std::size_t> canonicalPosition(const std::string& key)
+{
+    static const auto positions = [] {
+        std::unordered_map<std::string, std::size_t> result;
+        for (const VerseKey& verse : canonicalVerses())
+            result.emplace(verse.text(), result.size());
+        return result;
+    }();
+    const auto found = positions.find(key);
+    return found == positions.end() ? std::nullopt : std::optional(found->second);
 }

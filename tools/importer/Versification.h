@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,3 +18,6 @@ struct VerseKey
 
 /// Every verse of the Bible in canonical order, Genesis 1:1 first, divided as in the King James version.
 const std::vector<VerseKey>& canonicalVerses();
+
+/// The place of a verse in canonicalVerses(), from 0, by its key as text; none when there is no such verse.
+std::optional<std::size_t> canonicalPosition(const std::string& key);
