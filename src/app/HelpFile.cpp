@@ -1,7 +1,6 @@
 #include "app/HelpFile.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include "widgets/OpenFile.h"
 #include <QRegularExpression>
 
 QList<HelpPage> helpPages(const QString& text)
@@ -18,9 +17,8 @@ QList<HelpPage> helpPages(const QString& text)
 
 QList<HelpPage> readHelpFile(const QString& path)
 {
-    // The kind of file is asked first, because opening a pipe would wait for its writer.
     QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    if (!openForReading(file))
         return {};
     return helpPages(QString::fromUtf8(file.readAll()));
 }

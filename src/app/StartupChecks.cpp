@@ -2,14 +2,13 @@
 
 #include "widgets/BasePath.h"
 #include "widgets/MsgBox.h"
+#include "widgets/OpenFile.h"
 #include "widgets/Platform.h"
-#include <QFileInfo>
 
 bool isPresent(const QString& path)
 {
-    // The kind of file is asked first, because opening a pipe would wait for its writer.
     QFile file(path);
-    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly);
+    return openForReading(file);
 }
 
 bool isUnmodified(const QString& path)

@@ -1,16 +1,15 @@
 #include "widgets/AnimationPlayer.h"
-#include <QFile>
-#include <QFileInfo>
+
+#include "widgets/OpenFile.h"
 #include <QPainter>
 
 namespace {
 constexpr qint64 maxClipBytes = 32 * 1024 * 1024;
 
-// Empty for anything but a file that can be read. A pipe of that name must not be opened: it would block.
 QByteArray readClip(const QString& path)
 {
     QFile file(path);
-    if (!QFileInfo(path).isFile() || file.size() > maxClipBytes || !file.open(QIODevice::ReadOnly))
+    if (!openForReading(file) || file.size() > maxClipBytes)
         return {};
     return file.readAll();
 }
