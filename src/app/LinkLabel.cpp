@@ -1,7 +1,7 @@
 #include "app/LinkLabel.h"
 
 #include "app/LinkColor.h"
-#include <QKeyEvent>
+#include "widgets/EnterKey.h"
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
@@ -33,7 +33,7 @@ QSize LinkLabel::sizeHint() const
 
 void LinkLabel::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (isEnter(*event))
         click();
     else
         QAbstractButton::keyPressEvent(event);

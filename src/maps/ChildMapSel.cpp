@@ -85,11 +85,11 @@ ChildMapSel::ChildMapSel(Shell& shell)
     connect(TabStrip1, &QTabBar::currentChanged, this, &ChildMapSel::TabStrip1_Click);
     connect(Combo2, &QComboBox::activated, this, &ChildMapSel::Combo2_Click);
     connect(List1, &ChoiceList::keyDown, this, &ChildMapSel::List1_KeyDown);
-    connect(List1, &ChoiceList::click, this, &ChildMapSel::List1_Click);
-    connect(List1, &ChoiceList::keyPress, this, &ChildMapSel::List1_KeyPress);
+    connect(List1, &ChoiceList::entryClicked, this, &ChildMapSel::List1_Click);
+    connect(List1, &ChoiceList::choosingKeyPressed, this, &ChildMapSel::List1_KeyPress);
     connect(lstMaps, &ChoiceList::keyDown, this, &ChildMapSel::lstMaps_KeyDown);
-    connect(lstMaps, &ChoiceList::click, this, &ChildMapSel::lstMaps_Click);
-    connect(lstMaps, &ChoiceList::keyPress, this, &ChildMapSel::lstMaps_KeyPress);
+    connect(lstMaps, &ChoiceList::entryClicked, this, &ChildMapSel::lstMaps_Click);
+    connect(lstMaps, &ChoiceList::choosingKeyPressed, this, &ChildMapSel::lstMaps_KeyPress);
     connect(Image1, &QAbstractButton::clicked, this, &ChildMapSel::Image1_Click);
     connect(cmdBibWeb, &QPushButton::clicked, this, &ChildMapSel::cmdBibWeb_Click);
 }

@@ -1,21 +1,8 @@
 #include "maps/ChoiceList.h"
 
-#include <QKeyEvent>
+#include "widgets/EnterKey.h"
 
 namespace {
-
-int characterOf(int key)
-{
-    switch (key) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        return 13;
-    case Qt::Key_Space:
-        return 32;
-    default:
-        return 0;
-    }
-}
 
 bool isStep(int key)
 {
@@ -38,20 +25,20 @@ ChoiceList::ChoiceList(const QString& name, QWidget* parent)
 void ChoiceList::keyPressEvent(QKeyEvent* event)
 {
     Q_EMIT keyDown();
-    const int character = characterOf(event->key());
+    const bool chooses = isEnter(*event) || event->key() == Qt::Key_Space;
     const QList<QListWidgetItem*> chosen = selectedItems();
     if (chosen.isEmpty() && isStep(event->key()))
         selectionModel()->clearCurrentIndex(); // the first step goes to the first entry, not to the second
-    if (character != 0 && currentItem())
+    if (chooses && currentItem())
         currentItem()->setSelected(true);
     else
         QListWidget::keyPressEvent(event);
     if (isJump(event->key()) && selectedItems().isEmpty() && currentItem())
         currentItem()->setSelected(true); // the jump ended where it began
     if (selectedItems() != chosen)
-        Q_EMIT click();
-    if (character != 0)
-        Q_EMIT keyPress(character);
+        Q_EMIT entryClicked();
+    if (chooses)
+        Q_EMIT choosingKeyPressed();
 }
 
 void ChoiceList::mouseReleaseEvent(QMouseEvent* event)
@@ -59,7 +46,7 @@ void ChoiceList::mouseReleaseEvent(QMouseEvent* event)
     QListWidget::mouseReleaseEvent(event);
     QListWidgetItem* item = itemAt(event->position().toPoint());
     if (event->button() == Qt::LeftButton && item && item == currentItem())
-        Q_EMIT click();
+        Q_EMIT entryClicked();
 }
 
 QItemSelectionModel::SelectionFlags ChoiceList::selectionCommand(const QModelIndex& index,

@@ -9,15 +9,15 @@ class ChoiceList : public QListWidget
     Q_OBJECT
 
 public:
-    explicit ChoiceList(const QString& name, QWidget* parent);
+    ChoiceList(const QString& name, QWidget* parent);
 
 Q_SIGNALS:
     /// A key went down in the list, whatever key it is; the list has not looked at it yet.
     void keyDown();
     /// An entry was clicked with the mouse, also the chosen one; or a key chose another entry.
-    void click();
-    /// Enter (13) or Space (32) was typed; after keyDown() and, if the key chose an entry, click().
-    void keyPress(int character);
+    void entryClicked();
+    /// Enter or the space bar was pressed; after keyDown() and, if the key chose an entry, entryClicked().
+    void choosingKeyPressed();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -1,10 +1,10 @@
 #include "search/ResultsList.h"
 
 #include "search/ResultsModel.h"
+#include "widgets/EnterKey.h"
 #include "widgets/Text.h"
 #include <QAccessible>
 #include <QHelpEvent>
-#include <QKeyEvent>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
@@ -81,17 +81,10 @@ int ResultsList::lineAt(const QPoint& point) const
 void ResultsList::keyPressEvent(QKeyEvent* event)
 {
     Q_EMIT keyDown();
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Space:
+    if (isEnter(*event) || event->key() == Qt::Key_Space)
         Q_EMIT choosingKeyPressed();
-        break;
-    default:
-        // Single lines do not go to the clipboard, as the view would have it.
-        if (!event->matches(QKeySequence::Copy))
-            moveByKey(event);
-    }
+    else if (!event->matches(QKeySequence::Copy)) // the view would copy the line
+        moveByKey(event);
 }
 
 void ResultsList::moveByKey(QKeyEvent* event)

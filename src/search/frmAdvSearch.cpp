@@ -10,6 +10,7 @@
 #include "widgets/AnimationPlayer.h"
 #include "widgets/BasePath.h"
 #include "widgets/Clipboard.h"
+#include "widgets/EnterKey.h"
 #include "widgets/ErrorText.h"
 #include "widgets/Fonts.h"
 #include "widgets/Hourglass.h"
@@ -21,7 +22,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -35,11 +35,6 @@ constexpr int listWidth = 8355;
 constexpr int listHeight = 2130;
 
 const QString resultsTitle = "Search Results:";
-
-bool isEnter(const QKeyEvent& event)
-{
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
 
 /// Looks the same when it is disabled.
 void keepColor(QLabel& label)

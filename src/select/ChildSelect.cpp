@@ -3,7 +3,7 @@
 #include "select/BookTree.h"
 #include "select/Lookup.h"
 #include "store/BookCatalog.h"
-#include "widgets/Fonts.h"
+#include "widgets/EnterKey.h"
 #include "widgets/MsgBox.h"
 #include "widgets/Platform.h"
 #include "widgets/Shell.h"
@@ -11,7 +11,6 @@
 #include "widgets/Twips.h"
 #include <QComboBox>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QTreeWidget>
 
@@ -76,10 +75,9 @@ void ChildSelect::Form_Resize()
 
 bool ChildSelect::Form_KeyDown(QKeyEvent& event)
 {
-    const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-    if (isEnter && !reference().isEmpty())
+    if (isEnter(event) && !reference().isEmpty())
         cmdGo_Click();
-    return isEnter; // swallowed: no beep, no character
+    return isEnter(event); // swallowed: no beep, no character
 }
 
 void ChildSelect::TreeView1_NodeClick()

@@ -1,15 +1,11 @@
 #include "widgets/SoftBttn.h"
+
+#include "widgets/EnterKey.h"
 #include "widgets/PictureInk.h"
 #include "widgets/Platform.h"
-#include <QKeyEvent>
 #include <QPainter>
 
 namespace {
-bool isEnter(const QKeyEvent* event)
-{
-    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-}
-
 void clearColor(QImage& image, const QColor& color)
 {
     const QRgb masked = color.rgb();
@@ -86,7 +82,7 @@ bool SoftBttn::event(QEvent* event)
 // Enter belongs to the window; on some desktops a button would take it as a press.
 void SoftBttn::keyPressEvent(QKeyEvent* event)
 {
-    if (isEnter(event))
+    if (isEnter(*event))
         event->ignore();
     else
         QAbstractButton::keyPressEvent(event);
@@ -94,7 +90,7 @@ void SoftBttn::keyPressEvent(QKeyEvent* event)
 
 void SoftBttn::keyReleaseEvent(QKeyEvent* event)
 {
-    if (isEnter(event))
+    if (isEnter(*event))
         event->ignore();
     else
         QAbstractButton::keyReleaseEvent(event);
