@@ -26,8 +26,8 @@ bool Program::start()
     if (!m_startWindow->load())
         return false;
     m_startWindow->show();
-    QTimer::singleShot(0, m_startWindow,
-                       [this] { keepDatabase(); }); // while the splash stands, so that nobody waits for it
+    // While the splash stands, so that nobody waits for it.
+    QTimer::singleShot(0, m_startWindow, [this] { keepDatabase(); });
     return true;
 }
 
@@ -54,7 +54,7 @@ void Program::unloadStartWindow()
 void Program::keepDatabase()
 {
     try {
-        m_database = Database::open((basePath + databaseFileName).toStdString());
+        m_database = Database::open(databasePath(basePath));
     } catch (const DataError&) {
         // The first lookup meets the same error, and its window tells of it.
     }

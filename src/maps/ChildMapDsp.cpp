@@ -54,7 +54,7 @@ ChildMapDsp::ChildMapDsp(Shell& shell)
 
 void ChildMapDsp::Form_Load()
 {
-    DataMap.setDatabaseName((shell().basePath() + databaseFileName).toStdString());
+    DataMap.setDatabaseName(databasePath(shell().basePath()));
     setOuterPosition(0, 0);
 }
 

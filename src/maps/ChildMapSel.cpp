@@ -160,7 +160,7 @@ void ChildMapSel::makeDownloadPage()
 
 void ChildMapSel::Form_Load()
 {
-    Data1.setDatabaseName((shell().basePath() + databaseFileName).toStdString());
+    Data1.setDatabaseName(databasePath(shell().basePath()));
     lstMaps->addItems(mapNames);
     optEvents[0]->setChecked(true);
     fillTopics("Events");

@@ -63,7 +63,7 @@ void ChapRead::highlight(const QString& verse)
 
 void ChapRead::Form_Load()
 {
-    DataCtrl.setDatabaseName((shell().basePath() + databaseFileName).toStdString());
+    DataCtrl.setDatabaseName(databasePath(shell().basePath()));
     setOuterSize(toTwips(ChapText->width()) + 800, toTwips(ChapText->height()) + 520);
     setOuterPosition(0, 0);
 }

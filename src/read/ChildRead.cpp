@@ -92,7 +92,7 @@ ChildRead::ChildRead(Shell& shell)
 
 void ChildRead::Form_Load()
 {
-    DataCtl.setDatabaseName((shell().basePath() + databaseFileName).toStdString());
+    DataCtl.setDatabaseName(databasePath(shell().basePath()));
     cboSeconds->addItems({"3", "4", "5", "6", "7", "8", "12"});
     cboSeconds->setCurrentIndex(1);
     Timer1->setInterval(4000);

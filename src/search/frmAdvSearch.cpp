@@ -155,7 +155,7 @@ void frmAdvSearch::connectControls()
 
 void frmAdvSearch::Form_Load()
 {
-    Data1.setDatabaseName((shell().basePath() + databaseFileName).toStdString());
+    Data1.setDatabaseName(databasePath(shell().basePath()));
     Combo1->addItems({"And containing", "and Not containing", "Or containing"});
     Combo1->setCurrentIndex(0);
     Combo2->addItems(searchRanges());

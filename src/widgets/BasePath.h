@@ -9,3 +9,9 @@ QString basePath(QString directory);
 inline const QString databaseFileName = QStringLiteral("KESTRPT.DAT");
 inline const QString clipFileName = QStringLiteral("SEARCH.AVI");
 inline const QString helpFileName = QStringLiteral("KESTREL.HLP");
+
+/// The path of the database, as a data source takes it, in a directory with a separator at its end.
+inline std::string databasePath(const QString& basePath)
+{
+    return (basePath + databaseFileName).toStdString();
+}
