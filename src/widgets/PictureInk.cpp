@@ -12,11 +12,6 @@ double luminance(const QColor& color)
 {
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
-
-bool isLight(const QColor& face)
-{
-    return contrastRatio(face, Qt::black) >= contrastRatio(face, Qt::white);
-}
 } // namespace
 
 double contrastRatio(const QColor& one, const QColor& other)
@@ -24,6 +19,11 @@ double contrastRatio(const QColor& one, const QColor& other)
     const double a = luminance(one);
     const double b = luminance(other);
     return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+bool isLight(const QColor& color)
+{
+    return contrastRatio(color, Qt::black) >= contrastRatio(color, Qt::white);
 }
 
 QColor blended(const QColor& from, const QColor& to, double share)

@@ -20,5 +20,8 @@ QColor focusRingColor(const QColor& face);
 /// Contrast between two opaque colours, 1 (none) to 21 (black on white).
 double contrastRatio(const QColor& one, const QColor& other);
 
+/// Whether black stands out from a colour at least as well as white.
+bool isLight(const QColor& color);
+
 /// The colour that lies at share (0 to 1) of the way from one colour to another.
 QColor blended(const QColor& from, const QColor& to, double share);

@@ -99,11 +99,10 @@ void SoftBttn::keyReleaseEvent(QKeyEvent* event)
 QColor SoftBttn::shownFace() const
 {
     const QColor face = backColor();
-    const bool light = contrastRatio(face, Qt::black) >= contrastRatio(face, Qt::white);
     if (isDown())
-        return blended(face, Qt::black, light ? 0.14 : 0.35);
+        return blended(face, Qt::black, isLight(face) ? 0.14 : 0.35);
     if (isEnabled() && underMouse())
-        return blended(face, Qt::white, light ? 0.6 : 0.12);
+        return blended(face, Qt::white, isLight(face) ? 0.6 : 0.12);
     return face;
 }
 
