@@ -12,26 +12,28 @@ QString joined(const QStringList& lines)
 
 QString postalAddress()
 {
-    QStringList lines;
-    for (const QString& line : Maker::authorLines)
-        lines += line;
-    return joined(lines);
+    return joined(QStringList(Maker::authorLines.begin(), Maker::authorLines.end()));
 }
 
 } // namespace
 
 QString informationText()
 {
-    QStringList lines = {"Version: 98.5.0pt", "", "Please report bugs and suggestions to the programmer:"};
-    for (const QString& line : Maker::authorLines)
-        lines += line;
-    lines += {"E-mail: " + Maker::mail, "Or: " + Maker::secondMail, ""};
-    lines += {"Visit the Kestrel Reader sites on the world-wide-web at:", Maker::webSite,
-              Maker::secondWebSite, ""};
-    lines += "See also:";
-    for (const QString& address : Maker::downloads)
-        lines += address;
-    return joined(lines);
+    return joined({
+        "Version: 98.5.0pt",
+        "",
+        "Please report bugs and suggestions to the programmer:",
+        postalAddress(),
+        "E-mail: " + Maker::mail,
+        "Or: " + Maker::secondMail,
+        "",
+        "Visit the Kestrel Reader sites on the world-wide-web at:",
+        Maker::webSite,
+        Maker::secondWebSite,
+        "",
+        "See also:",
+        joined(QStringList(Maker::downloads.begin(), Maker::downloads.end())),
+    });
 }
 
 QString donationText()

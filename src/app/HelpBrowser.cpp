@@ -10,6 +10,13 @@ namespace {
 
 const QString pageScheme = QStringLiteral("page");
 
+bool contains(const HelpPage& page, const QString& text)
+{
+    QTextDocument document;
+    document.setHtml(page.html);
+    return !document.find(text).isNull();
+}
+
 QUrl addressOf(const QString& pageName)
 {
     return QUrl(pageScheme + ":" + pageName);
@@ -73,11 +80,4 @@ void HelpBrowser::follow(const QUrl& link)
         showPage(link.fragment());
     else
         Platform::current().openLink(link);
-}
-
-bool HelpBrowser::contains(const HelpPage& page, const QString& text) const
-{
-    QTextDocument document;
-    document.setHtml(page.html);
-    return !document.find(text).isNull();
 }

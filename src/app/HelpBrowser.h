@@ -26,7 +26,6 @@ protected:
 
 private:
     void follow(const QUrl& link);
-    bool contains(const HelpPage& page, const QString& text) const;
 
     const QList<HelpPage> m_pages;
 };
