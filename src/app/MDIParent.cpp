@@ -55,7 +55,7 @@ void MDIParent::load()
 {
     const QSize room = screen()->availableSize();
     resize(qMin(1160, room.width() * 92 / 100), qMin(860, room.height() * 92 / 100)); // room for a map
-    QMainWindow::show();
+    show();
     MDIForm_Load();
     // A desktop that does not give the focus to new windows must not leave the splash standing.
     QMetaObject::invokeMethod(this, &MDIParent::MDIForm_Activate, Qt::QueuedConnection);
@@ -93,24 +93,19 @@ Window& MDIParent::single(QPointer<Window>& window, Arguments&... arguments)
     return *window;
 }
 
-void MDIParent::show(Form& window)
-{
-    window.restoreAndActivate();
-}
-
 void MDIParent::openSelection()
 {
-    show(single(m_select));
+    single(m_select).restoreAndActivate();
 }
 
 void MDIParent::openSearch()
 {
-    show(single(m_search, m_searchMemory));
+    single(m_search, m_searchMemory).restoreAndActivate();
 }
 
 void MDIParent::openStudyAids()
 {
-    show(single(m_mapSel));
+    single(m_mapSel).restoreAndActivate();
 }
 
 void MDIParent::launchNotepad()

@@ -68,7 +68,6 @@ private:
     void makeToolbar();
     template <class Window, class... Arguments>
     Window& single(QPointer<Window>& window, Arguments&... arguments);
-    void show(Form& window);
     void childActivated(QMdiSubWindow* window);
     void showMenus(const QList<QMenu*>& menus);
 
