@@ -16,12 +16,9 @@ bool userWantsAnother()
         "Would you like to launch a new copy of Notepad now?",
         "",
         "To switch to the previously launched copy of Notepad (assuming you have not closed it), press and "
-        "hold "
-        "down ALT while pressing TAB repeatedly to cycle through running applications and select Notepad, "
-        "then "
-        "release TAB. Notepad will come to the foreground. You may also click Notepad's button on Windows® "
-        "98 "
-        "taskbar.",
+        "hold down ALT while pressing TAB repeatedly to cycle through running applications and select "
+        "Notepad, then release TAB. Notepad will come to the foreground. You may also click Notepad's "
+        "button on Windows® 98 taskbar.",
         "",
         "To launch a new copy of Notepad now, choose Yes.",
     };
@@ -42,30 +39,26 @@ void reportFailure()
 const QStringList& standInEditors()
 {
     static const QStringList editors = {
-        "gnome-text-editor",
-        "gedit", // GNOME
-        "kwrite",
-        "kate", // KDE
-        "mousepad",
-        "xed", // Xfce, Cinnamon
-        "pluma",
-        "featherpad", // MATE, LXQt
-        "l3afpad",
-        "leafpad", // LXDE
+        "gnome-text-editor", // GNOME
+        "gedit",             // GNOME
+        "kwrite",            // KDE
+        "kate",              // KDE
+        "mousepad",          // Xfce
+        "xed",               // Cinnamon
+        "pluma",             // MATE
+        "featherpad",        // LXQt
+        "l3afpad",           // LXDE
+        "leafpad",           // LXDE
     };
     return editors;
 }
 
 QString textEditor()
 {
-#ifdef Q_OS_WIN
-    return "notepad.exe"; // the system searches the path itself
-#else
     for (const QString& name : QStringList("notepad.exe") + standInEditors())
         if (const QString path = QStandardPaths::findExecutable(name); !path.isEmpty())
             return path;
     return {};
-#endif
 }
 
 void launchNotepad(ProgramFlags& flags)

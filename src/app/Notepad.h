@@ -9,8 +9,8 @@ struct ProgramFlags;
 /// looked for: each is what a desktop brings along.
 const QStringList& standInEditors();
 
-/// The program to start: "notepad.exe", or the path of the first stand-in that the search path has. Empty
-/// when there is none.
+/// The path of the program to start: "notepad.exe" or else the first stand-in that the search path has. Empty
+/// when it has none.
 QString textEditor();
 
 /// The shared command "Launch Notepad": starts the text editor and remembers that it did; asks first when it

@@ -101,8 +101,7 @@ void ChapRead::cmdTip_Click()
         "The target program must support OLE.",
         "1. Arrange the program windows so that both the Chapter Reading window (source window) and the "
         "destination document are open and visible. You must be able to see the text you want to drag as "
-        "well "
-        "as the location where you want to drop it.",
+        "well as the location where you want to drop it.",
         "2. In the Chapter Reading window select the text you want to copy, and then use the primary (left) "
         "mouse button to drag the selection to the insertion point in the other program.",
         "NB: Press CTRL+ C to copy any selected text to the Clipboard. Use the 'Copy Chapter' button to copy "
