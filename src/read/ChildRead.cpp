@@ -135,8 +135,7 @@ void ChildRead::Form_Resize()
     chkAuto->move(chkAuto->x(), twips(autoTop));
     cboSeconds->move(cboSeconds->x(), twips(autoTop - 45));
     Label2->move(Label2->x(), twips(autoTop + 15));
-    lblVerseId->move(twips(width + 120),
-                     lblVerseId->y()); // stays in the column of buttons, where it was laid out
+    lblVerseId->move(twips(width + 120), lblVerseId->y()); // stays below the buttons, where it was laid out
 }
 
 void ChildRead::DataCtl_Reposition()

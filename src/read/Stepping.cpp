@@ -1,7 +1,5 @@
 #include "read/Stepping.h"
 
-#include <QtMath>
-
 double leadingNumber(const QString& text)
 {
     const QString number = text.trimmed();

@@ -407,7 +407,7 @@ void frmAdvSearch::cmdCopySR_Click()
 {
     CopiedResults results;
     {
-        Hourglass hourglass;
+        const Hourglass hourglass;
         results = copiedResults(List1->lines());
     }
     if (results.isCutShort)

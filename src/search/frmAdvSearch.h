@@ -79,6 +79,6 @@ private:
     void enableResults(bool enable);
 
     SearchMemory& m_memory;
-    std::int16_t ListKeyFlag =
-        0; ///< 1 after a key went down in the list: its next click was made by that key
+    /// 1 after a key went down in the list: its next click was made by that key.
+    std::int16_t ListKeyFlag = 0;
 };

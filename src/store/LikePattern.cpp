@@ -65,12 +65,12 @@ void LikePattern::readClass(const char*& at, const char* end)
 
 void LikePattern::findPieces()
 {
-    std::string run;
     for (const Step& step : m_steps) {
         if (step.kind != Kind::Letter)
             break;
         appendCharacter(m_prefix, step.value);
     }
+    std::string run;
     for (const Step& step : m_steps) {
         if (step.kind == Kind::Letter && differsInCaseBitAtMost(step.value))
             appendCharacter(run, step.value);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 /// The character at `at`, which moves past it; `at` stands before `end`. Any byte that is not part of
 /// well-formed UTF-8 counts as one character of its own, beyond Unicode, so that it equals only the same

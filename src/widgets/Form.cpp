@@ -109,8 +109,7 @@ void Form::takeFocus()
 {
     if (isAncestorOf(QApplication::focusWidget()))
         return;
-    QWidget* control =
-        focusWidget(); // while the frame is inactive nobody has the focus, but this one shall get it
+    QWidget* control = focusWidget(); // what will have the focus again when the frame is active
     if (!control && m_lastFocus && m_lastFocus->isVisibleTo(this) && m_lastFocus->isEnabled())
         control = m_lastFocus;
     for (QWidget* next = nextInFocusChain(); !control && next != this; next = next->nextInFocusChain())

@@ -2,7 +2,6 @@
 
 #include <QImage>
 #include <QString>
-#include <QStringList>
 #include <QUrl>
 
 /// The services of the desktop that a test wants to watch or refuse. One door: Platform::current().

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QtMath>
 #include <QWidget>
 
 /// Sizes and positions are laid out in twips, 1/1440 inch: 15 to a device-independent pixel.
