@@ -10,6 +10,7 @@
 #include <QTextStream>
 
 namespace {
+
 bool write(const QImage& image, const QString& path)
 {
     if (image.save(path))
@@ -109,6 +110,7 @@ QPalette darkPalette()
     QPalette palette(QColor(0x3a3f44), QColor(0x2b2f33));
     return palette;
 }
+
 } // namespace
 
 int main(int argc, char** argv)

@@ -4,6 +4,7 @@
 #include <QPainter>
 
 namespace {
+
 constexpr qint64 maxClipBytes = 32 * 1024 * 1024;
 
 QByteArray readClip(const QString& path)
@@ -13,6 +14,7 @@ QByteArray readClip(const QString& path)
         return {};
     return file.readAll();
 }
+
 } // namespace
 
 AnimationPlayer::AnimationPlayer(QWidget* parent)

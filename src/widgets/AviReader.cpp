@@ -1,10 +1,12 @@
 #include "widgets/AviReader.h"
+
 #include <optional>
 #include <QBuffer>
 #include <QImageReader>
 #include <QtEndian>
 
 namespace {
+
 constexpr std::chrono::microseconds usualFrameTime(100'000);
 
 struct Chunk
@@ -197,6 +199,7 @@ private:
     Budget m_budget;
     bool m_streamSeen = false;
 };
+
 } // namespace
 
 AviClip readAvi(QByteArrayView bytes)

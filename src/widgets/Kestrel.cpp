@@ -1,7 +1,10 @@
 #include "widgets/Kestrel.h"
+
+#include <QPainter>
 #include <QPainterPath>
 
 namespace {
+
 const QColor chestnut(0xb8602a);
 const QColor deepChestnut(0x8f4519);
 const QColor slate(0x495e73);
@@ -69,6 +72,7 @@ void paintSpots(QPainter& painter)
             painter.drawEllipse(QPointF(side * spot.x(), spot.y()), 1, 1.3);
     }
 }
+
 } // namespace
 
 void paintKestrel(QPainter& painter, bool fineMarks)

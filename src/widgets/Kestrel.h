@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QPainter>
+class QPainter;
 
 /// A kestrel seen from above, flying up the y axis: wings 100 units from tip to tip, about the origin.
 /// Small pictures leave out the finer marks.

@@ -1,6 +1,7 @@
 #include "widgets/PictureCanvas.h"
 
 namespace {
+
 QPainterPath openPath(std::initializer_list<QPointF> points)
 {
     QPainterPath path;
@@ -12,6 +13,7 @@ QPainterPath openPath(std::initializer_list<QPointF> points)
     }
     return path;
 }
+
 } // namespace
 
 QPainterPath polygon(std::initializer_list<QPointF> points)

@@ -1,9 +1,11 @@
 #include "widgets/PictureDrawings.h"
+
 #include "widgets/Kestrel.h"
 #include "widgets/PictureCanvas.h"
 #include <array>
 
 namespace {
+
 void drawSelectVerse(PictureCanvas& canvas)
 {
     canvas.openBook();
@@ -307,6 +309,7 @@ constexpr std::array drawings{
     PictureDrawing{PictureId::Web, drawWeb},
     PictureDrawing{PictureId::Application, drawApplication},
 };
+
 } // namespace
 
 std::span<const PictureDrawing> pictureDrawings()

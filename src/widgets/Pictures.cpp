@@ -1,4 +1,5 @@
 #include "widgets/Pictures.h"
+
 #include "widgets/PictureCanvas.h"
 #include "widgets/PictureDrawings.h"
 #include <QGuiApplication>
@@ -7,6 +8,7 @@
 #include <QPalette>
 
 namespace {
+
 class PictureEngine : public QIconEngine
 {
 public:
@@ -43,6 +45,7 @@ public:
 private:
     const PictureDrawing& m_drawing;
 };
+
 } // namespace
 
 QIcon picture(PictureId id)

@@ -6,6 +6,7 @@
 #include <QPainter>
 
 namespace {
+
 void clearColor(QImage& image, const QColor& color)
 {
     const QRgb masked = color.rgb();
@@ -17,6 +18,7 @@ void clearColor(QImage& image, const QColor& color)
         }
     }
 }
+
 } // namespace
 
 SoftBttn::SoftBttn(QWidget* parent)

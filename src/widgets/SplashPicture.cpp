@@ -5,6 +5,7 @@
 #include <QPainterPath>
 
 namespace {
+
 constexpr QSize splashSize(480, 300);
 
 void paintSky(QPainter& painter)
@@ -57,6 +58,7 @@ void paintTitle(QPainter& painter)
     painter.setPen(QColor(0x4d6173));
     paintText(painter, subtitle, {35, 112}, 300, "Portuguese Version");
 }
+
 } // namespace
 
 QPixmap splashPicture(qreal devicePixelRatio)
