@@ -134,11 +134,6 @@ void MDIParent::arrangeIcons()
     ::arrangeIcons(*m_area);
 }
 
-void MDIParent::openHelp()
-{
-    m_help->open();
-}
-
 ChildRead& MDIParent::readingWindow()
 {
     return single(m_reading);

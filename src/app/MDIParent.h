@@ -46,7 +46,6 @@ public:
     void about() override;
     void exit() override;
     void arrangeIcons() override;
-    void openHelp() override;
     ChildRead& readingWindow() override;
     ChapRead& chapterWindow() override;
     ChildMapDsp& mapWindow() override;

@@ -57,11 +57,6 @@ void DataSource::setDatabaseName(std::string path)
     m_cursor.reset();
 }
 
-const std::string& DataSource::databaseName() const
-{
-    return m_databaseName;
-}
-
 void DataSource::setRecordSource(std::string sql)
 {
     m_recordSource = std::move(sql);

@@ -21,7 +21,6 @@ public:
 
     /// The path of the database file. Changing it forgets the current result.
     void setDatabaseName(std::string path);
-    const std::string& databaseName() const;
 
     /// The SQL text. It takes effect with the next refresh().
     void setRecordSource(std::string sql);

@@ -23,7 +23,6 @@ public:
     virtual void about() = 0;
     virtual void exit() = 0;
     virtual void arrangeIcons() = 0;
-    virtual void openHelp() = 0;
 
     /// The single instance of a window that others drive; loaded first when it is not open.
     virtual ChildRead& readingWindow() = 0;

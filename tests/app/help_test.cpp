@@ -331,9 +331,9 @@ TEST_F(HelpSession, CanBeUsedBesideAModalWindowAndStaysWhenThatCloses)
     EXPECT_EQ(helpWindow()->windowHandle()->transientParent(), nullptr);
 }
 
-TEST_F(HelpSession, ShellOpensItAtThePageOfTheActiveWindow)
+TEST_F(HelpSession, OpensAtThePageOfTheActiveWindow)
 {
-    frame().openHelp();
+    frame().help().open();
     ASSERT_NE(helpWindow(), nullptr);
     EXPECT_EQ(helpWindow()->browser->page(), "ChildSelect");
 }
