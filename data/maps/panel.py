@@ -2,7 +2,7 @@
 import math
 from dataclasses import replace
 
-from shapely.geometry import LineString, MultiPolygon, Point, Polygon, box
+from shapely.geometry import LineString, MultiPolygon, Point, box
 from shapely.ops import unary_union
 
 import areas
