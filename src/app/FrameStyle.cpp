@@ -148,12 +148,14 @@ void FrameStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     painter->restore();
 }
 
-// The base style keeps a picture of each combo box by the identity of its palette, and a key for each for
-// ever. New windows' palettes are new ones that say the same.
-const QPalette& FrameStyle::firstEqual(const QPalette& palette) const
+// The base style keeps pictures of each combo box and of each scroll bar's arrows by the identity of their
+// palettes, and a key for each for ever. New windows' palettes are new ones that say the same.
+template <class Option>
+Option FrameStyle::withKnownPalette(Option option) const
 {
-    const auto known = std::find(m_palettes.cbegin(), m_palettes.cend(), palette);
-    return known != m_palettes.cend() ? *known : m_palettes.emplaceBack(palette);
+    const auto known = std::find(m_palettes.cbegin(), m_palettes.cend(), option.palette);
+    option.palette = known != m_palettes.cend() ? *known : m_palettes.emplaceBack(option.palette);
+    return option;
 }
 
 // The base style draws the marks of a title bar's buttons for a higher bar; in this one they are mere dots.
@@ -161,8 +163,12 @@ void FrameStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
                                     QPainter* painter, const QWidget* widget) const
 {
     if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option)) {
-        QStyleOptionComboBox known = *combo;
-        known.palette = firstEqual(combo->palette);
+        const QStyleOptionComboBox known = withKnownPalette(*combo);
+        QProxyStyle::drawComplexControl(control, &known, painter, widget);
+        return;
+    }
+    if (const auto* scrollBar = qstyleoption_cast<const QStyleOptionSlider*>(option)) {
+        const QStyleOptionSlider known = withKnownPalette(*scrollBar);
         QProxyStyle::drawComplexControl(control, &known, painter, widget);
         return;
     }

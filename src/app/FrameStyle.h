@@ -24,7 +24,8 @@ public:
                             const QWidget* widget) const override;
 
 private:
-    const QPalette& firstEqual(const QPalette& palette) const;
+    template <class Option>
+    Option withKnownPalette(Option option) const;
 
-    mutable QList<QPalette> m_palettes; ///< of combo boxes; all differ
+    mutable QList<QPalette> m_palettes; ///< of combo boxes and scroll bars; all differ
 };

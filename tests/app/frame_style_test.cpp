@@ -97,7 +97,7 @@ TEST(TitleBar, CloseButtonBearsACross)
     EXPECT_GE(whiteOnDiagonal(titleBar(QStyle::State_Active), close), 7);
 }
 
-TEST(ComboBoxes, WithPalettesThatSayTheSameShareOneIdentity)
+TEST(Palettes, ThatSayTheSameShareOneIdentityInComboBoxesAndScrollBars)
 {
     class Recorder : public QCommonStyle
     {
@@ -112,17 +112,18 @@ TEST(ComboBoxes, WithPalettesThatSayTheSameShareOneIdentity)
     FrameStyle style;
     auto* recorder = new Recorder;
     style.setBaseStyle(recorder);
-    const auto draw = [&style](const QPalette& palette) {
-        QStyleOptionComboBox combo;
-        combo.palette = palette;
+    const auto draw = [&style](QStyle::ComplexControl control, auto option, const QPalette& palette) {
+        option.palette = palette;
         QImage image(8, 8, QImage::Format_RGB32);
         QPainter painter(&image);
-        style.drawComplexControl(QStyle::CC_ComboBox, &combo, &painter, nullptr);
+        style.drawComplexControl(control, &option, &painter, nullptr);
     };
-    for (int window = 0; window < 10; ++window)
-        draw(light());
+    for (int window = 0; window < 10; ++window) {
+        draw(QStyle::CC_ComboBox, QStyleOptionComboBox(), light());
+        draw(QStyle::CC_ScrollBar, QStyleOptionSlider(), light());
+    }
     EXPECT_EQ(recorder->keys.size(), 1);
-    draw(dark());
-    draw(light());
+    draw(QStyle::CC_ComboBox, QStyleOptionComboBox(), dark());
+    draw(QStyle::CC_ScrollBar, QStyleOptionSlider(), light());
     EXPECT_EQ(recorder->keys.size(), 2);
 }
