@@ -6,7 +6,6 @@
 #include <cstdlib>
 #include <exception>
 #include <QLoggingCategory>
-#include <QPixmapCache>
 
 namespace {
 
@@ -34,9 +33,6 @@ Application::Application(char* programName[])
     // A damaged picture is left out, or shown as far as it goes; what its decoder says serves nobody.
     QLoggingCategory::setFilterRules("qt.gui.imageio*=false");
     setStyle(new FrameStyle);
-    // The style keeps pictures of combo boxes and of buttons, which every new window and every message make
-    // anew.
-    QPixmapCache::setCacheLimit(512); // kB
     Fonts::install();
     setFont(Fonts::tahomaOf(9));
 }
