@@ -3,7 +3,8 @@ import subprocess
 import time
 
 import pytest
-from reader import install
+from desktop import Desktop
+from reader import Reader, install
 
 TITLE = "Kestrel Reader: Portuguese Version"
 
@@ -104,19 +105,27 @@ def test_a_damaged_database_of_the_right_length_and_time_gives_the_engines_messa
     assert program.wait() == 1
 
 
-def test_fifty_copies_at_once_make_one_frame_and_49_refusals(desktop, copy, start):
-    programs = [start(copy) for _ in range(50)]
-    deadline = time.monotonic() + 60
-    refused = set()
-    while len(refused) < 49 and time.monotonic() < deadline:
-        titles = desktop.run("xdotool", "search", "--name", "already running", check=False).split()
-        for window in titles:
-            # two commands: the box may be gone before the key, and a command that fails leaves the key held down
-            desktop.run("xdotool", "windowfocus", window, check=False)
-            desktop.key("Return")
-        refused = {program for program in programs if program.process.poll() == 1}
-    assert len(refused) == 49
-    (first,) = [program for program in programs if program not in refused]
-    first.find("frame", "Select Verse for Reading")
-    frames = desktop.run("xdotool", "search", "--name", "Kestrel Reader: Portuguese Version - Freeware").split()
-    assert len(frames) == 1
+@pytest.fixture
+def crowded():
+    """A desktop of its own: after so many windows at once, a window manager may forget who has the focus."""
+    with Desktop() as session:
+        yield session
+
+
+def test_sixty_copies_at_once_make_one_frame_and_59_refusals_and_so_again_afterwards(crowded, copy):
+    for _ in range(3):
+        programs = [Reader(crowded, copy) for _ in range(60)]
+        refused = set()
+        deadline = time.monotonic() + 120
+        while len(refused) < 59 and time.monotonic() < deadline:
+            for window in crowded.run("xdotool", "search", "--name", "already running", check=False).split():
+                # two commands: the box may be gone before the key, and a command that fails leaves the key held down
+                crowded.run("xdotool", "windowfocus", window, check=False)
+                crowded.key("Return")
+            refused = {program for program in programs if program.process.poll() == 1}
+        crowded.wait_for_window(f"{TITLE} - Freeware")
+        frames = crowded.run("xdotool", "search", "--name", f"{TITLE} - Freeware").split()
+        running = [program for program in programs if program.process.poll() is None]
+        assert [program.end() for program in programs] == [""] * 60
+        assert (len(refused), len(frames), len(running)) == (59, 1, 1)
+        assert not crowded.run("xdotool", "search", "--onlyvisible", "--name", "Kestrel Reader", check=False)
