@@ -34,7 +34,7 @@ Application::Application(char* programName[])
     QLoggingCategory::setFilterRules("qt.gui.imageio*=false");
     setStyle(new FrameStyle);
     Fonts::install();
-    setFont(Fonts::tahomaOf(9));
+    setFont(Fonts::captionsOf(9));
 }
 
 bool Application::notify(QObject* receiver, QEvent* event)

@@ -41,7 +41,7 @@ ChildRead::ChildRead(Shell& shell)
     lblSerial->hide();
     place(*lblSerial, 6840, 3360, 975, 375);
     lblVerseId->setObjectName("lblVerseId");
-    lblVerseId->setFont(Fonts::tahomaOf(7));
+    lblVerseId->setFont(Fonts::captionsOf(7));
     place(*lblVerseId, 6840, 3840, 585, 375);
     place(*cmdFont, 6880, 60, 400, 400);
     place(*cmdFntFace, 6880, 480, 400, 400);

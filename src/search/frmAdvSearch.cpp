@@ -80,7 +80,7 @@ frmAdvSearch::frmAdvSearch(Shell& shell, SearchMemory& memory)
     , m_memory(memory)
 {
     setCaption("Advanced Search");
-    setFont(Fonts::tahomaOf(9));
+    setFont(Fonts::captionsOf(9));
     placeControls();
 
     QMenu* edit = Menus::make(*this, "mnuEdit", "&Edit");

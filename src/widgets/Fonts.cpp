@@ -1,10 +1,36 @@
 #include "widgets/Fonts.h"
 
+#include <QFontMetricsF>
 #include <QStringList>
+
+namespace {
+
+constexpr double designedWidth = 12.73; ///< of the alphabet in Liberation Sans, in sizes of the type
+constexpr double tolerance = 1.03;
+
+double widthOf(QFont font)
+{
+    constexpr int exactEnough = 100;
+    font.setPixelSize(exactEnough);
+    return QFontMetricsF(font).horizontalAdvance("abcdefghijklmnopqrstuvwxyz") / exactEnough;
+}
+
+} // namespace
 
 QFont Fonts::tahomaOf(int points)
 {
-    return QFont(tahoma, points);
+    QFont font(tahoma, points);
+    font.setStretch(QFont::AnyStretch); // not that of the captions around
+    return font;
+}
+
+QFont Fonts::captionsOf(int points)
+{
+    QFont font = tahomaOf(points);
+    const double width = widthOf(font);
+    if (width > designedWidth * tolerance)
+        font.setStretch(static_cast<int>(100 * designedWidth / width));
+    return font;
 }
 
 void Fonts::install()

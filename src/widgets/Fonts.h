@@ -9,8 +9,11 @@ namespace Fonts {
 inline const QString tahoma = QStringLiteral("Tahoma");
 inline const QString timesNewRoman = QStringLiteral("Times New Roman");
 
-/// Tahoma in a size in points.
+/// Tahoma in a size in points, for what wraps or scrolls.
 QFont tahomaOf(int points);
+
+/// The same for controls, whose sizes are fixed: a wider font that stands in is made as narrow as they need.
+QFont captionsOf(int points);
 
 /// Declares the substitutes; once, before the first window.
 void install();

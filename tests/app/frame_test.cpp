@@ -11,16 +11,6 @@ using Frame = Session;
 
 namespace {
 
-/// What a menu shows: its items as "name|caption|shortcut".
-QStringList itemsOf(const QMenu& menu)
-{
-    QStringList items;
-    for (const QAction* item : menu.actions())
-        items << item->objectName() + "|" + (item->isSeparator() ? "-" : item->text()) + "|" +
-                     item->shortcut().toString();
-    return items;
-}
-
 QMenu* menuOf(MDIParent& frame, const QString& caption)
 {
     for (const QAction* entry : frame.menuBar()->actions())

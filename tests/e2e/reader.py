@@ -129,18 +129,63 @@ class Reader:
     def key(self, *keys):
         self.desktop.key(*keys)
 
-    def look_up(self, reference, key):
-        """Types a reference into the selection window; the reading window with the verse of that key."""
+    def open_selection(self):
+        self.key("F2")
+        window = self.find("frame", "Select Verse for Reading")
+        self.wait_for_focus(window, "combo box", self.find("combo box", within=window).name)
+        return window
+
+    def type_reference(self, reference):
+        """Types a reference into the selection window, in place of the old one, and confirms it."""
         self.desktop.wait_for_focus("Kestrel Reader: Portuguese Version")
-        self.key("F2", "ctrl+a")
+        self.open_selection()
         self.desktop.type(reference)
         self.key("Return")
-        return self.find("frame", f"Reading Window -- {key}")
+
+    def look_up(self, reference, key=None):
+        """The reading window with the verse of a reference, whose key is another where the reference is shortened."""
+        self.type_reference(reference)
+        return self.wait_for_focus_in(self.find("frame", f"Reading Window -- {key or reference}"))
+
+    def open_chapter(self, title):
+        """The chapter window, opened from the reading window."""
+        self.key("F9")
+        window = self.find("frame", f"Chapter Window -- {title}")
+        self.wait_for_focus(window, "text", "Chapter text")
+        return window
+
+    def open_search(self):
+        """The search window, ready for the text to search for."""
+        self.key("F3")
+        window = self.find("frame", "Advanced Search")
+        self.wait_for_focus(window, "text", "Search for verses containing the following text:")
+        return window
+
+    def open_aids(self, page="c"):
+        """The study aids with the focus on their tabs, the page of this letter chosen."""
+        self.key("F8")
+        window = self.wait_for_focus_in(self.find("frame", "Study Aids"))
+        self.key(f"alt+{page}")
+        self.wait_for(lambda: (self.focused(window) or [""])[0] == "page tab list", "the focus on the tabs")
+        return window
+
+    def open_map(self):
+        """The window of the first map."""
+        window = self.open_aids("m")
+        self.key("Tab")
+        self.wait_for_focus(window, "list", "Maps")
+        self.key("Home", "Return")
+        return self.wait_for_focus_in(self.find("frame", starts="Map -- Abraham's Journeys"))
+
+    def open_about(self):
+        self.key("alt+h", "a")
+        window = self.find("dialog", "Kestrel Reader (PT)")
+        self.wait_for_focus(window, "push button", "OK")
+        return window
 
     def search(self, words):
         """Searches the Gospels; how many verses it found, as the message says it."""
-        self.key("F3")
-        window = self.find("frame", "Advanced Search")
+        window = self.open_search()
         self.key("ctrl+a")
         self.desktop.type(words)
         self.key("Return")
@@ -158,8 +203,7 @@ class Reader:
             count = area.childCount
             self.key("ctrl+F4")
             self.wait_for(lambda: area.childCount < count, "one window less")
-        self.key("F2")
-        self.wait_for_focus(self.find("frame", "Select Verse for Reading"), "combo box", "Mt")
+        self.open_selection()
 
     def lines(self, node, showing=True, depth=0):
         """What a screen reader meets below an object, as indented lines: its role and name, and what it cannot do.
@@ -205,6 +249,11 @@ class Reader:
 
     def wait_for_focus(self, within, role, name):
         self.wait_for(lambda: self.focused(within) == (role, name), f"the focus on the {role} {name!r}")
+
+    def wait_for_focus_in(self, window):
+        """Waits until a control of the window has the focus; the window."""
+        self.wait_for(lambda: self.focused(window), f"the focus in {window.name!r}")
+        return window
 
     def picture(self, node):
         """What the screen shows of an object, once it stands still."""

@@ -14,14 +14,10 @@ PSALM = ("Ps:117:1 Louvai ao SENHOR, todas as nações; celebrai a ele, todos os
 
 
 @pytest.fixture
-def chapter_text(reader, desktop):
+def chapter_text(reader):
     """The text box, with the second verse of Psalm 117 highlighted."""
-    desktop.key("F2", "ctrl+a")
-    desktop.type("Ps:117:2")
-    desktop.key("Return")
-    reader.find("frame", "Reading Window -- Ps:117:2")
-    desktop.key("F9")
-    return reader.find("text", "Chapter text", reader.find("frame", "Chapter Window -- Ps:117:"))
+    reader.look_up("Ps:117:2")
+    return reader.find("text", "Chapter text", reader.open_chapter("Ps:117:"))
 
 
 @pytest.fixture

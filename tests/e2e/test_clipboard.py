@@ -30,43 +30,22 @@ def manager(desktop, selections):
     process.wait()
 
 
-def open_verse(reader, desktop):
-    desktop.key("F2", "ctrl+a")
-    desktop.type("Ps:117:2")
-    desktop.key("Return")
-    reader.find("frame", "Reading Window -- Ps:117:2")
-
-
 def copy_verse(reader, desktop):
-    open_verse(reader, desktop)
+    reader.look_up("Ps:117:2")
     desktop.key("ctrl+c")
     reader.wait_for(lambda: desktop.clipboard() == VERSE, "the verse on the clipboard")
 
 
 def copy_chapter(reader, desktop):
-    open_verse(reader, desktop)
-    desktop.key("F9")
-    reader.find("frame", "Chapter Window -- Ps:117:")
+    reader.look_up("Ps:117:2")
+    reader.open_chapter("Ps:117:")
     reader.press("Copy Chapter to Clipboard")
     reader.wait_for(lambda: desktop.clipboard() == CHAPTER, "the chapter on the clipboard")
 
 
-def copy_results(reader, desktop):
-    desktop.key("F3")
-    reader.find("frame", "Advanced Search")
-    desktop.key("ctrl+a")
-    desktop.type("IGREJA")
-    desktop.key("Return")
-    reader.find(None, "Search Results:")
-    desktop.key("Return")
-    reader.absent(None, "Search Results:")
+def copy_results(reader):
+    reader.search("IGREJA")
     reader.press("Copy Search Results to Clipboard")
-
-
-def picture(desktop):
-    """The picture on the clipboard, as a PNG file."""
-    return subprocess.run(["xclip", "-selection", "clipboard", "-o", "-t", "image/png"], env=desktop.environment,
-                          capture_output=True, timeout=10).stdout
 
 
 def frames(desktop):
@@ -95,7 +74,7 @@ def test_a_copied_chapter_outlives_a_closed_frame_with_its_line_ends(manager, re
 
 
 def test_copied_results_outlive_the_program(manager, reader, desktop, verses):
-    copy_results(reader, desktop)
+    copy_results(reader)
     found = [f"\r\n{key} {verses[key]}" for key in ("Mt:16:18", "Mt:18:17")]
     expected = "Search Results:" + "".join(found) + "\r\n(PT)"
     reader.wait_for(lambda: desktop.clipboard() == expected, "the results on the clipboard")
@@ -104,16 +83,12 @@ def test_copied_results_outlive_the_program(manager, reader, desktop, verses):
 
 
 def test_a_copied_map_outlives_the_program(manager, reader, desktop):
-    desktop.key("F8")
-    window = reader.find("frame", "Study Aids")
-    reader.click(reader.find("page tab", starts="Maps", within=window))
-    reader.click(reader.find("list item", within=reader.find("list", "Maps", window)))
-    reader.find("frame", starts="Map -- Abraham's Journeys")
+    reader.open_map()
     desktop.key("ctrl+c")
-    reader.wait_for(lambda: picture(desktop), "the map on the clipboard")
-    copied = picture(desktop)
+    reader.wait_for(lambda: desktop.clipboard_picture(), "the map on the clipboard")
+    copied = desktop.clipboard_picture()
     leave(reader, desktop, EXIT)
-    assert picture(desktop) == copied
+    assert desktop.clipboard_picture() == copied
 
 
 def test_a_killed_program_hands_nothing_over(manager, reader, desktop):

@@ -45,39 +45,18 @@ def reader(desktop, installed, editor):
     assert program.end() == ""
 
 
-def open_selection(reader):
-    reader.key("F2")
-    window = reader.find("frame", "Select Verse for Reading")
-    reader.wait_for_focus(window, "combo box", reader.find("combo box", within=window).name)
-    return window
-
-
-def look_up(reader, desktop, reference):
-    open_selection(reader)
-    desktop.type(reference)  # in place of the old one
-    reader.key("Return")
-
-
 def shown(reader, key):
     return reader.find("frame", f"Reading Window -- {key}")
 
 
-def read(reader, desktop, key):
-    """The reading window at a verse, with the focus."""
-    look_up(reader, desktop, key)
-    window = shown(reader, key)
-    reader.wait_for(lambda: reader.focused(window), "the focus in the reading window")
-    return window
-
-
 def open_study_aids(reader):
-    open_selection(reader)
+    reader.open_selection()
     reader.key("F8")
     return reader.find("frame", "Study Aids")
 
 
 def test_a_book_is_found_in_the_tree_and_opened(reader):
-    window = open_selection(reader)
+    window = reader.open_selection()
     tree = reader.find("tree", "Books", window)
     reader.press("Poetical Books", "table cell", tree)
     assert reader.find("combo box", "Mt", window)
@@ -88,10 +67,9 @@ def test_a_book_is_found_in_the_tree_and_opened(reader):
     shown(reader, "Ps:1:1")
 
 
-def test_a_typed_reference_opens_and_a_bad_one_brings_the_verse_before_back(reader, desktop, verses):
-    look_up(reader, desktop, "2Thes:3:16")
-    window = shown(reader, "2Thes:3:16")
-    look_up(reader, desktop, "Xy:1:1")
+def test_a_typed_reference_opens_and_a_bad_one_brings_the_verse_before_back(reader, verses):
+    reader.look_up("2Thes:3:16")
+    reader.type_reference("Xy:1:1")
     assert reader.text_of_box("Try Again!") == "Incorrect user input. No such verse."
     reader.press("OK")
     reader.absent(None, "Try Again!")
@@ -100,8 +78,8 @@ def test_a_typed_reference_opens_and_a_bad_one_brings_the_verse_before_back(read
     reader.wait_for_focus(window, "push button", "Next Verse")
 
 
-def test_buttons_and_keys_step_through_the_verses(reader, desktop):
-    read(reader, desktop, "Mt:24:43")
+def test_buttons_and_keys_step_through_the_verses(reader):
+    reader.look_up("Mt:24:43")
     reader.press("Next Verse")
     shown(reader, "Mt:24:44")
     reader.press("Previous Verse")
@@ -112,8 +90,8 @@ def test_buttons_and_keys_step_through_the_verses(reader, desktop):
     shown(reader, "Mt:24:44")
 
 
-def test_the_type_grows_begins_again_and_changes_its_face(reader, desktop, verses):
-    window = read(reader, desktop, "Jn:11:35")
+def test_the_type_grows_begins_again_and_changes_its_face(reader, verses):
+    window = reader.look_up("Jn:11:35")
     text = reader.find("label", " " + verses["Jn:11:35"], window)
     looks = [reader.picture(text)]
     for name in ("Font Size", "Font Size", "Font Size", "Font Face", "Font Face"):
@@ -125,7 +103,7 @@ def test_the_type_grows_begins_again_and_changes_its_face(reader, desktop, verse
 
 
 def test_the_verse_is_copied_by_its_button(reader, desktop, verses):
-    window = read(reader, desktop, "Mt:24:43")
+    window = reader.look_up("Mt:24:43")
     reader.press("Copy Verse to Clipboard", within=window)
     expected = f"Mt:24:43\r\n {verses['Mt:24:43']} (PT)"
     reader.wait_for(lambda: desktop.clipboard() == expected, "the verse on the clipboard")
@@ -133,9 +111,8 @@ def test_the_verse_is_copied_by_its_button(reader, desktop, verses):
 
 def test_the_chapter_is_read_and_copied(reader, desktop, verses):
     lines = [f"{key} {text}" for key, text in verses.items() if key.startswith("2Jn:1:")]
-    read(reader, desktop, "2Jn:1:6")
-    reader.key("F9")
-    window = reader.find("frame", "Chapter Window -- 2Jn:1:")
+    reader.look_up("2Jn:1:6")
+    window = reader.open_chapter("2Jn:1:")
     chapter = reader.find("text", "Chapter text", window).queryText()
     assert chapter.getText(0, chapter.characterCount) == "\n".join([*lines, "(PT)"])
     assert chapter.getText(*chapter.getSelection(0)) == lines[5]
@@ -277,7 +254,7 @@ def test_the_editor_starts_at_once_and_asks_before_it_starts_again(reader, edito
     ((process, arguments, program),) = record(editor)
     assert (arguments, program) == (0, str(editor / "notepad.exe"))
     reader.wait_for(lambda: is_running(process), "the editor at work")
-    open_selection(reader)  # the program has not waited for it
+    reader.open_selection()  # the program has not waited for it
 
     reader.key("ctrl+n")
     question = reader.text_of_box("Kestrel Reader: Portuguese Version").splitlines()
@@ -310,7 +287,7 @@ def test_the_about_window_and_what_hangs_off_it(reader):
         reader.wait_for(lambda: reader.focused(about), "the focus back in the About window")
     reader.key("Escape")
     reader.absent("dialog", "Kestrel Reader (PT)")
-    open_selection(reader)
+    reader.open_selection()
     reader.menu("Help", "About...")
     reader.wait_for_focus(reader.find("dialog", "Kestrel Reader (PT)"), "push button", "OK")
     reader.key("space")
@@ -326,10 +303,10 @@ def expect_help(reader, page):
     reader.absent("frame", "Kestrel Reader Help")
 
 
-def test_f1_opens_the_page_of_every_window(reader, desktop):
-    reading = read(reader, desktop, "2Jn:1:1")
+def test_f1_opens_the_page_of_every_window(reader):
+    reading = reader.look_up("2Jn:1:1")
     expect_help(reader, "Reading Window")
-    reader.wait_for(lambda: reader.focused(reading), "the focus back in the reading window")
+    reader.wait_for_focus_in(reading)
     for keys, window, page in (("F9", "Chapter Window -- 2Jn:1:", "Chapter Window"),
                                ("F3", "Advanced Search", "Search"),
                                ("F8", "Study Aids", "Study Aids"),
@@ -350,9 +327,7 @@ def test_f1_opens_the_page_of_every_window(reader, desktop):
     reader.key("ctrl+F4")
     reader.wait_for(lambda: reader.focused(aids), "the focus back in the study aids")
 
-    reader.key("alt+h", "a")
-    about = reader.find("dialog", "Kestrel Reader (PT)")
-    reader.wait_for_focus(about, "push button", "OK")
+    about = reader.open_about()
     expect_help(reader, "About Window")
     for button, title in (("DonationWare", "Your support is needed!"), ("QORV CD-ROM Offer", "QORV CD-ROM Offer")):
         reader.act(button, about)
@@ -374,14 +349,14 @@ def minimise(reader, window):
                     f"{window.name!r} as an icon")
 
 
-def test_minimised_windows_are_arranged_along_the_bottom(reader, desktop):
+def test_minimised_windows_are_arranged_along_the_bottom(reader):
     import pyatspi
     aids = open_study_aids(reader)
     reader.wait_for(lambda: reader.focused(aids), "the focus in the study aids")
     minimise(reader, aids)
-    reading = read(reader, desktop, "Jn:1:1")
+    reading = reader.look_up("Jn:1:1")
     minimise(reader, reading)
-    open_selection(reader)
+    reader.open_selection()
     reader.menu("Window", "Arrange Icons")
     area = reader.find("layered pane", "Windows").queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
 
@@ -394,12 +369,12 @@ def test_minimised_windows_are_arranged_along_the_bottom(reader, desktop):
         return first.x == area.x and second.x == first.x + first.width and bottoms == {area.y + area.height}
 
     reader.wait_for(stand_in_a_row, "the icons in a row")
-    assert read(reader, desktop, "Jn:1:2").name  # handing it a verse restores the window
+    assert reader.look_up("Jn:1:2").name  # handing it a verse restores the window
     assert boxes()[0].height > 200
 
 
 def test_exit_ends_the_reader_and_not_the_editor(reader, editor):
-    open_selection(reader)
+    reader.open_selection()
     reader.menu("File", "Exit")
     assert reader.wait() == 0
     time.sleep(0.2)  # what would end with its parent would have ended

@@ -44,7 +44,7 @@ def test_a_full_disk_stops_nothing(start, desktop, installed, full_disk):
     folders = ("HOME", "TMPDIR", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_DATA_HOME")
     reader = start(installed, **{name: str(full_disk) for name in folders})
     reader.find("frame", "Select Verse for Reading")
-    reader.look_up(VERSE, VERSE)
+    reader.look_up(VERSE)
     desktop.key("ctrl+c")
     reader.wait_for(lambda: desktop.clipboard().startswith(VERSE + "\r\n "), "the verse on the clipboard")
     assert reader.search("IGREJA") == "2 verse(s) found."
@@ -54,7 +54,7 @@ def test_a_full_disk_stops_nothing(start, desktop, installed, full_disk):
 
 def test_a_clipboard_that_others_take_and_leave(reader, desktop):
     """Its owner is killed with the clipboard; another takes it again and again while the program copies."""
-    reader.look_up(VERSE, VERSE)
+    reader.look_up(VERSE)
     owner = subprocess.Popen(["xclip", "-selection", "clipboard", "-quiet"], env=desktop.environment,
                              stdin=subprocess.PIPE, stderr=subprocess.DEVNULL)
     owner.stdin.write(b"of another program")
@@ -105,7 +105,7 @@ def test_killed_at_any_moment_it_leaves_nothing_and_starts_again(start, desktop,
         reader.find(None, "Kestrel Reader (PT)")
     else:
         reader.find("frame", "Select Verse for Reading")
-        reader.look_up(VERSE, VERSE)
+        reader.look_up(VERSE)
     if moment == "search":
         desktop.key("F3")
         reader.find("frame", "Advanced Search")
@@ -125,7 +125,7 @@ def test_killed_at_any_moment_it_leaves_nothing_and_starts_again(start, desktop,
     assert sorted(path.name for path in copy.iterdir()) == ["KESTREL.HLP", "KESTRPT.DAT", "SEARCH.AVI", "kestrel-reader"]
     again = start(copy, **private)
     again.find("frame", "Select Verse for Reading")
-    again.look_up(VERSE, VERSE)
+    again.look_up(VERSE)
 
 
 # --- Time zones ---

@@ -1,5 +1,6 @@
 """Every window by keyboard alone: where Tab goes, what shows the focus, which keys press, open, change and close."""
 import pytest
+from reader import Reader
 
 READING = ["push button: Next Verse", "push button: Previous Verse", "check box: AutoJump to next verse after",
            "combo box: 4", "push button: Font Size", "push button: Font Face", "push button: Copy Verse to Clipboard",
@@ -18,35 +19,18 @@ def reader(sitting):
     return sitting
 
 
-def has_focus(reader, window):
-    reader.wait_for(lambda: reader.focused(window), f"the focus in {window.name!r}")
-    return window
-
-
-def selection(reader):
-    return has_focus(reader, reader.find("frame", "Select Verse for Reading"))
-
-
 def reading(reader):
-    reader.key("ctrl+a")
-    reader.desktop.type("2Jn")
-    reader.key("Return")
-    return has_focus(reader, reader.find("frame", "Reading Window -- 2Jn:1:1"))
+    return reader.look_up("2Jn", "2Jn:1:1")
 
 
 def chapter(reader):
     reading(reader)
-    reader.key("F9")
-    window = reader.find("frame", "Chapter Window -- 2Jn:1:")
-    reader.wait_for_focus(window, "text", "Chapter text")
-    return window
+    return reader.open_chapter("2Jn:1:")
 
 
 def search(reader):
     """The search window with a word in its box and nothing found yet."""
-    reader.key("F3")
-    window = reader.find("frame", "Advanced Search")
-    reader.wait_for_focus(window, "text", "Search for verses containing the following text:")
+    window = reader.open_search()
     reader.desktop.type("amor")
     reader.wait_for(lambda: "push button: Search" in [line.strip() for line in reader.lines(window)], "a search to run")
     return window
@@ -61,20 +45,12 @@ def results(reader):
     return window
 
 
-def aids(reader, page="c"):
-    reader.key("F8")
-    window = has_focus(reader, reader.find("frame", "Study Aids"))
-    reader.key(f"alt+{page}")
-    reader.wait_for(lambda: (reader.focused(window) or [""])[0] == "page tab list", "the focus on the tabs")
-    return window
+def maps(reader):
+    return reader.open_aids("m")
 
 
-def map_window(reader):
-    window = aids(reader, "m")
-    reader.key("Tab")
-    reader.wait_for_focus(window, "list", "Maps")
-    reader.key("Home", "Return")
-    return has_focus(reader, reader.find("frame", starts="Map -- Abraham's Journeys"))
+def download(reader):
+    return reader.open_aids("d")
 
 
 def help_window(reader):
@@ -83,13 +59,6 @@ def help_window(reader):
     reader.wait_for_focus(window, "label", "Select Verse for Reading")
     reader.key("F1")  # its own page, which has no links to stop at
     reader.wait_for_focus(window, "label", "This help")
-    return window
-
-
-def about(reader):
-    reader.key("alt+h", "a")
-    window = reader.find("dialog", "Kestrel Reader (PT)")
-    reader.wait_for_focus(window, "push button", "OK")
     return window
 
 
@@ -126,24 +95,24 @@ def stops(reader, window):
 
 
 WINDOWS = [
-    (selection, ["combo box: Mt", "push button: Display Verse", "push button: Examples", "tree: Books"]),
+    (Reader.open_selection, ["combo box: Mt", "push button: Display Verse", "push button: Examples", "tree: Books"]),
     (reading, READING),
     (chapter, ["text: Chapter text", "push button: Font Size", "push button: Font Face",
                "push button: Copy Chapter to Clipboard", "push button: Tip"]),
     (search, SEARCH),
     (results, RESULTS[-1:] + RESULTS[:-1]),
-    (aids, ["page tab list: Classified Verses", "radio button: Major Gospels Events", "combo box:  Preface of Luke",
-            "list: Verse references"]),
-    (lambda reader: aids(reader, "m"), ["page tab list: Maps", "list: Maps"]),
-    (lambda reader: aids(reader, "d"), ["page tab list: Download Other Translations", "push button: Visit the Web Site"]),
-    (map_window, ["push button: Zoom In/Restore Normal Size", "push button: Copy Map to Clipboard"]),
-    (about, ["push button: OK", "push button: E-mail: author@kestrel-reader.example", "push button: More Info",
-             "push button: DonationWare", "push button: QORV CD-ROM Offer"]),
+    (Reader.open_aids, ["page tab list: Classified Verses", "radio button: Major Gospels Events",
+                        "combo box:  Preface of Luke", "list: Verse references"]),
+    (maps, ["page tab list: Maps", "list: Maps"]),
+    (download, ["page tab list: Download Other Translations", "push button: Visit the Web Site"]),
+    (Reader.open_map, ["push button: Zoom In/Restore Normal Size", "push button: Copy Map to Clipboard"]),
+    (Reader.open_about, ["push button: OK", "push button: E-mail: author@kestrel-reader.example", "push button: More Info",
+                         "push button: DonationWare", "push button: QORV CD-ROM Offer"]),
     (help_window, ["label: This help", "push button: Back", "text: Find:", "push button: Next", "push button: Previous",
                    "push button: Larger", "push button: Smaller", "push button: Normal Size", "list: Contents"]),
 ]
 NAMES = ["selection", "reading", "chapter", "search", "results", "verses", "maps", "download", "map", "about", "help"]
-ESCAPED = (about, help_window)
+ESCAPED = (Reader.open_about, help_window)
 
 
 @pytest.mark.parametrize("opened, order", WINDOWS, ids=NAMES)
@@ -161,7 +130,7 @@ def test_tab_visits_every_control_in_order_and_comes_round(reader, opened, order
 @pytest.mark.parametrize("button, title", [("DonationWare", "Your support is needed!"),
                                            ("QORV CD-ROM Offer", "QORV CD-ROM Offer")])
 def test_the_letters_are_opened_scrolled_and_closed_by_keyboard(reader, button, title):
-    window = about(reader)
+    window = reader.open_about()
     while reader.focused(window) != ("push button", button):
         before = reader.focused(window)
         reader.key("Tab")
@@ -179,18 +148,18 @@ def test_the_letters_are_opened_scrolled_and_closed_by_keyboard(reader, button, 
     reader.absent("dialog", "Kestrel Reader (PT)")
 
 
-def test_without_inner_windows_tab_goes_through_the_toolbar(reader, desktop):
+def test_without_inner_windows_tab_goes_through_the_toolbar(reader):
     reader.key("ctrl+F4")
     reader.absent("frame", "Select Verse for Reading")
     frame = reader.find("frame", starts="Kestrel Reader: Portuguese Version")
     reader.key("Tab")
-    has_focus(reader, frame)
+    reader.wait_for_focus_in(frame)
     order = ["push button: Select Verse to read", "push button: Notepad", "push button: Search", "push button: Study Aids",
              "push button: About/QORV CD-ROM Offer"]
     assert walk(reader, frame, "Tab") == order
     assert walk(reader, frame, "shift+Tab") == [order[0], *reversed(order[1:])]
     reader.key("space")
-    has_focus(reader, reader.find("frame", "Select Verse for Reading"))
+    reader.wait_for_focus_in(reader.find("frame", "Select Verse for Reading"))
 
 
 @pytest.mark.parametrize("opened, name, role", [
@@ -199,8 +168,8 @@ def test_without_inner_windows_tab_goes_through_the_toolbar(reader, desktop):
     (reading, "4", "combo box"),
     (search, "Match whole word(s) only", "check box"),
     (results, "Search results:", "list"),
-    (lambda reader: aids(reader, "m"), "Maps", "list"),
-    (map_window, "Zoom In/Restore Normal Size", "push button"),
+    (maps, "Maps", "list"),
+    (Reader.open_map, "Zoom In/Restore Normal Size", "push button"),
 ])
 def test_the_focus_is_seen(reader, desktop, opened, name, role):
     window = opened(reader)
@@ -255,17 +224,17 @@ def leave(reader, menu, window):
 
 
 @pytest.mark.parametrize("opened, menus, controls", [
-    (selection, MENUS, {}),
+    (Reader.open_selection, MENUS, {}),
     (reading, WITH_VIEW, {"d": "combo box: 4", "a": "check box: AutoJump to next verse after"}),
     (chapter, WITH_EDIT, {}),
     # while there is something to type, its controls have the letters that two menus have too
     (search, {letter: menu for letter, menu in MENUS.items() if letter != "w"},
      {"e": SEARCH[0], "b": "combo box: The Four Gospels", "w": SEARCH[0]}),
     (results, WITH_EDIT, {"r": "list: Search results:"}),
-    (aids, MENUS, VERSES),
-    (lambda reader: aids(reader, "d"), {}, TABS),
-    (lambda reader: aids(reader, "m"), {}, {"d": TABS["d"], "m": TABS["m"], "a": "list: Maps"}),
-    (map_window, WITH_VIEW, {}),
+    (Reader.open_aids, MENUS, VERSES),
+    (download, {}, TABS),
+    (maps, {}, {"d": TABS["d"], "m": TABS["m"], "a": "list: Maps"}),
+    (Reader.open_map, WITH_VIEW, {}),
 ], ids=["selection", "reading", "chapter", "search", "results", "verses", "tabs", "maps", "map"])
 def test_every_alt_letter_has_one_meaning(reader, opened, menus, controls):
     window = opened(reader)
@@ -289,7 +258,7 @@ def test_a_menu_whose_letter_a_control_has_is_reached_along_the_bar(reader):
 
 
 def test_inner_windows_are_changed_and_closed_by_keyboard(reader):
-    first = selection(reader)
+    first = reader.open_selection()
     second = reading(reader)
     for key in ("ctrl+Tab", "ctrl+shift+Tab"):
         reader.key(key)
@@ -298,12 +267,12 @@ def test_inner_windows_are_changed_and_closed_by_keyboard(reader):
         reader.wait_for(lambda: reader.focused(second) and not reader.focused(first), f"{key} to come back")
     reader.key("ctrl+F4")
     reader.absent("frame", "Reading Window -- 2Jn:1:1")
-    has_focus(reader, first)
+    reader.wait_for_focus_in(first)
 
 
 def test_an_inner_windows_own_menu_is_opened_by_keyboard(reader):
     import pyatspi
-    window = selection(reader)
+    window = reader.open_selection()
     height = window.queryComponent().getExtents(pyatspi.DESKTOP_COORDS).height
     reader.key("alt+minus", "n")
     reader.wait_for(lambda: window.queryComponent().getExtents(pyatspi.DESKTOP_COORDS).height < height / 2, "an icon")
@@ -314,4 +283,4 @@ def test_an_inner_windows_own_menu_is_opened_by_keyboard(reader):
 def test_the_study_aids_are_opened_where_f8_is_not_theirs(reader):
     reading(reader)
     reader.key("alt+t", "Return")
-    has_focus(reader, reader.find("frame", "Study Aids"))
+    reader.wait_for_focus_in(reader.find("frame", "Study Aids"))

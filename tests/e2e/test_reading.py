@@ -2,31 +2,23 @@
 import time
 
 
-def look_up(reader, desktop, reference):
-    desktop.key("F2", "ctrl+a")
-    desktop.type(reference)
-    desktop.key("Return")
-
-
 def shown(reader, key):
     return reader.find("frame", f"Reading Window -- {key}")
 
 
-def test_a_typed_reference_shows_its_verse(reader, desktop, verses):
-    look_up(reader, desktop, "Mt:24:43")
-    window = shown(reader, "Mt:24:43")
+def test_a_typed_reference_shows_its_verse(reader, verses):
+    window = reader.look_up("Mt:24:43")
     assert reader.find("label", "Mt:24:43", window)
     assert reader.find("label", " " + verses["Mt:24:43"], window)
 
 
-def test_the_frame_and_the_controls_have_their_names(reader, desktop):
+def test_the_frame_and_the_controls_have_their_names(reader):
     assert reader.find("frame", starts="Kestrel Reader: Portuguese Version - Freeware")
     for name in ("Select Verse to read", "Notepad", "Search", "Study Aids", "About/QORV CD-ROM Offer",
                  "Display Verse", "Examples"):
         assert reader.find("push button", name)
     assert reader.find("tree", "Books")
-    look_up(reader, desktop, "Jn:3:16")
-    window = shown(reader, "Jn:3:16")
+    window = reader.look_up("Jn:3:16")
     for name in ("Previous Verse", "Next Verse", "Current Chapter", "Copy Verse to Clipboard", "Font Size", "Font Face"):
         assert reader.find("push button", name, window)
     assert reader.find("check box", "AutoJump to next verse after", window)
@@ -34,8 +26,7 @@ def test_the_frame_and_the_controls_have_their_names(reader, desktop):
 
 
 def test_stepping_by_keys_buttons_and_menu(reader, desktop):
-    look_up(reader, desktop, "Rv:22:21")
-    shown(reader, "Rv:22:21")
+    reader.look_up("Rv:22:21")
     desktop.key("F12")
     shown(reader, "Gn:1:1")
     desktop.key("F11")
@@ -49,8 +40,7 @@ def test_stepping_by_keys_buttons_and_menu(reader, desktop):
 
 
 def test_the_verses_wrap_at_both_ends(reader, desktop):
-    look_up(reader, desktop, "Mt")
-    shown(reader, "Mt:1:1")
+    reader.look_up("Mt", "Mt:1:1")
     desktop.key("F11")
     shown(reader, "Mal:4:6")
     desktop.key("F12")
@@ -58,16 +48,14 @@ def test_the_verses_wrap_at_both_ends(reader, desktop):
 
 
 def test_copying_puts_the_verse_on_the_real_clipboard(reader, desktop, verses):
-    look_up(reader, desktop, "Mt:24:43")
-    shown(reader, "Mt:24:43")
+    reader.look_up("Mt:24:43")
     desktop.key("ctrl+c")
     expected = "Mt:24:43\r\n " + verses["Mt:24:43"] + " (PT)"
     reader.wait_for(lambda: desktop.clipboard() == expected, "the verse on the clipboard")
 
 
 def test_the_timer_turns_the_verses_and_stops_behind_another_window(reader, desktop):
-    look_up(reader, desktop, "Mt:5:3")
-    window = shown(reader, "Mt:5:3")
+    window = reader.look_up("Mt:5:3")
     desktop.key("Tab", "Tab", "space", "Tab", "Up")  # to the check box, then to the seconds
     assert reader.find("combo box", "3", window)
     begin = time.monotonic()
@@ -81,9 +69,8 @@ def test_the_timer_turns_the_verses_and_stops_behind_another_window(reader, desk
 
 
 def test_a_bad_reference_is_refused_and_the_verse_before_stays(reader, desktop):
-    look_up(reader, desktop, "Lk:2:7")
-    shown(reader, "Lk:2:7")
-    look_up(reader, desktop, "Xy:1:1")
+    reader.look_up("Lk:2:7")
+    reader.type_reference("Xy:1:1")
     assert reader.text_of_box("Try Again!") == "Incorrect user input. No such verse."
     desktop.key("Return")
     reader.absent(None, "Try Again!")
@@ -91,7 +78,7 @@ def test_a_bad_reference_is_refused_and_the_verse_before_stays(reader, desktop):
 
 
 def test_an_apostrophe_ends_the_program_with_the_engines_text(reader, desktop):
-    look_up(reader, desktop, "Mt'")
+    reader.type_reference("Mt'")
     text = reader.text_of_box("Kestrel Reader: Portuguese Version")
     assert "error" in text or "token" in text
     desktop.key("Return")
@@ -111,7 +98,6 @@ def test_exit_ends_the_program(reader, desktop):
 
 
 def test_closing_the_frame_ends_the_program(reader, desktop):
-    look_up(reader, desktop, "Mt")
-    shown(reader, "Mt:1:1")
+    reader.look_up("Mt", "Mt:1:1")
     desktop.key("alt+F4")
     assert reader.wait() == 0

@@ -151,30 +151,7 @@ def expect(reader, window, outline):
     reader.wait_for(lambda: shown() == outline, f"this, instead of\n{shown()}\n:\n{outline}")
 
 
-def open_verse(reader, reference):
-    reader.key("ctrl+a")
-    reader.desktop.type(reference)
-    reader.key("Return")
-    window = reader.find("frame", f"Reading Window -- {reference}")
-    reader.wait_for_focus(window, "push button", "Next Verse")
-    return window
-
-
-def open_search(reader):
-    reader.key("F3")
-    window = reader.find("frame", "Advanced Search")
-    reader.wait_for_focus(window, "text", "Search for verses containing the following text:")
-    return window
-
-
-def open_aids(reader):
-    reader.key("F8")
-    window = reader.find("frame", "Study Aids")
-    reader.wait_for_focus(window, "page tab list", "Classified Verses")
-    return window
-
-
-def test_the_splash(start, desktop, tmp_path, installed):
+def test_the_splash(start, tmp_path, installed):
     splash = start(install(installed, tmp_path / "kestrel"))
     expect(splash, splash.find("dialog", "Kestrel Reader (PT)"), "dialog: Kestrel Reader (PT)\n  image: Kestrel Reader (PT)")
 
@@ -190,16 +167,15 @@ def test_the_frame_and_the_selection_window(reader):
 
 
 def test_the_reading_and_the_chapter_window(reader, verses):
-    window = open_verse(reader, "2Jn:1:13")
+    window = reader.look_up("2Jn:1:13")
     expect(reader, window, READING.format(verse=verses["2Jn:1:13"]))
     entries = reader.find("combo box", "4", window)[0]
     assert [entry.name for entry in entries] == ["3", "4", "5", "6", "7", "8", "12"]
-    reader.key("F9")
-    expect(reader, reader.find("frame", "Chapter Window -- 2Jn:1:"), CHAPTER)
+    expect(reader, reader.open_chapter("2Jn:1:"), CHAPTER)
 
 
 def test_the_search_window_in_both_layouts(reader, desktop):
-    window = open_search(reader)
+    window = reader.open_search()
     expect(reader, window, SEARCH)
     assert reader.find("combo box", "The Four Gospels", window)[0].childCount == 75
     desktop.type("amor")
@@ -215,7 +191,7 @@ def test_the_search_window_in_both_layouts(reader, desktop):
 
 
 def test_every_verse_of_a_long_list_is_there(reader, desktop, verses):
-    window = open_search(reader)
+    window = reader.open_search()
     reader.key("alt+b", "End", "Up", "Home")  # the end of the list and its beginning
     reader.key("Down", "Down", "Down", "Down")
     reader.find("combo box", "All Old Testament", window)
@@ -234,7 +210,7 @@ def test_every_verse_of_a_long_list_is_there(reader, desktop, verses):
 
 
 def test_the_study_aids_and_a_map(reader):
-    window = open_aids(reader)
+    window = reader.open_aids()
     expect(reader, window, VERSES)
     reader.key("alt+d")
     reader.wait_for(lambda: re.fullmatch(re.escape(DOWNLOAD).replace(re.escape("[^\n]*"), "[^\n]*"),
@@ -253,9 +229,7 @@ def test_the_about_window_and_the_help(reader):
     expect(reader, window, HELP)
     reader.key("Escape")
     reader.absent("frame", "Kestrel Reader Help")
-    reader.key("alt+h", "a")
-    about = reader.find("dialog", "Kestrel Reader (PT)")
-    reader.wait_for_focus(about, "push button", "OK")
+    about = reader.open_about()
     expect(reader, about, ABOUT)
     for button, title in (("DonationWare", "Your support is needed!"), ("QORV CD-ROM Offer", "QORV CD-ROM Offer")):
         reader.act(button, about)
@@ -274,7 +248,7 @@ ITEMS = {"File": ["Select Verse for Reading", "Launch Notepad", "Exit"], "Edit":
 
 
 def test_menus_are_named_by_their_captions(reader):
-    open_verse(reader, "2Jn:1:1")
+    reader.look_up("2Jn:1:1")
     bar = reader.find("menu bar")
     assert [menu.name for menu in bar] == list(ITEMS)
     for menu in bar:
@@ -315,7 +289,7 @@ def told(reader, desktop):
 
 
 def test_a_step_tells_the_new_verse(reader, told, verses):
-    open_verse(reader, "2Jn:1:1")
+    reader.look_up("2Jn:1:1")
     told(("focus", "push button", "Next Verse"))
     reader.key("F12")
     told(("name", "frame", "Reading Window -- 2Jn:1:2"), ("name", "label", "2Jn:1:2"),
@@ -323,18 +297,18 @@ def test_a_step_tells_the_new_verse(reader, told, verses):
 
 
 def test_another_window_tells_where_its_focus_is(reader, told):
-    open_search(reader)
+    reader.open_search()
     told(("focus", "text", "Search for verses containing the following text:"))
     reader.key("F2")
     told(("focus", "combo box", "Mt"))
     reader.key("ctrl+Tab")
     told(("focus", "text", "Search for verses containing the following text:"))
-    open_aids(reader)
+    reader.open_aids()
     told(("focus", "page tab list", "Classified Verses"))
 
 
 def test_a_search_tells_its_message_and_then_the_results(reader, told, desktop):
-    window = open_search(reader)
+    window = reader.open_search()
     desktop.type("Jesus")
     told(("focus", "text", "Search for verses containing the following text:"))
     reader.key("Return")
@@ -349,10 +323,9 @@ def test_a_search_tells_its_message_and_then_the_results(reader, told, desktop):
 
 
 def test_a_new_map_and_a_new_chapter_are_told_by_their_frames(reader, told):
-    open_verse(reader, "2Jn:1:1")
-    reader.key("F9")
+    reader.look_up("2Jn:1:1")
+    reader.open_chapter("2Jn:1:")
     told(("name", "frame", "Chapter Window -- 2Jn:1:"), ("focus", "text", "Chapter text"))
-    reader.key("F2")
-    open_aids(reader)
-    reader.key("alt+m", "Tab", "Return")
+    reader.open_selection()
+    reader.open_map()
     told(("name", "frame", f"Map -- {PLACE}"), ("focus", "push button", "Zoom In/Restore Normal Size"))

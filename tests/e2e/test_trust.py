@@ -37,13 +37,6 @@ def first_result(reader, desktop, key):
     reader.find("frame", f"Reading Window -- {key}")
 
 
-def open_map(reader, desktop):
-    desktop.key("F8")
-    window = reader.find("frame", "Study Aids")
-    reader.click(reader.find("page tab", starts="Maps", within=window))
-    reader.click(reader.find("list item", within=reader.find("list", "Maps", window)))
-
-
 # --- It writes nothing ---
 
 WRITING = re.compile(r"O_WRONLY|O_RDWR|O_CREAT|O_TRUNC|O_TMPFILE")
@@ -82,12 +75,10 @@ def test_it_writes_no_file_from_start_to_end(start, desktop, wrapped, tmp_path):
     # -D: the program keeps the process it was started as, and the tracer watches from the side
     reader = start(wrapped("strace", "-D", "-f", "-qq", "-s", "4096", "-o", log, "-e", "trace=%file,ftruncate"))
     frame(reader)
-    reader.look_up(VERSE, VERSE)
-    desktop.key("F9")
-    reader.find("frame", "Chapter Window -- Mt:24:")
+    reader.look_up(VERSE)
+    reader.open_chapter("Mt:24:")
     assert reader.search("IGREJA") == IGREJA
-    open_map(reader, desktop)
-    reader.find("frame", starts="Map -- Abraham's Journeys")
+    reader.open_map()
     desktop.key("F1")
     desktop.wait_for_window("Help")
     desktop.run("xdotool", "search", "--onlyvisible", "--name", "^Kestrel Reader: Portuguese", "windowactivate", "--sync")
@@ -158,7 +149,7 @@ def test_a_folder_that_cannot_be_written_serves_another_user(locked, start, desk
 
 
 @pytest.mark.parametrize("font", ["LiberationSerif-Regular.ttf", None])
-def test_it_starts_with_one_font_and_with_none(start, desktop, installed, tmp_path, font):
+def test_it_starts_with_one_font_and_with_none(start, installed, tmp_path, font):
     fonts = tmp_path / "fonts"
     fonts.mkdir()
     if font:
@@ -167,13 +158,13 @@ def test_it_starts_with_one_font_and_with_none(start, desktop, installed, tmp_pa
     config.write_text(f"<fontconfig><dir>{fonts}</dir><cachedir>{tmp_path}/cache</cachedir></fontconfig>")
     reader = start(installed, FONTCONFIG_FILE=str(config))
     frame(reader)
-    reader.look_up(VERSE, VERSE)
+    reader.look_up(VERSE)
 
 
 # --- Files that change under it ---
 
 @pytest.mark.parametrize("damage", ["noise", "pictures"])
-def test_a_damaged_clip_does_not_stop_a_search(start, desktop, copy, damage):
+def test_a_damaged_clip_does_not_stop_a_search(start, copy, damage):
     clip = copy / "SEARCH.AVI"
     bytes_ = bytearray(clip.read_bytes())
     if damage == "noise":
@@ -188,15 +179,14 @@ def test_a_damaged_clip_does_not_stop_a_search(start, desktop, copy, damage):
     assert reader.search("IGREJA") == IGREJA
 
 
-def test_files_removed_after_the_start_are_not_missed(start, desktop, copy):
+def test_files_removed_after_the_start_are_not_missed(start, copy):
     reader = start(copy)
     frame(reader)
     for name in ("KESTRPT.DAT", "SEARCH.AVI"):
         (copy / name).unlink()
-    reader.look_up(VERSE, VERSE)
+    reader.look_up(VERSE)
     assert reader.search("IGREJA") == IGREJA
-    open_map(reader, desktop)
-    reader.find("frame", starts="Map -- Abraham's Journeys")
+    reader.open_map()
     reader.look_up("Rv", "Rv:1:1")
 
 

@@ -77,6 +77,16 @@ protected:
         return captions;
     }
 
+    /// What a menu shows: its items as "name|caption|shortcut".
+    static QStringList itemsOf(const QMenu& menu)
+    {
+        QStringList items;
+        for (const QAction* item : menu.actions())
+            items << item->objectName() + "|" + (item->isSeparator() ? "-" : item->text()) + "|" +
+                         item->shortcut().toString();
+        return items;
+    }
+
     /// An item of the menu bar as it is now, by its name.
     QAction* menuItem(const QString& name)
     {

@@ -90,6 +90,12 @@ TEST(Fonts, NamesTheFacesAndShowsTheirSubstitutes)
     EXPECT_TRUE(QFont::substitutes("Times New Roman").contains("Liberation Serif", Qt::CaseInsensitive));
 }
 
+TEST(Fonts, LeavesCaptionsAsTheyAreInTheFontTheyAreDesignedFor)
+{
+    for (const int points : {7, 9, 10})
+        EXPECT_EQ(Fonts::captionsOf(points).stretch(), QFont::AnyStretch) << points;
+}
+
 TEST(TypeSize, GoesFromTwentyFourToTwelveElseSixUp)
 {
     EXPECT_EQ(nextTypeSize(Fonts::tahomaOf(12)).pointSize(), 18);

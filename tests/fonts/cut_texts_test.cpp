@@ -1,0 +1,147 @@
+// Whether every text of every window has room, in the fonts that the system has: there may be only one.
+#include "app/AboutTexts.h"
+#include "app/Help.h"
+#include "app/HelpWindow.h"
+#include "maps/ChildMapDsp.h"
+#include "maps/ChildMapSel.h"
+#include "maps/ChoiceList.h"
+#include "maps/TabStrip.h"
+#include "search/frmAdvSearch.h"
+#include "search/ResultsList.h"
+#include "select/ChildSelect.h"
+#include "support/CutTexts.h"
+#include "support/OnceModal.h"
+#include "support/Session.h"
+#include "widgets/SoftBttn.h"
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QLineEdit>
+
+namespace {
+
+/// Looks at one window after another. KESTREL_ONE_FONT says which font there is where there is to be only
+/// one.
+class CutTexts : public Session
+{
+protected:
+    void SetUp() override
+    {
+        const QString one = qEnvironmentVariable("KESTREL_ONE_FONT");
+        QStringList fonts = QFontDatabase::families();
+        for (const char* any : {"Monospace", "Sans Serif", "Serif"}) // other names for whatever there is
+            fonts.removeOne(any);
+        if (!one.isEmpty()) {
+            ASSERT_EQ(fonts.join(", ").toStdString(), one.toStdString());
+        }
+        Session::SetUp();
+    }
+
+    static void expectNoneIn(const QWidget& window)
+    {
+        EXPECT_EQ(cutTexts(window), "") << "in " << QFontInfo(window.font()).family().toStdString();
+    }
+};
+
+TEST_F(CutTexts, AreNotInTheSelectionWindow)
+{
+    expectNoneIn(get<ChildSelect>());
+}
+
+TEST_F(CutTexts, AreNotInTheReadingWindow)
+{
+    ChildRead& window = frame().readingWindow();
+    window.activate();
+    for (const char* key : {"1Thes:5:28", "Ps:119:176", "2Chr:36:23"}) {
+        window.DataCtl.setRecordSource(std::string("SELECT * FROM NewTestament WHERE VerseId = '") + key +
+                                       "'");
+        window.DataCtl.refresh();
+        ASSERT_EQ(window.lblVerseId->text(), key);
+        expectNoneIn(window);
+    }
+}
+
+TEST_F(CutTexts, AreNotInTheSearchWindow)
+{
+    frame().openSearch();
+    auto& window = get<frmAdvSearch>();
+    expectNoneIn(window);
+    window.Text1->setText("Marta");
+    click(*window.cmdOK);
+    ASSERT_TRUE(window.List1->isVisible());
+    expectNoneIn(window);
+}
+
+TEST_F(CutTexts, AreNotInTheStudyAids)
+{
+    click(*frame().cmdTools);
+    auto& window = get<ChildMapSel>();
+    for (int group = 0; group < 4; ++group) {
+        window.optEvents[static_cast<std::size_t>(group)]->click();
+        expectNoneIn(window);
+    }
+    for (int page = 1; page < 3; ++page) {
+        window.TabStrip1->setCurrentIndex(page);
+        expectNoneIn(window);
+    }
+}
+
+TEST_F(CutTexts, AreNotInTheMapWindow)
+{
+    click(*frame().cmdTools);
+    auto& aids = get<ChildMapSel>();
+    aids.TabStrip1->setCurrentIndex(1);
+    aids.lstMaps->setCurrentRow(0);
+    QTest::keyClick(aids.lstMaps, Qt::Key_Return);
+    expectNoneIn(get<ChildMapDsp>());
+}
+
+TEST_F(CutTexts, AreNotInTheHelp)
+{
+    press(Qt::Key_F1);
+    settle();
+    HelpWindow* window = frame().help().window();
+    ASSERT_NE(window, nullptr);
+    expectNoneIn(*window);
+}
+
+TEST_F(CutTexts, AreNotInTheAboutWindow)
+{
+    bool used = false;
+    const auto looking = onceModal([&](QWidget& window) {
+        expectNoneIn(window);
+        used = true;
+        window.close();
+    });
+    click(*frame().cmdAbout);
+    EXPECT_TRUE(used);
+}
+
+TEST_F(CutTexts, AreNotInAMessage)
+{
+    bool used = false;
+    MsgBox::setBackEnd({});
+    const auto looking = onceModal([&](QWidget& window) {
+        expectNoneIn(window);
+        used = true;
+        window.close();
+    });
+    MsgBox::show(informationText(), MsgIcon::Information);
+    EXPECT_TRUE(used);
+}
+
+/// They scroll, and are to be read with ease.
+TEST_F(CutTexts, AreNotAvoidedInTheVersesByNarrowLetters)
+{
+    ChildRead& window = frame().readingWindow();
+    window.activate();
+    for (int face = 0; face < 3; ++face) {
+        const QFont& font = window.VerseText->font();
+        QFont natural(font.family(), font.pointSize());
+        natural.setStretch(QFont::AnyStretch);
+        EXPECT_EQ(QFontMetrics(font).horizontalAdvance("misericórdia"),
+                  QFontMetrics(natural).horizontalAdvance("misericórdia"));
+        click(*window.cmdFntFace);
+    }
+}
+
+} // namespace
