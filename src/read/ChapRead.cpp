@@ -70,10 +70,8 @@ void ChapRead::Form_Load()
 
 void ChapRead::Form_Resize()
 {
-    const int width = outerWidth() - 800;
-    const int height = outerHeight() - 520;
-    if (width < 0 || height < 0)
-        return;
+    const int width = possibleTwips(outerWidth() - 800, ChapText->width());
+    const int height = possibleTwips(outerHeight() - 520, ChapText->height());
     ChapText->resize(twips(width), twips(height));
     for (SoftBttn* button : {cmdFont, cmdFntFace, cmdChapCopy, cmdTip})
         button->move(twips(width + 150), button->y());

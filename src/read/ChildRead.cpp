@@ -122,10 +122,8 @@ void ChildRead::Form_Resize()
     else
         resumeTimer();
 
-    const int width = outerWidth() - 840;
-    const int height = outerHeight() - 1030;
-    if (width < 0 || height < 0)
-        return;
+    const int width = possibleTwips(outerWidth() - 840, VerseText->width());
+    const int height = possibleTwips(outerHeight() - 1030, VerseText->height());
     VerseText->resize(twips(width), twips(height));
     cmdPrev->move(twips(width - 1530), twips(height + 160));
     cmdNext->move(twips(width - 735), twips(height + 160));

@@ -67,10 +67,9 @@ void ChildSelect::Form_Activate()
 
 void ChildSelect::Form_Resize()
 {
-    const int width = twips(outerWidth() - 260);
-    const int height = twips(outerHeight() - toTwips(TreeView1->y()) - 460);
-    if (width >= 0 && height >= 0)
-        TreeView1->resize(width, height);
+    const int width = possibleTwips(outerWidth() - 260, TreeView1->width());
+    const int height = possibleTwips(outerHeight() - toTwips(TreeView1->y()) - 460, TreeView1->height());
+    TreeView1->resize(twips(width), twips(height));
 }
 
 bool ChildSelect::Form_KeyDown(QKeyEvent& event)

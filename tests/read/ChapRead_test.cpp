@@ -325,6 +325,18 @@ TEST_F(ChapterWindow, TheTextFollowsTheWindowAndTheButtonsStandBesideIt)
     EXPECT_EQ(window.ChapText->size(), QSize(747, 465));
 }
 
+TEST_F(ChapterWindow, ASizeThatCannotBeIsLeftOutAndTheRestOfTheLayoutApplied)
+{
+    ChapRead& window = openChapterOf("Mt:24:43");
+    outer(window).setMinimumSize(1, 1);
+    outer(window).resize(300, 30); // too low for any text: 4500 - 800 wide
+    EXPECT_EQ(window.ChapText->size(), QSize(247, 345));
+    EXPECT_EQ(window.cmdTip->x(), 257); // 3700 + 150
+    outer(window).resize(40, 300);      // too narrow: 4500 - 520 high
+    EXPECT_EQ(window.ChapText->size(), QSize(247, 265));
+    EXPECT_EQ(window.cmdTip->x(), 257);
+}
+
 TEST_F(ChapterWindow, HasItsMenusInOrder)
 {
     openChapterOf("Mt:24:43");

@@ -328,6 +328,32 @@ TEST_F(Reading, ATooSmallWindowLeavesTheLayoutAsItWas)
     EXPECT_EQ(window->VerseText->geometry(), before);
 }
 
+TEST_F(Reading, ASizeThatCannotBeIsLeftOutAndTheRestOfTheLayoutApplied)
+{
+    outer(*window).setMinimumSize(1, 1);
+    const QRect before = window->VerseText->geometry();
+    outer(*window).resize(300, 40); // too low for any text: 4500 - 840 wide
+    EXPECT_EQ(window->VerseText->size(), QSize(244, before.height()));
+    EXPECT_EQ(window->cmdNext->x(), 195); // 3660 - 735
+    EXPECT_EQ(window->cmdChap->x(), 255); // 3660 + 160
+    outer(*window).resize(40, 300);       // too narrow: 4500 - 1030 high
+    EXPECT_EQ(window->VerseText->size(), QSize(244, 231));
+    EXPECT_EQ(window->cmdNext->pos(), QPoint(195, 242)); // 3470 + 160
+}
+
+TEST_F(Reading, TheLayoutComesBackWithTheWindow)
+{
+    for (const QSize size : {QSize(504, 353), QSize(800, 500)}) {
+        outer(*window).resize(size);
+        const QRect text = window->VerseText->geometry();
+        const QPoint button = window->cmdNext->pos();
+        window->setState(Form::Minimized);
+        window->setState(Form::Normal);
+        EXPECT_EQ(window->VerseText->geometry(), text);
+        EXPECT_EQ(window->cmdNext->pos(), button);
+    }
+}
+
 TEST_F(Reading, NothingIsCutOffAtTheDesignedSize)
 {
     for (const char* key : {"Mt:1:1", "1Thes:5:28", "Ps:119:176"}) {

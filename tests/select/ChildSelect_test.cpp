@@ -384,8 +384,26 @@ TEST_F(Selection, ShrinkingBelow260TwipsLeavesTheTreeAsItWas)
 {
     const QSize before = window->TreeView1->size();
     outer(*window).setMinimumSize(1, 1);
-    outer(*window).resize(15, 300);
-    EXPECT_EQ(window->TreeView1->width(), before.width());
+    outer(*window).resize(15, outer(*window).height());
+    EXPECT_EQ(window->TreeView1->size(), before);
+}
+
+TEST_F(Selection, ASizeThatCannotBeIsLeftOutAndTheOtherApplied)
+{
+    const QSize before = window->TreeView1->size();
+    outer(*window).setMinimumSize(1, 1);
+    outer(*window).resize(15, 400); // 6000 - 555 - 460 high
+    EXPECT_EQ(window->TreeView1->size(), QSize(before.width(), 332));
+    outer(*window).resize(600, 40); // 9000 - 260 wide
+    EXPECT_EQ(window->TreeView1->size(), QSize(583, 332));
+}
+
+TEST_F(Selection, TheTreeComesBackWithTheWindow)
+{
+    const QSize before = window->TreeView1->size();
+    window->setState(Form::Minimized);
+    window->setState(Form::Normal);
+    EXPECT_EQ(window->TreeView1->size(), before);
 }
 
 TEST_F(Selection, TheExamplesAreShown)
