@@ -101,6 +101,11 @@ TEST_F(Reading, HasEditAndViewMenusAndAToolsItemWithoutAccessKey)
     EXPECT_EQ(menuItem("mnuNext")->shortcut(), QKeySequence("F12"));
     EXPECT_EQ(menuItem("mnuTools")->text(), "Study Aids");
     EXPECT_TRUE(menuItem("mnuTools")->shortcut().isEmpty());
+    QStringList view;
+    for (const QAction* item : frame().menuBar()->actions()[2]->menu()->actions())
+        view << item->objectName();
+    EXPECT_EQ(view, QStringList({"mnuChap", "mnuSep2", "mnuPrev", "mnuNext"}));
+    EXPECT_TRUE(menuItem("mnuSep2")->isSeparator());
 }
 
 TEST_F(Reading, NextOnTheLastVerseShowsTheFirst)
@@ -184,8 +189,12 @@ TEST_F(Reading, AutoJumpStepsAtEachTickAndStartsTheIntervalAnew)
     EXPECT_TRUE(window->Timer1->isActive());
     QTest::qWait(50);
     EXPECT_LT(window->Timer1->remainingTime(), 2990);
-    press(Qt::Key_F12); // a step by hand starts the interval anew, too
-    EXPECT_GT(window->Timer1->remainingTime(), 2980);
+    for (const Qt::Key step : {Qt::Key_F12, Qt::Key_F11}) { // a step by hand starts the interval anew, too
+        QTest::qWait(50);
+        press(step);
+        EXPECT_TRUE(window->Timer1->isActive());
+        EXPECT_GT(window->Timer1->remainingTime(), 2980);
+    }
     window->Timer1->setInterval(20);
     EXPECT_TRUE(QTest::qWaitFor([&] { return key() == "Mt:1:4"; }, 2000));
     EXPECT_TRUE(window->Timer1->isActive());
@@ -305,6 +314,12 @@ TEST_F(Reading, HandOverToTheMinimisedWindowRestoresAndFocusesIt)
 TEST_F(Reading, KeepsTheLayoutRuleAtEverySize)
 {
     const auto pixels = [](int count) { return qRound(count / 15.0); };
+    const auto designed = [this] {
+        return QList<int>({window->cmdFont->y(), window->cmdFntFace->y(), window->cmdCopy->y(),
+                           window->cmdChap->y(), window->chkAuto->x(), window->cboSeconds->x(),
+                           window->Label2->x()});
+    };
+    const QList<int> before = designed();
     for (const QSize size : {QSize(504, 353), QSize(800, 500), QSize(400, 300)}) {
         outer(*window).resize(size);
         const int width = size.width() * 15 - 840;
@@ -317,6 +332,7 @@ TEST_F(Reading, KeepsTheLayoutRuleAtEverySize)
         EXPECT_EQ(window->chkAuto->y(), pixels(height + 280));
         EXPECT_EQ(window->cboSeconds->y(), pixels(height + 235));
         EXPECT_EQ(window->Label2->y(), pixels(height + 295));
+        EXPECT_EQ(designed(), before);
     }
 }
 
