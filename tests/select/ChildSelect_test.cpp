@@ -232,6 +232,16 @@ TEST_F(Selection, TheVerseAlreadyShownRunsNoQuery)
     EXPECT_EQ(queries, 1);
 }
 
+TEST_F(Selection, TheReferenceWithAColonAfterItCountsAsShownToo)
+{
+    ChildRead& reading = frame().readingWindow();
+    reading.lblVerseId->setText("Gn:1:");
+    reading.DataCtl.setRecordSource("untouched");
+    lookUp("Gn:1");
+    EXPECT_EQ(reading.DataCtl.recordSource(), "untouched");
+    EXPECT_EQ(activeForm(), &reading);
+}
+
 TEST_F(Selection, LowerCaseFindsTheVerse)
 {
     EXPECT_EQ(lookUp("mt:24:43"), "Mt:24:43");
@@ -261,11 +271,34 @@ TEST_F(Selection, AnUnknownReferenceSaysSoAndShowsTheVerseBeforeAgain)
               "SELECT * FROM NewTestament WHERE VerseNumber = " + serial);
 }
 
+TEST_F(Selection, TheHourglassShowsWhileAVerseIsLookedUp)
+{
+    lookUp("Mt:5");
+    Qt::CursorShape pointer = Qt::ArrowCursor;
+    get<ChildRead>().DataCtl.currentRowChanged = [&] {
+        if (const QCursor* shown = QApplication::overrideCursor())
+            pointer = shown->shape();
+    };
+    lookUp("Mt:6");
+    EXPECT_EQ(pointer, Qt::WaitCursor);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
 TEST_F(Selection, ABadReferenceWithTheReadingWindowClosedOpensItOnTheFirstVerse)
 {
     EXPECT_EQ(open<ChildRead>(), nullptr);
     EXPECT_EQ(lookUp("Xy"), "Mt:1:1");
     EXPECT_EQ(boxes.shown.size(), 1);
+}
+
+TEST_F(Selection, ABadReferenceWhileNoVerseIsShownShowsTheFirst)
+{
+    ChildRead& reading = frame().readingWindow();
+    reading.DataCtl.setRecordSource("SELECT * FROM NewTestament WHERE VerseNumber = 0");
+    reading.DataCtl.refresh();
+    ASSERT_EQ(reading.lblSerial->text(), "");
+    EXPECT_EQ(lookUp("Xy"), "Mt:1:1");
+    EXPECT_EQ(reading.DataCtl.recordSource(), "SELECT * FROM NewTestament WHERE VerseNumber = 1");
 }
 
 TEST_F(Selection, TextAfterACompleteKeyIsNotIgnored)
