@@ -231,6 +231,22 @@ TEST_F(SearchWindow, SearchesAndShowsTheResults)
     EXPECT_EQ(list().selected(), -1);
 }
 
+TEST_F(SearchWindow, ShowsTheHourglassAndItsClipOverAnEmptyListWhileItSearches)
+{
+    search("amor");
+    newSearch();
+    QStringList atQuery;
+    window().Data1.currentRowChanged = [&] {
+        if (!atQuery.isEmpty())
+            return;
+        const QCursor* pointer = QApplication::overrideCursor();
+        atQuery << (pointer && pointer->shape() == Qt::WaitCursor ? "hourglass" : "default")
+                << (window().Animation1->isVisible() ? "clip" : "no clip") << QString::number(list().count());
+    };
+    search("ódio");
+    EXPECT_EQ(atQuery, QStringList({"hourglass", "clip", "0"}));
+}
+
 TEST_F(SearchWindow, TurnsIntoResultsModeAndBack)
 {
     const QColor face = window().palette().color(QPalette::Button);
@@ -343,6 +359,15 @@ TEST_F(SearchWindow, RepeatsTheResultsWithoutAQuery)
     EXPECT_EQ(lines(), before);
     EXPECT_TRUE(isInResultsMode());
     EXPECT_TRUE(list().hasFocus());
+}
+
+TEST_F(SearchWindow, KnowsARepeatByWhatWasTypedNotByWhatWasSearched)
+{
+    search("d'água", 4, "d'ouro", 2, true);
+    newSearch();
+    window().Data1.setRecordSource("untouched");
+    search("d'água", 4, "d'ouro", 2, true);
+    EXPECT_EQ(sql(), "untouched");
 }
 
 TEST_F(SearchWindow, RunsAnewWhenAnInputChanged)
