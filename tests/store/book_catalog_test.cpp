@@ -26,6 +26,80 @@ TEST(BookCatalog, holds66BooksOldTestamentFirst)
     }
 }
 
+TEST(BookCatalog, givesEveryBookItsNameAndAbbreviation)
+{
+    const std::vector<std::string> expected = {"Gênesis -- Gn",
+                                               "Êxodo -- Ex",
+                                               "Levítico -- Lv",
+                                               "Números -- Nm",
+                                               "Deuteronômio -- Dt",
+                                               "Josué -- Jos",
+                                               "Juízes -- Jgs",
+                                               "Rute -- Ru",
+                                               "1 Samuel -- 1Sm",
+                                               "2 Samuel -- 2Sm",
+                                               "1 Reis -- 1Kgs",
+                                               "2 Reis -- 2Kgs",
+                                               "1 Crônicas -- 1Chr",
+                                               "2 Crônicas -- 2Chr",
+                                               "Esdras -- Ezr",
+                                               "Neemias -- Neh",
+                                               "Ester -- Est",
+                                               "Jó -- Jb",
+                                               "Salmos -- Ps",
+                                               "Provérbios -- Prv",
+                                               "Eclesiastes -- Eccl",
+                                               "Cantares -- Sg",
+                                               "Isaías -- Is",
+                                               "Jeremias -- Jer",
+                                               "Lamentações -- Lam",
+                                               "Ezequiel -- Ez",
+                                               "Daniel -- Dn",
+                                               "Oséias -- Hos",
+                                               "Joel -- Jl",
+                                               "Amós -- Am",
+                                               "Obadias -- Ob",
+                                               "Jonas -- Jon",
+                                               "Miquéias -- Mi",
+                                               "Naum -- Na",
+                                               "Habacuque -- Hb",
+                                               "Sofonias -- Zep",
+                                               "Ageu -- Hg",
+                                               "Zacarias -- Zec",
+                                               "Malaquias -- Mal",
+                                               "Mateus -- Mt",
+                                               "Marcos -- Mk",
+                                               "Lucas -- Lk",
+                                               "João -- Jn",
+                                               "Atos -- Acts",
+                                               "Romanos -- Rom",
+                                               "1 Coríntios -- 1Cor",
+                                               "2 Coríntios -- 2Cor",
+                                               "Gálatas -- Gal",
+                                               "Efésios -- Eph",
+                                               "Filipenses -- Phil",
+                                               "Colossences -- Col",
+                                               "1 Tessalonicenses -- 1Thes",
+                                               "2 Tessalonicenses -- 2Thes",
+                                               "1 Timóteo -- 1Tm",
+                                               "2 Timóteo -- 2Tm",
+                                               "Tito -- Ti",
+                                               "Filemom -- Phlm",
+                                               "Hebreus -- Heb",
+                                               "Tiago -- Jms",
+                                               "1 Pedro -- 1Pt",
+                                               "2 Pedro -- 2Pt",
+                                               "1 João -- 1Jn",
+                                               "2 João -- 2Jn",
+                                               "3 João -- 3Jn",
+                                               "Judas -- Jude",
+                                               "Apocalipse -- Rv"};
+    std::vector<std::string> texts;
+    for (const Book& book : bookCatalog())
+        texts.push_back(book.treeText());
+    EXPECT_EQ(texts, expected);
+}
+
 TEST(BookCatalog, countsItsGroups)
 {
     std::map<std::string_view, int> counts;
