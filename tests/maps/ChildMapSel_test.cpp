@@ -138,6 +138,19 @@ TEST_F(ChildMapSelTest, GroupFillsTheTopicsAndTheFirstOnesReferences)
     }
 }
 
+TEST_F(ChildMapSelTest, GroupIsAskedForByItsTypeAndItsFirstTopicByName)
+{
+    QStringList asked;
+    aids->Data1.currentRowChanged = [&] {
+        if (const auto sql = QString::fromStdString(aids->Data1.recordSource()); !asked.contains(sql))
+            asked += sql;
+    };
+    QTest::mouseClick(aids->optEvents[1], Qt::LeftButton, {}, {8, 8});
+    EXPECT_EQ(asked, QStringList({"SELECT * FROM ClassifiedVerses WHERE Type = 'Miracles'",
+                                  "SELECT * FROM ClassifiedVerses WHERE Name = '" +
+                                      topicsOf("miracles").first().name + "'"}));
+}
+
 TEST_F(ChildMapSelTest, GroupIsChosenByAccessKeyAndArrowToo)
 {
     QTest::keyClick(aids, Qt::Key_E, Qt::AltModifier);
