@@ -208,6 +208,12 @@ TEST_F(About, ShowsItsControlsWhereTheLayoutPutsThem)
             EXPECT_EQ(row[i]->geometry().right() + 1, right);
             right = row[i]->x();
         }
+        const int top = image.bottom() + 1;
+        for (const SoftBttn* button : row)
+            EXPECT_EQ(button->y(), top + 7); // 110 twips
+        EXPECT_NEAR(window.Image2->y(), top + (110 + 235) / 15.0, 1);
+        EXPECT_NEAR(window.cmdMail->y(), top + (110 + 285) / 15.0, 1);
+        EXPECT_GT(window.cmdMail->y(), window.Image2->y());
         EXPECT_TRUE(window.cmdMail->isVisible() && window.cmdMail->isEnabled());
         EXPECT_TRUE(window.Image2->isVisible() && window.Image2->isEnabled());
         EXPECT_EQ(window.cmdMail->text(), "E-mail: " + Maker::mail);

@@ -40,6 +40,9 @@ TEST_F(Frame, HasFiveToolbarButtonsInOrder)
     const QStringList names = {"cmdSelect", "cmdNote", "cmdSearch", "cmdTools", "cmdAbout"};
     const QStringList tips = {"Select Verse to read", "Notepad", "Search", "Study Aids",
                               "About/QORV CD-ROM Offer"};
+    EXPECT_EQ(frame().picToolbar->objectName(), "picToolbar");
+    EXPECT_EQ(frame().picToolbar->mapTo(&frame(), QPoint()), QPoint(0, frame().menuBar()->height()));
+    EXPECT_EQ(frame().picToolbar->width(), frame().width());
     int left = 2; // 30 twips
     for (int i = 0; i < buttons.size(); ++i) {
         EXPECT_EQ(buttons[i]->objectName(), names[i]);
@@ -136,11 +139,21 @@ TEST_F(Frame, ReopeningAnOpenWindowKeepsItsContents)
     EXPECT_EQ(get<ChildSelect>().Combo1->currentText(), "Rv:1");
 }
 
-TEST_F(Frame, TheToolbarButtonDoesWhatItsMenuItemDoes)
+TEST_F(Frame, AToolbarButtonItsMenuItemAndItsKeyDoTheSame)
 {
-    frame().readingWindow().activate();
-    click(*frame().cmdSelect);
-    EXPECT_EQ(activeForm(), open<ChildSelect>());
+    const auto expectEachToOpen = [this](const char* window, SoftBttn* button, const char* item,
+                                         Qt::Key key) {
+        const QList<std::function<void()>> uses = {[&] { click(*button); }, [&] { choose(item); },
+                                                   [&] { press(key); }};
+        for (const auto& use : uses) {
+            frame().mapWindow().activate(); // which is none of theirs
+            use();
+            EXPECT_EQ(activeForm()->objectName(), window) << item;
+        }
+    };
+    expectEachToOpen("ChildSelect", frame().cmdSelect, "mnuSelect", Qt::Key_F2);
+    expectEachToOpen("frmAdvSearch", frame().cmdSearch, "mnuSearch", Qt::Key_F3);
+    expectEachToOpen("ChildMapSel", frame().cmdTools, "mnuTools", Qt::Key_F8);
 }
 
 TEST_F(Frame, ExitInAChildEndsTheProgramWithoutAskingTheChildren)

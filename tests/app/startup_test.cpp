@@ -111,6 +111,18 @@ TEST_F(StartUp, RefusesADatabaseOneSecondOff)
     EXPECT_EQ(boxes.shown[0].title, "Kestrel Reader: Portuguese Version");
 }
 
+TEST_F(StartUp, ShowsNoFrameBehindAMessageThatStandsForLong)
+{
+    QFile::remove(path("SEARCH.AVI"));
+    Program program(folder.path());
+    boxes.whileShown = [&] {
+        QTest::qWait(2200);
+        EXPECT_EQ(program.frame(), nullptr);
+    };
+    EXPECT_FALSE(program.start());
+    EXPECT_EQ(boxes.shown.size(), 1);
+}
+
 TEST_F(StartUp, LooksAtTheTimeToTheSecondOnly)
 {
     setTime(databaseTime.addMSecs(999));
