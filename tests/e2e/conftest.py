@@ -43,8 +43,8 @@ def start(desktop):
     """Starts programs; at the end of the test none is left, and none has written to standard error."""
     readers = []
 
-    def start_one(folder, **environment):
-        readers.append(Reader(desktop, folder, **environment))
+    def start_one(folder, **how):
+        readers.append(Reader(desktop, folder, **how))
         return readers[-1]
 
     yield start_one

@@ -28,10 +28,10 @@ def install(source, target, stamp=STAMP):
 class Reader:
     """A running program. Every search waits until its object is there, or fails naming it."""
 
-    def __init__(self, desktop, folder, **environment):
+    def __init__(self, desktop, folder, arguments=(), **environment):
         self.desktop = desktop
         self.started = time.monotonic()
-        self.process = subprocess.Popen([str(pathlib.Path(folder) / "kestrel-reader")], cwd="/",
+        self.process = subprocess.Popen([str(pathlib.Path(folder) / "kestrel-reader"), *arguments], cwd="/",
                                         env={**desktop.environment, **environment}, stdin=subprocess.DEVNULL,
                                         stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
 

@@ -34,6 +34,11 @@ def test_escape_on_the_splash_ends_the_program(start, copy, desktop):
     assert program.wait(1.5) == 0
 
 
+def test_arguments_are_not_looked_at(start, copy):
+    reader = start(copy, arguments=["-platform", "offscreen", "-style", "windows", "--version", "Jn:3:16"])
+    assert reader.find("frame", "Select Verse for Reading")
+
+
 def test_without_the_clip(start, copy, desktop):
     (copy / "SEARCH.AVI").unlink()
     assert refusal(start, desktop, copy) == "Couldn't find file 'SEARCH.AVI'. Please run Setup."
