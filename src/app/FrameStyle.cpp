@@ -153,8 +153,10 @@ void FrameStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 template <class Option>
 Option FrameStyle::withKnownPalette(Option option) const
 {
+    const auto group = option.palette.currentColorGroup(); // enabled and disabled palettes count as equal
     const auto known = std::find(m_palettes.cbegin(), m_palettes.cend(), option.palette);
     option.palette = known != m_palettes.cend() ? *known : m_palettes.emplaceBack(option.palette);
+    option.palette.setCurrentColorGroup(group);
     return option;
 }
 

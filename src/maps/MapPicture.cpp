@@ -87,8 +87,10 @@ void MapPicture::scalePixmap()
         return;
     }
     const qreal ratio = devicePixelRatioF();
-    QPixmap pixmap =
-        QPixmap::fromImage(m_image.scaled(size() * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    // A picture with a palette would be pressed into another palette again, its plain areas into dots.
+    const QImage inAllColours = m_image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QPixmap pixmap = QPixmap::fromImage(
+        inAllColours.scaled(size() * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     pixmap.setDevicePixelRatio(ratio);
     setPixmap(pixmap);
 }

@@ -5,6 +5,8 @@
 #include <QCommonStyle>
 #include <QImage>
 #include <QPainter>
+#include <QPixmapCache>
+#include <QProxyStyle>
 #include <QSet>
 #include <QStyleOption>
 
@@ -126,4 +128,28 @@ TEST(Palettes, ThatSayTheSameShareOneIdentityInComboBoxesAndScrollBars)
     draw(QStyle::CC_ComboBox, QStyleOptionComboBox(), dark());
     draw(QStyle::CC_ScrollBar, QStyleOptionSlider(), light());
     EXPECT_EQ(recorder->keys.size(), 2);
+}
+
+TEST(ComboBoxes, LookAsInTheBaseStyleWhetherEnabledOrNot)
+{
+    const auto drawn = [](QStyle& style, QPalette palette, bool enabled) {
+        palette.setCurrentColorGroup(enabled ? QPalette::Active : QPalette::Disabled);
+        QStyleOptionComboBox combo;
+        combo.palette = palette;
+        combo.rect = QRect(0, 0, 80, 24);
+        combo.state = enabled ? QStyle::State_Enabled | QStyle::State_Active : QStyle::State_Active;
+        QImage image(combo.rect.size(), QImage::Format_RGB32);
+        image.fill(palette.color(QPalette::Window));
+        QPainter painter(&image);
+        QPixmapCache::clear(); // both styles would share its pictures
+        style.drawComplexControl(QStyle::CC_ComboBox, &combo, &painter, nullptr);
+        return image;
+    };
+    FrameStyle style;
+    QProxyStyle base("Fusion");
+    for (const QPalette& palette : {light(), dark()}) {
+        EXPECT_EQ(drawn(style, palette, true), drawn(base, palette, true));
+        EXPECT_EQ(drawn(style, palette, false), drawn(base, palette, false));
+        EXPECT_NE(drawn(style, palette, false), drawn(style, palette, true));
+    }
 }

@@ -116,4 +116,5 @@ class Desktop:
         return result.stdout
 
     def screenshot(self, path):
-        self.run("import", "-window", "root", str(path))
+        # Packed lightly: on a busy machine packing a map tightly takes longer than run() waits.
+        self.run("import", "-window", "root", "-define", "png:compression-level=1", str(path))

@@ -1,5 +1,6 @@
 #include "maps/MapPicture.h"
 
+#include "widgets/Twips.h"
 #include <gtest/gtest.h>
 #include <QAccessible>
 #include <QBuffer>
@@ -103,6 +104,29 @@ TEST_F(MapPictureTest, PaintsFinelyWhatIsScaledDown)
     const QImage shown = picture.grab().toImage();
     ASSERT_EQ(shown.size(), QSize(200, 150) * shown.devicePixelRatio());
     EXPECT_NEAR(qGray(shown.pixel(shown.rect().center())), 127, 3);
+}
+
+// Maps are large and have a palette of few colours, of which scaling mixes more than a palette holds.
+TEST_F(MapPictureTest, ShowsAColourOfAPaletteAsItIs)
+{
+    constexpr int side = 1100;
+    const QColor sea(207, 223, 231);
+    QImage image(side, side, QImage::Format_Indexed8);
+    QList<QRgb> colours{sea.rgb()};
+    for (int i = 1; i < 240; ++i)
+        colours += qRgb(i, 255 - i, i * 37 % 256);
+    image.setColorTable(colours);
+    for (int y = 0; y < side; ++y)
+        for (int x = 0; x < side; ++x)
+            image.setPixel(x, y, x < side / 2 ? 0 : 1 + (x * x * 31 + y * y * 17 + x * y) % 239);
+    picture.setStretch(true);
+    picture.setImage(image);
+    for (const int shown : {side / 2, side * 6 / 5}) {
+        picture.setExtent(QSizeF(toTwips(shown), toTwips(shown)));
+        const QImage drawn = picture.pixmap().toImage();
+        for (int x = 0; x < shown / 2 - 2; ++x)
+            ASSERT_EQ(drawn.pixelColor(x, shown / 2), sea) << "at " << x << " of " << shown;
+    }
 }
 
 TEST_F(MapPictureTest, TellsAScreenReaderThatItIsAPicture)

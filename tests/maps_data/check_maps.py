@@ -17,6 +17,7 @@ LANDSCAPE, PORTRAIT = (1000, 780), (700, 800)  # largest natural sizes
 SHARPNESS = 1.5  # stored pixels to one of the natural size, at least
 LONGEST_DESCRIPTION = 160
 TOUCH = 0.6  # points that two names may share: rims of letters, not ink
+MARGIN = 2.0  # points between a name and the frame around it, at least
 
 
 def png_size(path):
@@ -79,7 +80,7 @@ def check_description(number, text, name):
 
 
 def check_names(folder):
-    """Names that overlap, or that the frame cuts, in labels.json."""
+    """Names that overlap, or that the frame cuts or touches, in labels.json."""
     faults = []
     sheets = json.loads((folder / "labels.json").read_text(encoding="utf-8"))
     if len(sheets) != len(NAMES):
@@ -88,7 +89,7 @@ def check_names(folder):
         covers = [panel["rect"] for panel in drawn["panels"][1:]] + [drawn["box"]["rect"]]
         for index, panel in enumerate([*drawn["panels"], drawn["box"]]):
             names = panel["names"]
-            faults += [f"{sheet}: \"{one['text']}\" is cut by the frame" for one in names
+            faults += [f"{sheet}: \"{one['text']}\" is too near the frame" for one in names
                        if not all(_within(quad, panel["rect"]) for quad in one["quads"])]
             faults += [f"{sheet}: \"{one['text']}\" and \"{other['text']}\" overlap"
                        for one, other in combinations(names, 2) if _touch(one["quads"], other["quads"])]
@@ -105,7 +106,7 @@ def _corners(rect):
 
 def _within(quad, rect):
     left, top, right, bottom = rect
-    return all(left <= x <= right and top <= y <= bottom for x, y in quad)
+    return all(left + MARGIN <= x <= right - MARGIN and top + MARGIN <= y <= bottom - MARGIN for x, y in quad)
 
 
 def _touch(quads, others):

@@ -118,12 +118,17 @@ def test_overlapping_names_are_found(copy):
     assert any("overlap" in fault for fault in check_maps.check_names(copy))
 
 
-def test_cut_name_is_found(copy):
+@pytest.mark.parametrize("gap", [-5, 1])  # cut by the frame; so near that it seems to touch it
+def test_name_too_near_the_frame_is_found(copy, gap):
     def change(sheets):
-        names = sheets["map08"]["panels"][0]["names"]
-        names[0]["quads"] = [[[0, 5], [40, 5], [40, 15], [0, 15]]]
+        panel = sheets["map08"]["panels"][0]
+        _, top, right, _ = panel["rect"]
+        name = panel["names"][0]
+        name["text"] = "Name"
+        x0, x1, y0, y1 = right - gap - 40, right - gap, top + 50, top + 60
+        name["quads"] = [[[x0, y0], [x1, y0], [x1, y1], [x0, y1]]]
     change_names(copy, change)
-    assert any("is cut by the frame" in fault for fault in check_maps.check_names(copy))
+    assert 'map08: "Name" is too near the frame' in check_maps.check_names(copy)
 
 
 def test_covered_name_is_found(copy):
