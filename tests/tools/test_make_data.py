@@ -11,6 +11,9 @@ from zoneinfo import ZoneInfo
 import pytest
 from tools_support import SOURCE, run
 
+# Of the whole database, as one version of the engine writes it; new after every change of its data.
+DATABASE_SHA256 = "4d75d0d0e0a20a845ffe1b076e862f047148d1549e56d175548a1683901d2fbb"
+ENGINE = "3.40.1"
 CORRECTED_SHA256 = "977b2848297e2cca07927de47ebf0ea2ef69ac4b4527432151336dd400b0a3b9"
 
 
@@ -38,6 +41,12 @@ def test_it_makes_the_data_files_of_the_reference_text(make, tmp_path, reference
     listed = [line.split("\t") for line in text.decode().splitlines()]
     expected = [(f"{b}:{c}:{v}", " " + t) for b, c, v, t in listed[23145:] + listed[:23145]]
     assert rows == expected
+
+
+@pytest.mark.skipif(sqlite3.sqlite_version != ENGINE, reason=f"these are the bytes of {ENGINE}")
+def test_the_database_is_the_same_on_every_machine(make, tmp_path, reference):
+    make()
+    assert hashlib.sha256((tmp_path / "out/KESTRPT.DAT").read_bytes()).hexdigest() == DATABASE_SHA256
 
 
 def test_a_second_run_makes_nothing(make, tmp_path, reference):
