@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <exception>
 #include <QLoggingCategory>
+#include <QPixmapCache>
 
 namespace {
 
@@ -33,6 +34,8 @@ Application::Application(char* programName[])
     // A damaged picture is left out, or shown as far as it goes; what its decoder says serves nobody.
     QLoggingCategory::setFilterRules("qt.gui.imageio*=false");
     setStyle(new FrameStyle);
+    // The style keeps pictures of buttons, which every message makes anew. Ten megabytes serve nobody.
+    QPixmapCache::setCacheLimit(512); // kB
     Fonts::install();
     setFont(Fonts::captionsOf(9));
 }
