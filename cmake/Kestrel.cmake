@@ -11,6 +11,15 @@ if(CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
 endif()
 
+# How every test program runs: without a screen, and with what the sanitizers have to know. The runtime of clang 14 takes
+# a thread-local block at some addresses for one with a header of glibc 2.19 and ends while it looks for leaks, so that it
+# is told not to look at these blocks; what they hold counts as reachable all the same.
+set(KESTREL_TEST_ENVIRONMENT
+    QT_QPA_PLATFORM=offscreen
+    ASAN_OPTIONS=intercept_tls_get_addr=0
+    LSAN_OPTIONS=suppressions='${CMAKE_SOURCE_DIR}/tests/support/leaks.supp'
+    UBSAN_OPTIONS=print_stacktrace=1)
+
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
 # g++ 12 sees overlaps in joined strings where there are none.
 add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
@@ -52,8 +61,7 @@ function(kestrel_test name)
     target_compile_options(test_${name} PRIVATE -O0 -U_FORTIFY_SOURCE)
     target_link_libraries(test_${name} PRIVATE ${ARG_LINK} GTest::gmock $<IF:$<BOOL:${ARG_QT}>,qt_test_main,GTest::gtest_main>)
     add_test(NAME ${name} COMMAND test_${name})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions='${CMAKE_SOURCE_DIR}/tests/support/leaks.supp';UBSAN_OPTIONS=print_stacktrace=1")
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${KESTREL_TEST_ENVIRONMENT}")
 endfunction()
 
 # kestrel_script_test(NAME SCRIPT [argument...]): a script of tests/ that ends with 0 when all is well.
