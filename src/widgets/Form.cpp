@@ -38,8 +38,10 @@ Form::Form(Shell& shell, const QString& name)
     setObjectName(name);
     qApp->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        if (isAncestorOf(now))
-            m_lastFocus = now; // the area forgets it when another window becomes active
+        // The area forgets it when another window becomes active. While a window changes its state the
+        // toolkit hides it, which moves the focus on to the next control.
+        if (isAncestorOf(now) && now->isVisible())
+            m_lastFocus = now;
     });
 }
 
@@ -237,6 +239,9 @@ void Form::windowStateChanged(Qt::WindowStates oldState, Qt::WindowStates newSta
 {
     m_maximized = newState.testFlag(Qt::WindowMaximized);
     constexpr auto shape = Qt::WindowMinimized | Qt::WindowMaximized;
-    if ((oldState & shape) != (newState & shape))
-        Form_Resize();
+    if ((oldState & shape) == (newState & shape))
+        return;
+    if (m_lastFocus && isAncestorOf(window()->focusWidget()))
+        m_lastFocus->setFocus();
+    Form_Resize();
 }

@@ -314,3 +314,20 @@ TEST_F(ChildMapDspTest, ClosedWindowIsLoadedAfresh)
     ASSERT_FALSE(open<ChildMapDsp>());
     expectFitted(openMap(plainMap), {300, 200});
 }
+
+TEST_F(ChildMapDspTest, TheListOfMapsKeepsTheFocusWhileMapsAreMaximised)
+{
+    ChildMapSel& aids = openStudyAids();
+    choosePage(aids, 1);
+    aids.lstMaps->setFocus();
+    for (int row = 0; row < 3; ++row) {
+        aids.lstMaps->setCurrentRow(row);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        auto& map = get<ChildMapDsp>();
+        ASSERT_EQ(activeForm(), &map);
+        map.setState(Form::Maximized);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F8);
+        ASSERT_EQ(activeForm(), &aids);
+        EXPECT_EQ(QApplication::focusWidget(), aids.lstMaps) << "after map " << row + 1;
+    }
+}
