@@ -31,8 +31,9 @@ Application::Application(char* programName[])
     setApplicationName("kestrel-reader");
     setApplicationDisplayName(""); // captions are the windows' own
     setDesktopFileName("io.github.kestrelreader.KestrelReader");
-    // A damaged picture is left out, or shown as far as it goes; what its decoder says serves nobody.
-    QLoggingCategory::setFilterRules("qt.gui.imageio*=false");
+    // A damaged picture is left out, or shown as far as it goes; of a clipboard that another program takes at
+    // the same time tells a message. What the toolkit says of either serves nobody.
+    QLoggingCategory::setFilterRules("qt.gui.imageio*=false\nqt.qpa.clipboard=false");
     setStyle(new FrameStyle);
     // The style keeps pictures of buttons, which every message makes anew. Ten megabytes serve nobody.
     QPixmapCache::setCacheLimit(512); // kB
