@@ -1,6 +1,7 @@
 #include "widgets/MsgBox.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QMessageBox>
 
 namespace {
@@ -20,6 +21,18 @@ QMessageBox::Icon iconOf(MsgIcon icon)
     return QMessageBox::Information;
 }
 
+/// The desktop draws the title, in bold letters between a mark and three buttons, and cuts it where it is
+/// wider than the text below.
+void makeRoomForTitle(QMessageBox& box)
+{
+    QFont bold = box.font();
+    bold.setBold(true);
+    constexpr int beside = 4 * 28; // pixels
+    const int room = QFontMetrics(bold).horizontalAdvance(box.windowTitle()) + beside;
+    auto& layout = *qobject_cast<QGridLayout*>(box.layout());
+    layout.addItem(new QSpacerItem(room, 0), layout.rowCount(), 0, 1, layout.columnCount());
+}
+
 MsgAnswer showBox(const MsgBox::Message& message)
 {
     QMessageBox box(QApplication::activeWindow());
@@ -31,6 +44,7 @@ MsgAnswer showBox(const MsgBox::Message& message)
     box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     box.setDefaultButton(asks ? QMessageBox::Yes : QMessageBox::Ok);
     box.setEscapeButton(asks ? QMessageBox::No : QMessageBox::Ok);
+    makeRoomForTitle(box);
     const int answer = box.exec();
     if (!asks)
         return MsgAnswer::Ok;

@@ -6,6 +6,7 @@ import tempfile
 import time
 
 SCREEN = "1280x900x24"
+PATIENCE = 30  # seconds that anything may take on a busy machine
 
 
 class Desktop:
@@ -57,7 +58,7 @@ class Desktop:
         return process
 
     def _wait_for_window_manager(self):
-        deadline = time.monotonic() + 30
+        deadline = time.monotonic() + PATIENCE
         while time.monotonic() < deadline:
             answer = self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK", check=False)
             if "window id" in answer:
@@ -67,20 +68,20 @@ class Desktop:
 
     def run(self, *command, check=True, data=None):
         """Runs a command in the session; what it printed."""
-        result = subprocess.run(command, env=self.environment, input=data, capture_output=True, text=True, timeout=30)
+        result = subprocess.run(command, env=self.environment, input=data, capture_output=True, text=True, timeout=PATIENCE)
         if check and result.returncode != 0:
             raise RuntimeError(f"{command} failed: {result.stderr}")
         return result.stdout
 
-    def wait_for_window(self, title, timeout=15):
+    def wait_for_window(self, title):
         """Waits until a window whose title holds this is shown."""
-        deadline = time.monotonic() + timeout
+        deadline = time.monotonic() + PATIENCE
         while not self.run("xdotool", "search", "--onlyvisible", "--name", title, check=False).split():
             if time.monotonic() > deadline:
                 raise RuntimeError(f"no window named {title!r} appeared")
             time.sleep(0.02)
 
-    def wait_for_focus(self, title, timeout=30):
+    def wait_for_focus(self, title, timeout=PATIENCE):
         """Waits until the window with the focus has this in its title."""
         deadline = time.monotonic() + timeout
         while title not in self.run("xdotool", "getactivewindow", "getwindowname", check=False):
@@ -100,19 +101,19 @@ class Desktop:
     def clipboard(self):
         """What is on the clipboard, to the byte."""
         result = subprocess.run(["xclip", "-selection", "clipboard", "-o"], env=self.environment, capture_output=True,
-                                timeout=10)
+                                timeout=PATIENCE)
         return result.stdout.decode("utf-8")
 
     def clipboard_picture(self):
         """The picture on the clipboard, as the bytes of a PNG file."""
         result = subprocess.run(["xclip", "-selection", "clipboard", "-t", "image/png", "-o"], env=self.environment,
-                                capture_output=True, timeout=10)
+                                capture_output=True, timeout=PATIENCE)
         return result.stdout
 
     def picture(self, shape):
         """What the screen shows there, as its dots."""
         result = subprocess.run(["import", "-window", "root", "-crop", shape, "rgb:-"], env=self.environment,
-                                capture_output=True, timeout=10, check=True)
+                                capture_output=True, timeout=PATIENCE, check=True)
         return result.stdout
 
     def screenshot(self, path):

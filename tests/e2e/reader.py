@@ -4,6 +4,8 @@ import shutil
 import subprocess
 import time
 
+from desktop import PATIENCE
+
 STAMP = "1998-05-05 05:00:00"
 
 # The toolkit asks the accessibility bus about every key, and says so when a busy machine lets it wait for the answer.
@@ -26,7 +28,7 @@ def install(source, target, stamp=STAMP):
 
 
 class Reader:
-    """A running program. Every search waits until its object is there, or fails naming it."""
+    """A running program. Every search waits until its object is there, or fails naming it; a busy machine has its time."""
 
     def __init__(self, desktop, folder, arguments=(), **environment):
         self.desktop = desktop
@@ -42,9 +44,9 @@ class Reader:
                 return application
         return None
 
-    def find(self, role=None, name=None, within=None, timeout=10, showing=True, starts=None):
+    def find(self, role=None, name=None, within=None, showing=True, starts=None):
         """The first object with this role and name, in the order of the tree."""
-        deadline = time.monotonic() + timeout
+        deadline = time.monotonic() + PATIENCE
         while True:
             found = self._search(role, name, within, showing, starts)
             if found:
@@ -55,9 +57,9 @@ class Reader:
                 raise AssertionError(f"the program has ended: {self.process.communicate()}")
             time.sleep(0.05)
 
-    def absent(self, role, name, timeout=5):
+    def absent(self, role, name):
         """Waits until there is no such object."""
-        deadline = time.monotonic() + timeout
+        deadline = time.monotonic() + PATIENCE
         while self._search(role, name, None, True, None):
             assert time.monotonic() < deadline, f"{role} {name!r} is still there"
             time.sleep(0.05)
@@ -266,19 +268,19 @@ class Reader:
             time.sleep(0.1)
         return now
 
-    def wait_for(self, condition, what, timeout=10):
-        deadline = time.monotonic() + timeout
+    def wait_for(self, condition, what):
+        deadline = time.monotonic() + PATIENCE
         while not condition():
             assert time.monotonic() < deadline, f"waited for {what}; there is:\n{self.outline()}"
             time.sleep(0.05)
 
-    def wait(self, timeout=10):
+    def wait(self):
         """Waits for the end; the exit code."""
-        return self.process.wait(timeout)
+        return self.process.wait(PATIENCE)
 
     def end(self):
         """Ends it if it still runs; what it wrote to standard error."""
         if self.process.poll() is None:
             self.process.terminate()
-        _, errors = self.process.communicate(timeout=10)
+        _, errors = self.process.communicate(timeout=PATIENCE)
         return "".join(line for line in errors.splitlines(True) if not line.startswith(BUS_IS_BUSY))

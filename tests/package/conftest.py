@@ -10,7 +10,7 @@ TOP = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(TOP / "tests" / "e2e"))
 
 from clean_root import CleanRoot  # noqa: E402
-from desktop import Desktop  # noqa: E402  the virtual desktop of the end-to-end tests
+from desktop import PATIENCE, Desktop  # noqa: E402  the virtual desktop of the end-to-end tests
 
 
 @pytest.fixture(scope="session")
@@ -70,5 +70,5 @@ def start(desktop):
     errors = []
     for program in programs:
         program.terminate()
-        errors.append(program.communicate(timeout=10)[1])
+        errors.append(program.communicate(timeout=PATIENCE)[1])
     assert errors == [""] * len(errors)
