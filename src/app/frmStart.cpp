@@ -177,6 +177,9 @@ void frmStart::layOutAbout()
     moveTo(*Image2, places.Image2);
     moveTo(*cmdMail, places.cmdMail);
     setFixedSize(twips(places.windowWidth), twips(places.windowHeight));
+    // In the middle of the frame, and told to the desktop: where that chooses the place of a window without a
+    // frame, the toolkit does not always learn it, and assistive tools look for the buttons elsewhere.
+    adjustPosition(parentWidget());
     cmdOK->setFocus();
 }
 

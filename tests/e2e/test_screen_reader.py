@@ -247,6 +247,23 @@ ITEMS = {"File": ["Select Verse for Reading", "Launch Notepad", "Exit"], "Edit":
          "Window": ["Arrange Icons"], "Help": ["About..."]}
 
 
+def test_the_about_window_is_where_it_is_said_to_be(reader, desktop):
+    """It has no frame, and its own word about its place is the one that is sure to arrive everywhere."""
+    import pyatspi
+    for _ in range(8):
+        about = reader.open_about()
+        window = desktop.run("xdotool", "getactivewindow").strip()
+        assert "user specified location" in desktop.run("xprop", "-id", window, "WM_NORMAL_HINTS")
+        place = about.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        assert f"Position: {place.x},{place.y} " in desktop.run("xdotool", "getwindowgeometry", window)
+        reader.press("More Info", within=about)
+        reader.find("alert")
+        reader.key("Escape")
+        reader.absent("alert", "Kestrel Reader: Portuguese Version")
+        reader.key("Escape")
+        reader.absent("dialog", "Kestrel Reader (PT)")
+
+
 def test_menus_are_named_by_their_captions(reader):
     reader.look_up("2Jn:1:1")
     bar = reader.find("menu bar")
