@@ -242,11 +242,6 @@ def test_the_about_window_and_the_help(reader):
     reader.absent("dialog", "Kestrel Reader (PT)")
 
 
-ITEMS = {"File": ["Select Verse for Reading", "Launch Notepad", "Exit"], "Edit": ["Copy Verse to Clipboard"],
-         "View": ["Current Chapter", "Previous Verse", "Next Verse"], "Search": ["Search"], "Tools": ["Study Aids"],
-         "Window": ["Arrange Icons"], "Help": ["About..."]}
-
-
 def test_the_about_window_is_where_it_is_said_to_be(reader, desktop):
     """It has no frame, and its own word about its place is the one that is sure to arrive everywhere."""
     import pyatspi
@@ -262,6 +257,11 @@ def test_the_about_window_is_where_it_is_said_to_be(reader, desktop):
         reader.absent("alert", "Kestrel Reader: Portuguese Version")
         reader.key("Escape")
         reader.absent("dialog", "Kestrel Reader (PT)")
+
+
+ITEMS = {"File": ["Select Verse for Reading", "Launch Notepad", "Exit"], "Edit": ["Copy Verse to Clipboard"],
+         "View": ["Current Chapter", "Previous Verse", "Next Verse"], "Search": ["Search"], "Tools": ["Study Aids"],
+         "Window": ["Arrange Icons"], "Help": ["About..."]}
 
 
 def test_menus_are_named_by_their_captions(reader):
