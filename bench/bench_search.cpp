@@ -6,8 +6,8 @@
 #include "app/Application.h"
 #include "app/MDIParent.h"
 #include "app/Program.h"
+#include "desktop/MsgBox.h"
 #include "search/frmAdvSearch.h"
-#include "widgets/MsgBox.h"
 #include "widgets/SoftBttn.h"
 #include <benchmark/benchmark.h>
 #include <QCheckBox>

@@ -38,10 +38,15 @@ else()
     check_pie_supported()
 endif()
 
-# kestrel_library(NAME [QT] [LINK target...]): the library of src/NAME, made of whatever sources stand there.
+# kestrel_library(NAME [QT] [FOLDER folder] [LINK target...]): the library of src/NAME, or of src/FOLDER where CMake has
+# the name for itself, made of whatever sources stand there.
 function(kestrel_library name)
-    cmake_parse_arguments(ARG "QT" "" "LINK" ${ARGN})
-    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp ${CMAKE_SOURCE_DIR}/src/${name}/*.h)
+    cmake_parse_arguments(ARG "QT" "FOLDER" "LINK" ${ARGN})
+    if(NOT ARG_FOLDER)
+        set(ARG_FOLDER ${name})
+    endif()
+    set(folder ${CMAKE_SOURCE_DIR}/src/${ARG_FOLDER})
+    file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h)
     add_library(${name} STATIC ${sources})
     target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
     target_link_libraries(${name} PUBLIC ${ARG_LINK})
@@ -57,6 +62,7 @@ function(kestrel_test name)
     set_target_properties(test_${name} PROPERTIES AUTOMOC ${ARG_QT})
     target_compile_definitions(test_${name} PRIVATE KESTREL_INSTALL_DIR="${KESTREL_INSTALL_DIR}"
                                KESTREL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+    target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     # Test code is compiled for a quick build; what it tests is compiled as everywhere.
     target_compile_options(test_${name} PRIVATE -O0 -U_FORTIFY_SOURCE)
     target_link_libraries(test_${name} PRIVATE ${ARG_LINK} GTest::gmock $<IF:$<BOOL:${ARG_QT}>,qt_test_main,GTest::gtest_main>)

@@ -1,7 +1,7 @@
 // Draws the clip that plays during a search: make_clip OUT
 
-#include "clip/Avi.h"
-#include "clip/SearchScene.h"
+#include "animation/Avi.h"
+#include "animation/SearchScene.h"
 #include "importer/Files.h"
 
 #include <exception>
@@ -21,7 +21,7 @@ std::string jpeg(const QImage& image)
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     if (!image.save(&buffer, "JPEG", jpegQuality))
-        throw std::runtime_error("the toolkit cannot write JPEG pictures; is its JPEG plugin installed?");
+        throw std::runtime_error("Qt cannot write JPEG pictures; is its JPEG plugin installed?");
     return bytes.toStdString();
 }
 

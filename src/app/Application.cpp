@@ -1,8 +1,8 @@
 #include "app/Application.h"
 
 #include "app/FrameStyle.h"
+#include "desktop/MsgBox.h"
 #include "widgets/Fonts.h"
-#include "widgets/MsgBox.h"
 #include <cstdlib>
 #include <exception>
 #include <QLoggingCategory>
@@ -12,8 +12,8 @@ namespace {
 
 QtMessageHandler printMessage = nullptr;
 
-// Without memory for a thread the toolkit says so and goes on, to wait for ever for what the thread should
-// do.
+// QThread::start() only prints when there is no memory for a thread. Qt then waits for ever for what that
+// thread should do, so the process ends here instead.
 void endWithoutThreads(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     printMessage(type, context, message);
@@ -31,11 +31,12 @@ Application::Application(char* programName[])
     setApplicationName("kestrel-reader");
     setApplicationDisplayName(""); // captions are the windows' own
     setDesktopFileName("io.github.kestrelreader.KestrelReader");
-    // A damaged picture is left out, or shown as far as it goes; of a clipboard that another program takes at
-    // the same time tells a message. What the toolkit says of either serves nobody.
+    // Qt's warnings on standard error about two things that the windows handle: a damaged picture is left out
+    // or shown as far as it goes, and a message box tells when another program took the clipboard.
     QLoggingCategory::setFilterRules("qt.gui.imageio*=false\nqt.qpa.clipboard=false");
     setStyle(new FrameStyle);
-    // The style keeps pictures of buttons, which every message makes anew. Ten megabytes serve nobody.
+    // Fusion caches a pixmap of each message box's buttons. Qt's own limit of 10 MB lets the memory grow
+    // without making anything faster.
     QPixmapCache::setCacheLimit(512); // kB
     Fonts::install();
     setFont(Fonts::captionsOf(9));

@@ -3,7 +3,7 @@
 #include <QApplication>
 
 /// The application object: fonts, style and name of the program, and its top level, where an error that no
-/// handler caught is shown with the engine's own text before the program ends.
+/// handler caught is shown with SQLite's own text before the program ends.
 class Application : public QApplication
 {
     Q_OBJECT

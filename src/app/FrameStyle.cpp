@@ -1,7 +1,7 @@
 #include "app/FrameStyle.h"
 
-#include "widgets/PictureInk.h"
-#include "widgets/Pictures.h"
+#include "pictures/Colors.h"
+#include "pictures/Pictures.h"
 #include <algorithm>
 #include <QApplication>
 #include <QMenu>
@@ -108,7 +108,7 @@ int FrameStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
-// The marks of title bars are drawn: reading the toolkit's pictures of them loads every picture format that
+// The marks of title bars are drawn: reading Qt's pictures of them loads every picture format that
 // the desktop knows into memory.
 QIcon FrameStyle::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const
 {
@@ -148,8 +148,9 @@ void FrameStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     painter->restore();
 }
 
-// The base style keeps pictures of each combo box and of each scroll bar's arrows by the identity of their
-// palettes, and a key for each for ever. New windows' palettes are new ones that say the same.
+// Fusion caches the pixmaps of combo boxes and of scroll bars' arrows by QPalette::cacheKey() and never frees
+// the keys. Each new window's palettes have new keys although their colours are the same, so that the memory
+// would grow with each window opened: Fusion is handed a palette whose key it knows already.
 template <class Option>
 Option FrameStyle::withKnownPalette(Option option) const
 {

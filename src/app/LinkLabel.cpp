@@ -1,6 +1,6 @@
 #include "app/LinkLabel.h"
 
-#include "app/LinkColor.h"
+#include "pictures/LinkColor.h"
 #include "widgets/EnterKey.h"
 #include <QPainter>
 #include <QStyleOptionFocusRect>

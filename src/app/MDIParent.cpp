@@ -1,10 +1,11 @@
 #include "app/MDIParent.h"
 
 #include "app/ArrangeIcons.h"
-#include "app/Help.h"
+#include "app/HelpPage.h"
 #include "app/Notepad.h"
 #include "app/Program.h"
-#include "widgets/BasePath.h"
+#include "desktop/BasePath.h"
+#include "help/Help.h"
 #include "widgets/Menus.h"
 #include "widgets/SoftBttn.h"
 #include "widgets/Twips.h"
@@ -25,7 +26,7 @@ MDIParent::MDIParent(Program& program)
     , cmdAbout(new SoftBttn("cmdAbout", PictureId::About, "About/QORV CD-ROM Offer", this))
     , m_program(program)
     , m_area(new QMdiArea(this))
-    , m_help(std::make_unique<Help>(program.basePath + helpFileName))
+    , m_help(std::make_unique<Help>(program.basePath + helpFileName, helpPageOf))
 {
     setObjectName("MDIParent");
     setWindowTitle("Kestrel Reader: Portuguese Version - Freeware");
@@ -61,7 +62,7 @@ void MDIParent::load()
     QMetaObject::invokeMethod(this, &MDIParent::MDIForm_Activate, Qt::QueuedConnection);
 }
 
-// A strip docked along the top. The toolkit's own toolbar is not used: it can do no more here, and making one
+// A strip docked along the top. QToolBar is not used: it can do no more here, and making one
 // loads every picture format that the desktop knows into memory.
 void MDIParent::makeToolbar()
 {
@@ -193,7 +194,7 @@ void MDIParent::closeEvent(QCloseEvent* event)
 
 void MDIParent::childActivated(QMdiSubWindow*)
 {
-    // Not the window of the signal: it is none while another program is in front, when nothing changes here.
+    // Asks the area, because subWindowActivated() carries nullptr while another application is active.
     QMdiSubWindow* window = m_area->currentSubWindow();
     Form* form = window ? qobject_cast<Form*>(window->widget()) : nullptr;
     if (form == m_activeForm && form)

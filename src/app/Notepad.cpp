@@ -1,7 +1,7 @@
 #include "app/Notepad.h"
 
-#include "widgets/MsgBox.h"
-#include "widgets/Platform.h"
+#include "desktop/MsgBox.h"
+#include "desktop/Platform.h"
 #include "widgets/ProgramFlags.h"
 #include <QStandardPaths>
 

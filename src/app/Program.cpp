@@ -1,10 +1,10 @@
 #include "app/Program.h"
 
 #include "app/MDIParent.h"
+#include "desktop/BasePath.h"
+#include "desktop/Platform.h"
 #include "store/Database.h"
 #include "store/DataError.h"
-#include "widgets/BasePath.h"
-#include "widgets/Platform.h"
 #include <QTimer>
 
 Program::Program(const QString& directory)
@@ -16,7 +16,7 @@ Program::~Program()
 {
     delete m_startWindow;
     m_frame.reset();
-    // The toolkit may wait seconds for a clipboard manager, and nobody sees why a new copy should not start.
+    // QClipboard may wait seconds for a clipboard manager, and nobody sees why a new copy should not start.
     Platform::current().endInstance();
 }
 

@@ -1,9 +1,9 @@
 #include "app/StartupChecks.h"
 
-#include "widgets/BasePath.h"
-#include "widgets/MsgBox.h"
-#include "widgets/OpenFile.h"
-#include "widgets/Platform.h"
+#include "desktop/BasePath.h"
+#include "desktop/MsgBox.h"
+#include "desktop/OpenFile.h"
+#include "desktop/Platform.h"
 
 bool isPresent(const QString& path)
 {

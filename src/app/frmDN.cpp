@@ -3,6 +3,6 @@
 #include "app/AboutTexts.h"
 
 frmDN::frmDN(QWidget* owner)
-    : LetterWindow("frmDN", "Your support is needed!", donationText(), owner)
+    : TextWindow("frmDN", "Your support is needed!", donationText(), owner)
 {
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/LetterWindow.h"
+#include "app/TextWindow.h"
 
 /// The window with the appeal for a donation.
-class frmDN : public LetterWindow
+class frmDN : public TextWindow
 {
     Q_OBJECT
 

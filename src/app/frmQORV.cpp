@@ -3,6 +3,6 @@
 #include "app/AboutTexts.h"
 
 frmQORV::frmQORV(QWidget* owner)
-    : LetterWindow("frmQORV", "QORV CD-ROM Offer", discOfferText(), owner)
+    : TextWindow("frmQORV", "QORV CD-ROM Offer", discOfferText(), owner)
 {
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/LetterWindow.h"
+#include "app/TextWindow.h"
 
 /// The window with the offer of the CD-ROM.
-class frmQORV : public LetterWindow
+class frmQORV : public TextWindow
 {
     Q_OBJECT
 

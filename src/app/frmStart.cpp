@@ -7,9 +7,9 @@
 #include "app/LinkLabel.h"
 #include "app/Program.h"
 #include "app/StartupChecks.h"
+#include "desktop/MsgBox.h"
+#include "desktop/Platform.h"
 #include "widgets/Maker.h"
-#include "widgets/MsgBox.h"
-#include "widgets/Platform.h"
 #include "widgets/SoftBttn.h"
 #include "widgets/Twips.h"
 #include <QEvent>
@@ -178,7 +178,7 @@ void frmStart::layOutAbout()
     moveTo(*cmdMail, places.cmdMail);
     setFixedSize(twips(places.windowWidth), twips(places.windowHeight));
     // In the middle of the frame, and told to the desktop: where that chooses the place of a window without a
-    // frame, the toolkit does not always learn it, and assistive tools look for the buttons elsewhere.
+    // frame, Qt does not always learn it, and assistive tools look for the buttons elsewhere.
     adjustPosition(parentWidget());
     cmdOK->setFocus();
 }

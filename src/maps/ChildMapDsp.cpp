@@ -1,9 +1,9 @@
 #include "maps/ChildMapDsp.h"
 
+#include "desktop/BasePath.h"
+#include "desktop/Clipboard.h"
 #include "maps/MapPicture.h"
 #include "maps/ScrollByKey.h"
-#include "widgets/BasePath.h"
-#include "widgets/Clipboard.h"
 #include "widgets/Menus.h"
 #include "widgets/ProgramFlags.h"
 #include "widgets/Shell.h"

@@ -15,13 +15,13 @@ constexpr QSizeF extentOfNone(735, 735);
 constexpr int dragPreviewSize = 160;
 
 // What goes beyond these is damage, and would fill the memory.
-constexpr qreal fewestDotsPerInch = 72;
-constexpr qint64 mostPixels = 16'000'000;
+constexpr qreal minDotsPerInch = 72;
+constexpr qint64 maxPixels = 16'000'000;
 
 qreal naturalTwips(int pixels, int dotsPerMeter, int dotsPerMeterOfNone)
 {
     const qreal dotsPerInch = dotsPerMeter * 0.0254;
-    const bool isGiven = dotsPerMeter != dotsPerMeterOfNone && dotsPerInch >= fewestDotsPerInch;
+    const bool isGiven = dotsPerMeter != dotsPerMeterOfNone && dotsPerInch >= minDotsPerInch;
     return toTwips(pixels) * (isGiven ? 96 / dotsPerInch : 1);
 }
 
@@ -133,9 +133,9 @@ QImage decodedImage(const QByteArray& bytes)
     QImageReader reader(&buffer);
     reader.setDecideFormatFromContent(true);
     const QSize declared = reader.size();
-    if (qint64(declared.width()) * declared.height() > mostPixels)
+    if (qint64(declared.width()) * declared.height() > maxPixels)
         return {};
-    return reader.read(); // the toolkit has a limit of its own where a format does not declare its size
+    return reader.read(); // QImageReader has a limit of its own where a format does not declare its size
 }
 
 QSizeF naturalExtent(const QImage& image)

@@ -45,7 +45,7 @@ private:
     QPoint m_pressedAt;
 };
 
-/// The image in the bytes of a file, of any format that the toolkit reads. A null image when the bytes are
+/// The image in the bytes of a file, of any format that Qt reads. A null image when the bytes are
 /// none, or declare a size that no map has.
 QImage decodedImage(const QByteArray& bytes);
 

@@ -1,16 +1,16 @@
 #include "read/ChapRead.h"
 
+#include "desktop/BasePath.h"
+#include "desktop/Clipboard.h"
+#include "desktop/MsgBox.h"
 #include "read/Chapter.h"
-#include "widgets/BasePath.h"
-#include "widgets/Clipboard.h"
+#include "read/TextBox.h"
+#include "read/TypeSize.h"
 #include "widgets/Fonts.h"
 #include "widgets/Menus.h"
-#include "widgets/MsgBox.h"
 #include "widgets/Shell.h"
 #include "widgets/SoftBttn.h"
-#include "widgets/TextBox.h"
 #include "widgets/Twips.h"
-#include "widgets/TypeSize.h"
 
 ChapRead::ChapRead(Shell& shell)
     : Form(shell, "ChapRead")

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int mostVerses = 300; // well above the longest chapter's 176
+constexpr int maxVerses = 300; // well above the longest chapter's 176
 
 } // namespace
 
@@ -30,7 +30,7 @@ QString gatherChapter(DataSource& source, const QString& reference)
 {
     std::string text;
     // Only a whole reference names a chapter: with none at all, "1*" would find the first verse of 1Cor.
-    const int last = reference.count(':') == 2 ? mostVerses : 0;
+    const int last = reference.count(':') == 2 ? maxVerses : 0;
     const std::string query = "SELECT * FROM NewTestament WHERE VerseId LIKE '" + reference.toStdString();
     for (int verse = 1; verse <= last; ++verse) {
         source.setRecordSource(query + std::to_string(verse) + "*'");

@@ -1,11 +1,13 @@
 #include "read/ChildRead.h"
 
+#include "desktop/BasePath.h"
+#include "desktop/Clipboard.h"
 #include "read/ChapRead.h"
 #include "read/Chapter.h"
 #include "read/Stepping.h"
+#include "read/TypeSize.h"
 #include "read/VerseKeyLabel.h"
-#include "widgets/BasePath.h"
-#include "widgets/Clipboard.h"
+#include "read/VerseLabel.h"
 #include "widgets/Fonts.h"
 #include "widgets/Hourglass.h"
 #include "widgets/Menus.h"
@@ -13,8 +15,6 @@
 #include "widgets/SoftBttn.h"
 #include "widgets/Text.h"
 #include "widgets/Twips.h"
-#include "widgets/TypeSize.h"
-#include "widgets/VerseLabel.h"
 #include <QCheckBox>
 #include <QComboBox>
 

@@ -1,11 +1,11 @@
 #include "select/ChildSelect.h"
 
+#include "desktop/MsgBox.h"
+#include "desktop/Platform.h"
 #include "select/BookTree.h"
 #include "select/Lookup.h"
 #include "store/BookCatalog.h"
 #include "widgets/EnterKey.h"
-#include "widgets/MsgBox.h"
-#include "widgets/Platform.h"
 #include "widgets/Shell.h"
 #include "widgets/SoftBttn.h"
 #include "widgets/Twips.h"

@@ -1,9 +1,9 @@
 #include "select/Lookup.h"
 
+#include "desktop/MsgBox.h"
 #include "read/ChildRead.h"
 #include "read/Stepping.h"
 #include "widgets/Hourglass.h"
-#include "widgets/MsgBox.h"
 #include <QLabel>
 
 namespace {

@@ -20,7 +20,7 @@ double widthOf(QFont font)
 QFont Fonts::tahomaOf(int points)
 {
     QFont font(tahoma, points);
-    font.setStretch(QFont::AnyStretch); // not that of the captions around
+    font.setStretch(QFont::AnyStretch); // else QFont::resolve() takes the stretch of the application's font
     return font;
 }
 

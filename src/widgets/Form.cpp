@@ -15,7 +15,7 @@
 
 namespace {
 
-// The keys of inner windows; on some desktops the toolkit has others for closing, and none for the menu.
+// The keys of inner windows; on some desktops QMdiSubWindow has others for closing, and none for the menu.
 void giveKeys(QMdiSubWindow& window)
 {
     QAction* const close = window.systemMenu()->actions().constLast();
@@ -38,8 +38,8 @@ Form::Form(Shell& shell, const QString& name)
     setObjectName(name);
     qApp->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        // The area forgets it when another window becomes active. While a window changes its state the
-        // toolkit hides it, which moves the focus on to the next control.
+        // Kept here because QMdiSubWindow forgets it when another window becomes active. A hidden control is
+        // left out: QMdiSubWindow hides its widget while the state changes, which moves the focus on.
         if (isAncestorOf(now) && now->isVisible())
             m_lastFocus = now;
     });
@@ -68,7 +68,7 @@ void Form::setCaption(const QString& caption)
     setWindowTitle(caption);
     if (!subWindow())
         return;
-    // The toolkit names the window anew without a word about it to a screen reader.
+    // QMdiSubWindow does not tell AT-SPI of a new caption.
     QAccessibleEvent renamed(subWindow(), QAccessible::NameChanged);
     QAccessible::updateAccessibility(&renamed);
 }

@@ -1,8 +1,8 @@
 #include "widgets/SoftBttn.h"
 
+#include "desktop/Platform.h"
+#include "pictures/Colors.h"
 #include "widgets/EnterKey.h"
-#include "widgets/PictureInk.h"
-#include "widgets/Platform.h"
 #include <QPainter>
 
 namespace {
@@ -113,7 +113,7 @@ void SoftBttn::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor face = shownFace();
-    const QColor edge = pictureInk(face).line;
+    const QColor edge = pictureColors(face).line;
     const QRectF outline = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
 
     painter.setBrush(face);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/Pictures.h"
+#include "pictures/Pictures.h"
 #include <QAbstractButton>
 
 /// The picture push button of the toolbar and of every window.

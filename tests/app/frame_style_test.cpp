@@ -1,6 +1,6 @@
 // What the style draws itself must be seen, on light and on dark desktops.
 #include "app/FrameStyle.h"
-#include "widgets/PictureInk.h"
+#include "pictures/Colors.h"
 #include <gtest/gtest.h>
 #include <QCommonStyle>
 #include <QImage>

@@ -1,8 +1,8 @@
 // The checks of the start-up, their order and their messages, on real files.
 #include "app/Program.h"
 #include "app/StartupChecks.h"
+#include "desktop/BasePath.h"
 #include "support/Recorders.h"
-#include "widgets/BasePath.h"
 #include <gtest/gtest.h>
 #include <QDir>
 #include <QFile>

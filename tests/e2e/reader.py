@@ -8,7 +8,7 @@ from desktop import PATIENCE
 
 STAMP = "1998-05-05 05:00:00"
 
-# The toolkit asks the accessibility bus about every key, and says so when a busy machine lets it wait for the answer.
+# Qt asks the accessibility bus about every key, and says so when a busy machine lets it wait for the answer.
 BUS_IS_BUSY = "QSpiApplication::keyEventError"
 
 CONTROLS = ("push button", "check box", "radio button", "combo box", "text", "list", "tree", "page tab list")

@@ -107,7 +107,7 @@ def test_without_a_manager_the_text_goes_with_the_program(selections, reader, de
 
 
 def test_a_manager_that_never_answers_keeps_nobody_from_starting_again(selections, reader, start, installed, desktop):
-    """The toolkit waits five seconds for it, without a window."""
+    """Qt waits five seconds for it, without a window."""
     selections.hold("CLIPBOARD_MANAGER")
     copy_verse(reader, desktop)
     desktop.key(*EXIT)

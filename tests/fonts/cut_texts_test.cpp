@@ -1,7 +1,7 @@
 // Whether every text of every window has room, in the fonts that the system has: there may be only one.
 #include "app/AboutTexts.h"
-#include "app/Help.h"
-#include "app/HelpWindow.h"
+#include "help/Help.h"
+#include "help/HelpWindow.h"
 #include "maps/ChildMapDsp.h"
 #include "maps/ChildMapSel.h"
 #include "maps/ChoiceList.h"

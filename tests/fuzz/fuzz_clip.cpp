@@ -1,5 +1,5 @@
 // Any bytes at all must give a clip within its limits.
-#include "widgets/AviReader.h"
+#include "clip/AviReader.h"
 #include <cstdlib>
 #include <QCoreApplication>
 #include <QLoggingCategory>

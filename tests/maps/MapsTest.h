@@ -5,8 +5,8 @@
 #include "maps/ChoiceList.h"
 #include "maps/MapPicture.h"
 #include "maps/TabStrip.h"
+#include "maps/TestDatabase.h"
 #include "support/Session.h"
-#include "TestDatabase.h"
 #include "widgets/SoftBttn.h"
 #include <QTemporaryDir>
 

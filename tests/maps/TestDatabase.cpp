@@ -1,4 +1,4 @@
-#include "TestDatabase.h"
+#include "maps/TestDatabase.h"
 
 #include <QBuffer>
 #include <QFile>

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "clip/AnimationPlayer.h"
 #include "read/ChildRead.h"
 #include "search/frmAdvSearch.h"
 #include "search/ResultsList.h"
 #include "support/Session.h"
-#include "widgets/AnimationPlayer.h"
 #include "widgets/SoftBttn.h"
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,4 +1,4 @@
-#include "Allocations.h"
+#include "store/Allocations.h"
 
 #include <cstdlib>
 #include <new>

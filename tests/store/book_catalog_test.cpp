@@ -17,7 +17,7 @@ std::vector<Book> booksOf(std::string_view group)
     return result;
 }
 
-TEST(BookCatalog, holds66BooksOldTestamentFirst)
+TEST(BookCatalog, Holds66BooksOldTestamentFirst)
 {
     ASSERT_EQ(bookCatalog().size(), 66U);
     for (std::size_t i = 0; i < 66; ++i) {
@@ -26,7 +26,7 @@ TEST(BookCatalog, holds66BooksOldTestamentFirst)
     }
 }
 
-TEST(BookCatalog, givesEveryBookItsNameAndAbbreviation)
+TEST(BookCatalog, GivesEveryBookItsNameAndAbbreviation)
 {
     const std::vector<std::string> expected = {"Gênesis -- Gn",
                                                "Êxodo -- Ex",
@@ -100,7 +100,7 @@ TEST(BookCatalog, givesEveryBookItsNameAndAbbreviation)
     EXPECT_EQ(texts, expected);
 }
 
-TEST(BookCatalog, countsItsGroups)
+TEST(BookCatalog, CountsItsGroups)
 {
     std::map<std::string_view, int> counts;
     for (const Book& book : bookCatalog())
@@ -111,14 +111,14 @@ TEST(BookCatalog, countsItsGroups)
                                              Pair("Catholic Epistles", 7), Pair("", 2)));
 }
 
-TEST(BookCatalog, actsAndRevelationBelongToNoGroup)
+TEST(BookCatalog, ActsAndRevelationBelongToNoGroup)
 {
     ASSERT_EQ(booksOf("").size(), 2U);
     EXPECT_EQ(booksOf("")[0].abbreviation, "Acts");
     EXPECT_EQ(booksOf("")[1].abbreviation, "Rv");
 }
 
-TEST(BookCatalog, treeTextHoldsTheDashesOnceBeforeTheAbbreviation)
+TEST(BookCatalog, TreeTextHoldsTheDashesOnceBeforeTheAbbreviation)
 {
     for (const Book& book : bookCatalog()) {
         const std::string text = book.treeText();
@@ -130,14 +130,14 @@ TEST(BookCatalog, treeTextHoldsTheDashesOnceBeforeTheAbbreviation)
     }
 }
 
-TEST(BookCatalog, groupsKeepTheirOrder)
+TEST(BookCatalog, GroupsKeepTheirOrder)
 {
     EXPECT_EQ(booksOf("Catholic Epistles").at(0).treeText(), "Tiago -- Jms");
     EXPECT_EQ(booksOf("Epistles of St. Paul").at(3).treeText(), "Gálatas -- Gal");
     EXPECT_EQ(booksOf("Pentateuch").at(0).treeText(), "Gênesis -- Gn");
 }
 
-TEST(BookCatalog, onlyEzIsThePrefixOfAnother)
+TEST(BookCatalog, OnlyEzIsThePrefixOfAnother)
 {
     std::vector<std::pair<std::string_view, std::string_view>> pairs;
     for (const Book& a : bookCatalog()) {
@@ -149,7 +149,7 @@ TEST(BookCatalog, onlyEzIsThePrefixOfAnother)
     EXPECT_THAT(pairs, testing::ElementsAre(Pair("Ez", "Ezr")));
 }
 
-TEST(BookCatalog, prefixAddressesOneBook)
+TEST(BookCatalog, PrefixAddressesOneBook)
 {
     std::set<std::string> prefixes;
     for (const Book& book : bookCatalog())

@@ -1,6 +1,6 @@
 // Files that are not as they should be: each is read as far as it is sound or refused in the engine's own
 // words. No crash, no hang, and whatever comes is in order.
-#include "TestDatabase.h"
+#include "store/TestDatabase.h"
 #include <algorithm>
 #include <chrono>
 #include <gmock/gmock.h>
@@ -90,12 +90,12 @@ protected:
     std::mt19937 m_random{1998};
 };
 
-TEST_F(DamagedCopies, soundOneIsReadWhole)
+TEST_F(DamagedCopies, SoundOneIsReadWhole)
 {
     EXPECT_EQ(use(m_sound), 1499);
 }
 
-TEST_F(DamagedCopies, withFlippedBits)
+TEST_F(DamagedCopies, WithFlippedBits)
 {
     int refused = 0;
     for (int copy = 0; copy < 200; ++copy) {
@@ -107,7 +107,7 @@ TEST_F(DamagedCopies, withFlippedBits)
     EXPECT_GT(refused, 0);
 }
 
-TEST_F(DamagedCopies, withFlippedBitsInTheHeaderAndTheSchema)
+TEST_F(DamagedCopies, WithFlippedBitsInTheHeaderAndTheSchema)
 {
     for (int copy = 0; copy < 200; ++copy) {
         std::string damaged = m_sound;
@@ -117,7 +117,7 @@ TEST_F(DamagedCopies, withFlippedBitsInTheHeaderAndTheSchema)
     }
 }
 
-TEST_F(DamagedCopies, cutOffAndFilledWithZeros)
+TEST_F(DamagedCopies, CutOffAndFilledWithZeros)
 {
     for (int copy = 0; copy < 100; ++copy) {
         const int rows = use(m_sound.substr(0, below(m_sound.size())));
@@ -125,7 +125,7 @@ TEST_F(DamagedCopies, cutOffAndFilledWithZeros)
     }
 }
 
-TEST_F(DamagedCopies, withAPageOfZerosOrOfAnotherPlace)
+TEST_F(DamagedCopies, WithAPageOfZerosOrOfAnotherPlace)
 {
     const std::size_t pages = m_sound.size() / 2048 + (m_sound.size() % 2048 != 0);
     ASSERT_EQ(m_sound.size() % 2048, 0U);
@@ -138,13 +138,13 @@ TEST_F(DamagedCopies, withAPageOfZerosOrOfAnotherPlace)
     }
 }
 
-TEST_F(DamagedCopies, thatAreShorterThanTheyShouldBe)
+TEST_F(DamagedCopies, ThatAreShorterThanTheyShouldBe)
 {
     std::ofstream(m_folder.file("damaged"), std::ios::binary) << m_sound.substr(0, m_sound.size() / 2);
     EXPECT_EQ(errorOf(m_folder.file("damaged"), "SELECT * FROM NewTestament").number(), SQLITE_CORRUPT);
 }
 
-TEST(NoDatabase, isRefusedInTheEnginesWords)
+TEST(NoDatabase, IsRefusedInTheEnginesWords)
 {
     const TestFolder folder;
     std::ofstream(folder.file()) << std::string(10'000, 'x');
@@ -153,7 +153,7 @@ TEST(NoDatabase, isRefusedInTheEnginesWords)
     EXPECT_EQ(error.description(), "file is not a database");
 }
 
-TEST(NoDatabase, anEmptyFileHasNoVerses)
+TEST(NoDatabase, AnEmptyFileHasNoVerses)
 {
     const TestFolder folder;
     std::ofstream(folder.file()).close();
@@ -173,7 +173,7 @@ protected:
     TestFolder m_folder;
 };
 
-TEST_F(ForeignSchema, missingVersesLeaveTheOtherTablesReadable)
+TEST_F(ForeignSchema, MissingVersesLeaveTheOtherTablesReadable)
 {
     make("CREATE TABLE NTMaps (MapNumber INTEGER); INSERT INTO NTMaps VALUES (1);");
     EXPECT_EQ(errorOf(m_folder.file(), "SELECT * FROM NTMaps").number(), 0);
@@ -182,14 +182,14 @@ TEST_F(ForeignSchema, missingVersesLeaveTheOtherTablesReadable)
     EXPECT_EQ(error.description(), "no such table: main.NewTestament");
 }
 
-TEST_F(ForeignSchema, missingColumnIsNamed)
+TEST_F(ForeignSchema, MissingColumnIsNamed)
 {
     make("CREATE TABLE NewTestament (VerseId TEXT, VerseNumber INTEGER);");
     EXPECT_EQ(errorOf(m_folder.file(), "SELECT * FROM NewTestament").description(),
               "no such column: KJVerseText");
 }
 
-TEST_F(ForeignSchema, columnsComeInTheirOrderWhateverTheFiles)
+TEST_F(ForeignSchema, ColumnsComeInTheirOrderWhateverTheFiles)
 {
     make("CREATE TABLE NewTestament (Note, KJVerseText, VerseNumber, VerseId);"
          "INSERT INTO NewTestament VALUES (0, ' Texto', 1, 'Mt:1:1');");
@@ -201,7 +201,7 @@ TEST_F(ForeignSchema, columnsComeInTheirOrderWhateverTheFiles)
     EXPECT_EQ(source.field(3), "");
 }
 
-TEST_F(ForeignSchema, rowsWithoutAWholeNumberAreLeftOut)
+TEST_F(ForeignSchema, RowsWithoutAWholeNumberAreLeftOut)
 {
     make(verseTable +
          "INSERT INTO NewTestament VALUES ('a', 'one', ' x'), ('b', 2.5, ' x'), ('c', NULL, ' x'),"
@@ -212,13 +212,13 @@ TEST_F(ForeignSchema, rowsWithoutAWholeNumberAreLeftOut)
                 ElementsAre("e", "g"));
 }
 
-TEST_F(ForeignSchema, ofTwoRowsWithOneNumberTheFirstIsKept)
+TEST_F(ForeignSchema, OfTwoRowsWithOneNumberTheFirstIsKept)
 {
     make(verseTable + "INSERT INTO NewTestament VALUES ('a', 1, ' x'), ('b', 1, ' y'), ('c', 2, ' z');");
     EXPECT_THAT(keys(m_folder.file(), ""), ElementsAre("a", "c"));
 }
 
-TEST_F(ForeignSchema, oneKeyMayStandForSeveralRows)
+TEST_F(ForeignSchema, OneKeyMayStandForSeveralRows)
 {
     make(verseTable + "INSERT INTO NewTestament VALUES ('a', 2, ' x'), ('A', 1, ' y'), ('a', 3, ' z');");
     DataSource source;
@@ -227,7 +227,7 @@ TEST_F(ForeignSchema, oneKeyMayStandForSeveralRows)
     EXPECT_EQ(keys(m_folder.file(), " WHERE VerseId LIKE 'a'").size(), 3U);
 }
 
-TEST_F(ForeignSchema, blobsNullsAndEmbeddedZerosAreBytesOfText)
+TEST_F(ForeignSchema, BlobsNullsAndEmbeddedZerosAreBytesOfText)
 {
     make(verseTable + "INSERT INTO NewTestament VALUES (x'FF00', 1, x'20FF'), (NULL, 2, NULL),"
                       "('n', 3, ' a' || char(0) || 'b'), (4, 4, 4);");
@@ -249,7 +249,7 @@ TEST_F(ForeignSchema, blobsNullsAndEmbeddedZerosAreBytesOfText)
     EXPECT_EQ(keys(m_folder.file(), " WHERE VerseId NOT LIKE ''").size(), 3U);
 }
 
-TEST_F(ForeignSchema, aViewWithoutEndIsInterrupted)
+TEST_F(ForeignSchema, AViewWithoutEndIsInterrupted)
 {
     make("CREATE VIEW NewTestament AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i FROM n) "
          "SELECT 'k' AS VerseId, i AS VerseNumber, ' t' AS KJVerseText FROM n WHERE i > 1;"
@@ -261,7 +261,7 @@ TEST_F(ForeignSchema, aViewWithoutEndIsInterrupted)
     }
 }
 
-TEST_F(ForeignSchema, aSoundViewIsAsGoodAsATable)
+TEST_F(ForeignSchema, ASoundViewIsAsGoodAsATable)
 {
     make("CREATE TABLE Rows (i); INSERT INTO Rows VALUES (2), (1);"
          "CREATE VIEW NewTestament AS SELECT 'k' || i AS VerseId, i AS VerseNumber, ' t' AS KJVerseText FROM "
@@ -269,13 +269,13 @@ TEST_F(ForeignSchema, aSoundViewIsAsGoodAsATable)
     EXPECT_THAT(keys(m_folder.file(), ""), ElementsAre("k1", "k2"));
 }
 
-TEST_F(ForeignSchema, itsOwnTableOfTheNameOfOursIsNotTaken)
+TEST_F(ForeignSchema, ItsOwnTableOfTheNameOfOursIsNotTaken)
 {
     make(smallBible + "CREATE TABLE VerseRows (VerseId, VerseNumber, KJVerseText);");
     EXPECT_EQ(keys(m_folder.file(), "").size(), 6U);
 }
 
-TEST_F(ForeignSchema, hugeValuesAreTooBig)
+TEST_F(ForeignSchema, HugeValuesAreTooBig)
 {
     make(verseTable + "INSERT INTO NewTestament VALUES ('a', 1, zeroblob(20000000));");
     const DataError error = errorOf(m_folder.file(), "SELECT * FROM NewTestament");
@@ -283,13 +283,13 @@ TEST_F(ForeignSchema, hugeValuesAreTooBig)
     EXPECT_EQ(error.description(), "string or blob too big");
 }
 
-TEST_F(ForeignSchema, textsInAnotherEncodingAreRefused)
+TEST_F(ForeignSchema, TextsInAnotherEncodingAreRefused)
 {
     make("PRAGMA encoding = 'UTF-16'; " + smallBible);
     EXPECT_EQ(errorOf(m_folder.file(), "SELECT * FROM NewTestament").number(), SQLITE_NOTADB);
 }
 
-TEST_F(ForeignSchema, anEmptyTableIsAnEmptyBible)
+TEST_F(ForeignSchema, AnEmptyTableIsAnEmptyBible)
 {
     make(verseTable);
     EXPECT_THAT(keys(m_folder.file(), ""), IsEmpty());
@@ -298,7 +298,7 @@ TEST_F(ForeignSchema, anEmptyTableIsAnEmptyBible)
         IsEmpty());
 }
 
-TEST_F(ForeignSchema, anyNumberOfRowsIsIndexed)
+TEST_F(ForeignSchema, AnyNumberOfRowsIsIndexed)
 {
     // Around the width of the index's words.
     for (const int rows : {1, 63, 64, 65, 128}) {

@@ -1,6 +1,6 @@
 // What a window can do with its data source, where the file may lie, and what nobody can do to it.
 #include "store/Database.h"
-#include "TestDatabase.h"
+#include "store/TestDatabase.h"
 #include <chrono>
 #include <gmock/gmock.h>
 #include <sys/stat.h>
@@ -21,7 +21,7 @@ protected:
     DataSource m_source;
 };
 
-TEST_F(SmallSource, isAtItsEndBeforeTheFirstRefresh)
+TEST_F(SmallSource, IsAtItsEndBeforeTheFirstRefresh)
 {
     const DataSource source;
     EXPECT_TRUE(source.eof());
@@ -30,7 +30,7 @@ TEST_F(SmallSource, isAtItsEndBeforeTheFirstRefresh)
     EXPECT_EQ(source.field("VerseId"), "");
 }
 
-TEST_F(SmallSource, walksItsRowsToTheEnd)
+TEST_F(SmallSource, WalksItsRowsToTheEnd)
 {
     run("SELECT * FROM NewTestament WHERE VerseNumber >= 5");
     EXPECT_EQ(m_source.field(0), "Gn:1:2");
@@ -46,7 +46,7 @@ TEST_F(SmallSource, walksItsRowsToTheEnd)
     EXPECT_EQ(m_source.field(0), "");
 }
 
-TEST_F(SmallSource, readsColumnsByPositionAndByName)
+TEST_F(SmallSource, ReadsColumnsByPositionAndByName)
 {
     run("SELECT * FROM NewTestament WHERE VerseNumber = 3");
     EXPECT_EQ(m_source.field(0), "Mt:10:1");
@@ -60,7 +60,7 @@ TEST_F(SmallSource, readsColumnsByPositionAndByName)
     EXPECT_EQ(m_source.field(-1), "");
 }
 
-TEST_F(SmallSource, readsTheOtherTablesAsTheyAre)
+TEST_F(SmallSource, ReadsTheOtherTablesAsTheyAre)
 {
     run("SELECT * FROM ClassifiedVerses WHERE Type = 'Events'");
     EXPECT_EQ(m_source.field(1), "Água");
@@ -75,7 +75,7 @@ TEST_F(SmallSource, readsTheOtherTablesAsTheyAre)
     EXPECT_EQ(m_source.recordCount(), 1);
 }
 
-TEST_F(SmallSource, tellsWhenTheCurrentRowIsAnotherOne)
+TEST_F(SmallSource, TellsWhenTheCurrentRowIsAnotherOne)
 {
     std::vector<std::string> shown;
     m_source.currentRowChanged = [&] { shown.emplace_back(m_source.field(0)); };
@@ -86,7 +86,7 @@ TEST_F(SmallSource, tellsWhenTheCurrentRowIsAnotherOne)
     EXPECT_THAT(shown, ElementsAre("Gn:1:3", "", ""));
 }
 
-TEST_F(SmallSource, mayBeRefreshedByWhoeverIsToldOfTheRow)
+TEST_F(SmallSource, MayBeRefreshedByWhoeverIsToldOfTheRow)
 {
     m_source.currentRowChanged = [&] {
         if (m_source.eof()) {
@@ -98,7 +98,7 @@ TEST_F(SmallSource, mayBeRefreshedByWhoeverIsToldOfTheRow)
     EXPECT_EQ(m_source.field(0), "Mt:1:1");
 }
 
-TEST_F(SmallSource, staysUsableAfterAQueryThatFails)
+TEST_F(SmallSource, StaysUsableAfterAQueryThatFails)
 {
     run("SELECT * FROM NewTestament");
     for (const char* sql : {"SELECT * FROM", "", " ", "nonsense", "SELECT * FROM NoSuchTable"}) {
@@ -112,7 +112,7 @@ TEST_F(SmallSource, staysUsableAfterAQueryThatFails)
     EXPECT_EQ(m_source.field(0), "Mt:2:1");
 }
 
-TEST_F(SmallSource, newRecordSourceTakesEffectOnlyWithTheRefresh)
+TEST_F(SmallSource, NewRecordSourceTakesEffectOnlyWithTheRefresh)
 {
     run("SELECT * FROM NewTestament WHERE VerseNumber = 2");
     m_source.setRecordSource("SELECT * FROM NewTestament WHERE VerseNumber = 1");
@@ -121,7 +121,7 @@ TEST_F(SmallSource, newRecordSourceTakesEffectOnlyWithTheRefresh)
     EXPECT_EQ(m_source.field(0), "Mt:1:1");
 }
 
-TEST_F(SmallSource, forgetsItsResultWithAnotherDatabaseName)
+TEST_F(SmallSource, ForgetsItsResultWithAnotherDatabaseName)
 {
     run("SELECT * FROM NewTestament");
     m_source.setDatabaseName(m_folder.file());
@@ -131,7 +131,7 @@ TEST_F(SmallSource, forgetsItsResultWithAnotherDatabaseName)
     EXPECT_THROW(m_source.refresh(), DataError);
 }
 
-TEST_F(SmallSource, twoOfThemShareOneBlock)
+TEST_F(SmallSource, TwoOfThemShareOneBlock)
 {
     DataSource other;
     openIn(other, m_folder.file(), "SELECT * FROM NewTestament WHERE VerseNumber = 1");
@@ -142,7 +142,7 @@ TEST_F(SmallSource, twoOfThemShareOneBlock)
     EXPECT_EQ(kept, Database::open(m_folder.file()));
 }
 
-TEST_F(SmallSource, walksEachItsOwnRows)
+TEST_F(SmallSource, WalksEachItsOwnRows)
 {
     DataSource other;
     openIn(other, m_folder.file(), "SELECT * FROM NewTestament");
@@ -153,7 +153,7 @@ TEST_F(SmallSource, walksEachItsOwnRows)
     EXPECT_EQ(m_source.field(0), "Gn:1:3");
 }
 
-TEST_F(SmallSource, goesOnAfterTheFileIsRemovedOrReplaced)
+TEST_F(SmallSource, GoesOnAfterTheFileIsRemovedOrReplaced)
 {
     run("SELECT * FROM NewTestament");
     std::filesystem::remove(m_folder.file());
@@ -165,21 +165,21 @@ TEST_F(SmallSource, goesOnAfterTheFileIsRemovedOrReplaced)
     EXPECT_EQ(run("SELECT * FROM NewTestament WHERE VerseNumber = 6").field(0), "Gn:1:3");
 }
 
-TEST_F(SmallSource, readsTheFileAnewOnceNobodyHoldsIt)
+TEST_F(SmallSource, ReadsTheFileAnewOnceNobodyHoldsIt)
 {
     EXPECT_EQ(keys(m_folder.file(), "").size(), 6U);
     makeDatabase(m_folder.file(), "DELETE FROM NewTestament WHERE VerseNumber > 2");
     EXPECT_THAT(keys(m_folder.file(), ""), ElementsAre("Mt:1:1", "Mt:2:1"));
 }
 
-TEST_F(SmallSource, leavesNoFileBeside)
+TEST_F(SmallSource, LeavesNoFileBeside)
 {
     run("SELECT * FROM NewTestament WHERE KJVerseText LIKE '*a*' OR VerseId LIKE '*1*' ORDER BY KJVerseText");
     const auto files = std::distance(std::filesystem::directory_iterator(m_folder.path()), {});
     EXPECT_EQ(files, 1);
 }
 
-TEST_F(SmallSource, onlyReads)
+TEST_F(SmallSource, OnlyReads)
 {
     const auto before = std::filesystem::last_write_time(m_folder.file());
     for (const char* sql :
@@ -199,7 +199,7 @@ TEST_F(SmallSource, onlyReads)
     EXPECT_EQ(keys(m_folder.file(), "").size(), 6U);
 }
 
-TEST_F(SmallSource, refusesAnSqlTextOfUnreasonableLength)
+TEST_F(SmallSource, RefusesAnSqlTextOfUnreasonableLength)
 {
     const DataError error =
         errorOf("SELECT * FROM NewTestament WHERE KJVerseText LIKE '*" + std::string(200'000, 'a') + "*'");
@@ -210,7 +210,7 @@ class OddPath : public testing::TestWithParam<std::string>
 {
 };
 
-TEST_P(OddPath, isTakenLiterally)
+TEST_P(OddPath, IsTakenLiterally)
 {
     const TestFolder folder;
     const std::string path = folder.file(GetParam());
@@ -224,7 +224,7 @@ INSTANTIATE_TEST_SUITE_P(names, OddPath,
                                          "\xFF", "'", "a+b", "quot\"e", "back\\slash", "new\nline",
                                          "dir/é?/#/KESTRPT.DAT", std::string(200, 'x')));
 
-TEST(Paths, mayBeRelativeDoubledOrThroughALink)
+TEST(Paths, MayBeRelativeDoubledOrThroughALink)
 {
     const TestFolder folder;
     makeDatabase(folder.file(), smallBible);
@@ -237,7 +237,7 @@ TEST(Paths, mayBeRelativeDoubledOrThroughALink)
     EXPECT_EQ(keys(folder.file("link"), "").size(), 6U);
 }
 
-TEST(Paths, aReadOnlyFileInAReadOnlyFolderWillDo)
+TEST(Paths, AReadOnlyFileInAReadOnlyFolderWillDo)
 {
     const TestFolder folder;
     makeDatabase(folder.file(), smallBible + "PRAGMA journal_mode = WAL;");
@@ -248,7 +248,7 @@ TEST(Paths, aReadOnlyFileInAReadOnlyFolderWillDo)
     EXPECT_FALSE(std::filesystem::exists(folder.file("KESTRPT.DAT-shm")));
 }
 
-TEST(Paths, whatIsNoFileCannotBeOpenedAndIsNotCreated)
+TEST(Paths, WhatIsNoFileCannotBeOpenedAndIsNotCreated)
 {
     const TestFolder folder;
     ASSERT_EQ(mkfifo(folder.file("pipe").c_str(), 0600), 0);

@@ -28,7 +28,7 @@ protected:
     void TearDown() override { std::setlocale(LC_CTYPE, "C"); }
 };
 
-TEST_F(LetterCase, agreesWithTheLibraryOnLatinGreekAndCyrillic)
+TEST_F(LetterCase, AgreesWithTheLibraryOnLatinGreekAndCyrillic)
 {
     const std::pair<char32_t, char32_t> scripts[] = {{0x00, 0x24F},    {0x370, 0x3FF},   {0x400, 0x52F},
                                                      {0x1E00, 0x1FFF}, {0x2C60, 0x2C7F}, {0xA640, 0xA69F},
@@ -43,7 +43,7 @@ TEST_F(LetterCase, agreesWithTheLibraryOnLatinGreekAndCyrillic)
     EXPECT_GT(pairs, 600);
 }
 
-TEST_F(LetterCase, pairsAreMutualAndEquallyLong)
+TEST_F(LetterCase, PairsAreMutualAndEquallyLong)
 {
     for (char32_t c = 0; c < 0x110100; ++c) {
         const char32_t other = toOtherCase(c);
@@ -55,7 +55,7 @@ TEST_F(LetterCase, pairsAreMutualAndEquallyLong)
     }
 }
 
-TEST_F(LetterCase, leavesLettersWithoutAnEquallyLongPartnerAlone)
+TEST_F(LetterCase, LeavesLettersWithoutAnEquallyLongPartnerAlone)
 {
     for (const char32_t c : {U'×', U'÷', U'ß', U'\u212A' /* Kelvin */, U'İ', U'ı', U'ẞ', U'ſ'}) {
         EXPECT_EQ(toSmallLetter(c), c);
@@ -64,14 +64,14 @@ TEST_F(LetterCase, leavesLettersWithoutAnEquallyLongPartnerAlone)
     EXPECT_EQ(toSmallLetter(U'Ÿ'), U'ÿ');
 }
 
-TEST_F(LetterCase, foldingKeepsEveryByteInItsPlace)
+TEST_F(LetterCase, FoldingKeepsEveryByteInItsPlace)
 {
     EXPECT_EQ(foldCase("ÁGUA É Vida ΣΙΩΝ Бог"), "água é vida σιων бог");
     const std::string stray = "A\xFF\xC3(\xE2\x82\xF0\x9F\x98";
     EXPECT_EQ(foldCase(stray), "a\xFF\xC3(\xE2\x82\xF0\x9F\x98");
 }
 
-TEST_F(LetterCase, isTheSameInATurkishLocale)
+TEST_F(LetterCase, IsTheSameInATurkishLocale)
 {
     std::setlocale(LC_ALL, "tr_TR.UTF-8");
     EXPECT_EQ(foldCase("I"), "i");

@@ -23,7 +23,7 @@ class LikeTable : public testing::TestWithParam<Row>
 {
 };
 
-TEST_P(LikeTable, decides)
+TEST_P(LikeTable, Decides)
 {
     const Row& row = GetParam();
     EXPECT_EQ(LikePattern(row.pattern).matches(row.text), row.matches) << row.pattern << " on " << row.text;
@@ -72,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(strayBytes, LikeTable,
                                          Row{"??", "\xC0\x80", true}, Row{"[\xFF]", "\xFF", true},
                                          Row{"[!a]", "\xFF", true}, Row{"????", "\xF4\x90\x80\x80", true}));
 
-TEST(LikePattern, refusesWhatCannotBeValid)
+TEST(LikePattern, RefusesWhatCannotBeValid)
 {
     for (const char* pattern :
          {"[", "[a", "*[", "[!", "[a-", "[z-a]", "[a-Z]", "a[b]c[", "[9-0]", "[a--]", "[]["}) {
@@ -87,7 +87,7 @@ TEST(LikePattern, refusesWhatCannotBeValid)
     }
 }
 
-TEST(LikePattern, wholeWordNeedsACharacterOnBothSides)
+TEST(LikePattern, WholeWordNeedsACharacterOnBothSides)
 {
     const LikePattern word("*[!0-9a-zA-Z]amor[!0-9a-zA-Z]*");
     EXPECT_TRUE(word.matches(" Amor, sim"));
@@ -97,7 +97,7 @@ TEST(LikePattern, wholeWordNeedsACharacterOnBothSides)
     EXPECT_TRUE(word.matches(" o amoré amor é"));
 }
 
-TEST(LikePattern, tellsWhatEveryMatchBeginsWithAndContains)
+TEST(LikePattern, TellsWhatEveryMatchBeginsWithAndContains)
 {
     EXPECT_EQ(LikePattern("Ps:119:1*").prefix(), "ps:119:1");
     EXPECT_EQ(LikePattern("*a").prefix(), "");
@@ -111,7 +111,7 @@ TEST(LikePattern, tellsWhatEveryMatchBeginsWithAndContains)
     EXPECT_FALSE(LikePattern("*[a]mor*").isPieceAlone());
 }
 
-TEST(LikePattern, agreesWithTheWitnessOnRandomPatterns)
+TEST(LikePattern, AgreesWithTheWitnessOnRandomPatterns)
 {
     const std::vector<std::string> letters = {"a", "B", "b", "é", "É", "×",    "÷",    "σ", "Σ", "5",
                                               "-", "!", "@", "`", " ", "\xFF", "\xC3", "ÿ", "Ÿ", "\u212A"};
@@ -144,7 +144,7 @@ TEST(LikePattern, agreesWithTheWitnessOnRandomPatterns)
     EXPECT_GT(invalid, 1000);
 }
 
-TEST(LikePattern, doesNotBlowUpOnManyRuns)
+TEST(LikePattern, DoesNotBlowUpOnManyRuns)
 {
     std::string pattern;
     for (int i = 0; i < 500; ++i)

@@ -1,7 +1,7 @@
 // Memory that runs out: whichever allocation fails, of the engine's or of ours, the answer is an error or the
 // right one, and the same question is answered when there is memory again.
-#include "Allocations.h"
-#include "TestDatabase.h"
+#include "store/Allocations.h"
+#include "store/TestDatabase.h"
 #include <functional>
 
 namespace {
@@ -81,7 +81,7 @@ protected:
     DataSource m_kept;
 };
 
-TEST_P(FailingMemory, whileAnOpenDatabaseIsAskedIsAnError)
+TEST_P(FailingMemory, WhileAnOpenDatabaseIsAskedIsAnError)
 {
     EXPECT_GT(failEach(false, [this] { return askKept(); }), 5);
     EXPECT_GT(failEach(true, [this] { return askKept(); }), 5);
@@ -103,13 +103,13 @@ class FailingMemoryAtTheOpening : public FailingMemory
 {
 };
 
-TEST_P(FailingMemoryAtTheOpening, isAnError)
+TEST_P(FailingMemoryAtTheOpening, IsAnError)
 {
     EXPECT_GT(failEach(false, [this] { return askAnew(); }), 100);
     EXPECT_GT(failEach(true, [this] { return askAnew(); }), 100);
 }
 
-TEST_P(FailingMemoryAtTheOpening, isForgottenByTheSameSourcesNextUse)
+TEST_P(FailingMemoryAtTheOpening, IsForgottenByTheSameSourcesNextUse)
 {
     const Answer expected = askAnew();
     bool failed = true;

@@ -1,7 +1,7 @@
 // Queries over the whole Bible, as it is installed, and over small tables whose rows lie in any order.
 #include "store/BookCatalog.h"
+#include "store/TestDatabase.h"
 #include "support/SlowLike.h"
-#include "TestDatabase.h"
 #include <functional>
 #include <gmock/gmock.h>
 
@@ -28,7 +28,7 @@ class FirstRow : public testing::TestWithParam<First>
 {
 };
 
-TEST_P(FirstRow, isTheLowestNumbered)
+TEST_P(FirstRow, IsTheLowestNumbered)
 {
     DataSource source;
     openIn(source, bible, "SELECT * FROM NewTestament WHERE " + GetParam().condition);
@@ -80,7 +80,7 @@ protected:
     }
 };
 
-TEST_F(WholeBible, has31102VersesNumberedWithoutGaps)
+TEST_F(WholeBible, Has31102VersesNumberedWithoutGaps)
 {
     DataSource source;
     int expected = 0;
@@ -94,7 +94,7 @@ TEST_F(WholeBible, has31102VersesNumberedWithoutGaps)
     EXPECT_EQ(source.recordCount(), 31102);
 }
 
-TEST_F(WholeBible, keepsEveryBookTogetherNewTestamentFirst)
+TEST_F(WholeBible, KeepsEveryBookTogetherNewTestamentFirst)
 {
     int next = 1;
     for (const std::string_view testament : {"New Testament", "Old Testament"}) {
@@ -132,7 +132,7 @@ class SearchShape : public testing::TestWithParam<Shape>
 {
 };
 
-TEST_P(SearchShape, findsWhatAPlainWalkFindsInOrder)
+TEST_P(SearchShape, FindsWhatAPlainWalkFindsInOrder)
 {
     std::vector<std::string> expected;
     DataSource all;
@@ -194,19 +194,19 @@ const std::vector<Shape> shapes = {
 
 INSTANTIATE_TEST_SUITE_P(all, SearchShape, testing::ValuesIn(shapes));
 
-TEST_F(WholeBible, findsNothingForNull)
+TEST_F(WholeBible, FindsNothingForNull)
 {
     EXPECT_THAT(keys(bible, " WHERE KJVerseText LIKE NULL"), IsEmpty());
     EXPECT_THAT(keys(bible, " WHERE KJVerseText NOT LIKE NULL"), IsEmpty());
     EXPECT_THAT(keys(bible, " WHERE VerseId LIKE NULL OR VerseNumber = NULL OR VerseId = NULL"), IsEmpty());
 }
 
-TEST_F(WholeBible, anEmptyBracketAddsNothingToAPattern)
+TEST_F(WholeBible, AnEmptyBracketAddsNothingToAPattern)
 {
     EXPECT_EQ(numbers("VerseId LIKE 'Gn:[]1:1'"), std::vector<int>{7958});
 }
 
-TEST_F(WholeBible, readsOnlyAsFarAsItIsAsked)
+TEST_F(WholeBible, ReadsOnlyAsFarAsItIsAsked)
 {
     DataSource source;
     openIn(source, bible, "SELECT * FROM NewTestament WHERE VerseId LIKE 'Ps:*'");
@@ -216,7 +216,7 @@ TEST_F(WholeBible, readsOnlyAsFarAsItIsAsked)
     EXPECT_EQ(source.field(0), "Ps:1:2");
 }
 
-TEST_F(WholeBible, hasOneBlankBetweenKeyAndText)
+TEST_F(WholeBible, HasOneBlankBetweenKeyAndText)
 {
     DataSource source;
     openIn(source, bible, "SELECT * FROM NewTestament WHERE VerseId = 'Mt:24:43'");
@@ -225,7 +225,7 @@ TEST_F(WholeBible, hasOneBlankBetweenKeyAndText)
     EXPECT_NE(line[line.find(' ') + 1], ' ');
 }
 
-TEST_F(WholeBible, reportsInvalidPatternsAsError93WhereverTheyStand)
+TEST_F(WholeBible, ReportsInvalidPatternsAsError93WhereverTheyStand)
 {
     for (const char* conditions :
          {"KJVerseText LIKE '*[a*'", "KJVerseText NOT LIKE '*[a*'", "VerseId LIKE '[z-a]*'",
@@ -238,7 +238,7 @@ TEST_F(WholeBible, reportsInvalidPatternsAsError93WhereverTheyStand)
     }
 }
 
-TEST_F(WholeBible, anApostropheBreaksTheQueryWithTheEnginesOwnText)
+TEST_F(WholeBible, AnApostropheBreaksTheQueryWithTheEnginesOwnText)
 {
     const DataError error = errorOf(bible, "SELECT * FROM NewTestament WHERE VerseId LIKE 'd'água*'");
     EXPECT_EQ(error.number(), SQLITE_ERROR);
@@ -246,7 +246,7 @@ TEST_F(WholeBible, anApostropheBreaksTheQueryWithTheEnginesOwnText)
     EXPECT_NE(errorOf(bible, "SELECT * FROM NewTestament WHERE VerseId LIKE ''*'").number(), 0);
 }
 
-TEST(SmallBible, comesInOrderHoweverItIsStored)
+TEST(SmallBible, ComesInOrderHoweverItIsStored)
 {
     const TestFolder folder;
     makeDatabase(folder.file(), smallBible);
@@ -261,7 +261,7 @@ TEST(SmallBible, comesInOrderHoweverItIsStored)
                 ElementsAre("Mt:2:1", "Gn:1:1"));
 }
 
-TEST(SmallBible, getsItsLeadingBlankWhereTheFileLacksIt)
+TEST(SmallBible, GetsItsLeadingBlankWhereTheFileLacksIt)
 {
     const TestFolder folder;
     makeDatabase(folder.file(), smallBible);
@@ -271,7 +271,7 @@ TEST(SmallBible, getsItsLeadingBlankWhereTheFileLacksIt)
     EXPECT_THAT(keys(folder.file(), " WHERE KJVerseText LIKE '*[!a-z]No[!a-z]*'"), ElementsAre("Gn:1:1"));
 }
 
-TEST(SmallBible, mayEndInTheMiddleOfAPieceThatTheNextVerseContinues)
+TEST(SmallBible, MayEndInTheMiddleOfAPieceThatTheNextVerseContinues)
 {
     const TestFolder folder;
     makeDatabase(folder.file(),
@@ -284,7 +284,7 @@ TEST(SmallBible, mayEndInTheMiddleOfAPieceThatTheNextVerseContinues)
     EXPECT_THAT(keys(folder.file(), " WHERE KJVerseText LIKE '*um?'"), IsEmpty());
 }
 
-TEST(SmallBible, answersAllRowsInDescendingOrderToo)
+TEST(SmallBible, AnswersAllRowsInDescendingOrderToo)
 {
     const TestFolder folder;
     makeDatabase(folder.file(), smallBible);

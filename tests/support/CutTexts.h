@@ -1,7 +1,7 @@
 #pragma once
 
 #include "read/VerseKeyLabel.h"
-#include "widgets/VerseLabel.h"
+#include "read/VerseLabel.h"
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>

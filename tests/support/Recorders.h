@@ -1,7 +1,7 @@
 #pragma once
 
-#include "widgets/MsgBox.h"
-#include "widgets/Platform.h"
+#include "desktop/MsgBox.h"
+#include "desktop/Platform.h"
 #include <QList>
 
 /// Records every message box while it lives, and answers it.

@@ -11,7 +11,7 @@ from zoneinfo import ZoneInfo
 import pytest
 from tools_support import SOURCE, run
 
-# Of the whole database, as one version of the engine writes it; new after every change of its data.
+# Of the whole database, as one version of SQLite writes it; new after every change of its data.
 DATABASE_SHA256 = "4d75d0d0e0a20a845ffe1b076e862f047148d1549e56d175548a1683901d2fbb"
 ENGINE = "3.40.1"
 CORRECTED_SHA256 = "977b2848297e2cca07927de47ebf0ea2ef69ac4b4527432151336dd400b0a3b9"

@@ -1,11 +1,11 @@
 // A monkey at the real frame: thousands of random events, and after each what must always hold.
 #include "app/frmStart.h"
-#include "app/Help.h"
-#include "app/HelpWindow.h"
-#include "app/LetterWindow.h"
+#include "app/TextWindow.h"
+#include "clip/AnimationPlayer.h"
+#include "help/Help.h"
+#include "help/HelpWindow.h"
 #include "search/ResultsList.h"
 #include "support/Session.h"
-#include "widgets/AnimationPlayer.h"
 #include "widgets/SoftBttn.h"
 #include "widgets/Twips.h"
 #include <chrono>
@@ -376,7 +376,7 @@ protected:
     void useDialog()
     {
         QWidget* dialog = QApplication::activeModalWidget();
-        if (auto* letter = qobject_cast<LetterWindow*>(dialog)) {
+        if (auto* letter = qobject_cast<TextWindow*>(dialog)) {
             tell("    close " + nameOf(letter));
             letter->close();
         } else if (auto* about = qobject_cast<frmStart*>(dialog)) {

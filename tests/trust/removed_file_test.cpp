@@ -1,7 +1,7 @@
 // The program reads its database once and for good: what becomes of the file afterwards has no effect.
 #include "app/Program.h"
+#include "desktop/BasePath.h"
 #include "support/Session.h"
-#include "widgets/BasePath.h"
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>

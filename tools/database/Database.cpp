@@ -9,9 +9,9 @@
 
 namespace {
 
-// The engine's own file format: where a row's payload begins to spill over, and what an overflow page takes.
+// SQLite's file format: where a row's payload begins to spill over, and what an overflow page takes.
 constexpr int overflowPageLoad = databasePageSize - 4;
-constexpr int leastLocalPayload = (databasePageSize - 12) * 32 / 255 - 23;
+constexpr int minLocalPayload = (databasePageSize - 12) * 32 / 255 - 23;
 
 class Connection
 {
@@ -152,7 +152,7 @@ int pageCount(Connection& connection)
 /// The length of a blob of zeros whose row takes exactly this many overflow pages.
 int fillerLength(int overflowPages)
 {
-    const int payload = leastLocalPayload + overflowPages * overflowPageLoad;
+    const int payload = minLocalPayload + overflowPages * overflowPageLoad;
     // The row's header: its own length, and the blob's type in as many bytes of seven bits as it needs.
     int typeBytes = 1;
     while ((2LL * payload + 12) >> (7 * typeBytes) != 0)
@@ -171,7 +171,7 @@ void addFreePages(Connection& connection, int pages)
             .number(fillerLength(pages - 1))
             .insert();
     if (pageCount(connection) != databasePages)
-        throw InputError("The database cannot be built: the engine stores the filling in other than " +
+        throw InputError("The database cannot be built: SQLite stores the filling in other than " +
                          std::to_string(pages) + " pages.");
     connection.run("DROP TABLE Filler");
 }

@@ -1,0 +1,11 @@
+#include "desktop/BasePath.h"
+
+#include <QDir>
+
+QString basePath(QString directory)
+{
+    directory = QDir::toNativeSeparators(directory);
+    if (!directory.endsWith(QDir::separator()))
+        directory += QDir::separator();
+    return directory;
+}

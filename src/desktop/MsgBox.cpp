@@ -1,0 +1,70 @@
+#include "desktop/MsgBox.h"
+
+#include <QApplication>
+#include <QGridLayout>
+#include <QMessageBox>
+
+namespace {
+
+QMessageBox::Icon iconOf(MsgIcon icon)
+{
+    switch (icon) {
+    case MsgIcon::Stop:
+        return QMessageBox::Critical;
+    case MsgIcon::Question:
+        return QMessageBox::Question;
+    case MsgIcon::Exclamation:
+        return QMessageBox::Warning;
+    case MsgIcon::Information:
+        break;
+    }
+    return QMessageBox::Information;
+}
+
+/// The window manager draws the title, in bold letters between an icon and three buttons, and cuts it where
+/// the box is narrower. QMessageBox takes its width from the text alone, so a spacer widens the box.
+void makeRoomForTitle(QMessageBox& box)
+{
+    QFont bold = box.font();
+    bold.setBold(true);
+    constexpr int beside = 4 * 28; // pixels
+    const int room = QFontMetrics(bold).horizontalAdvance(box.windowTitle()) + beside;
+    auto& layout = *qobject_cast<QGridLayout*>(box.layout());
+    layout.addItem(new QSpacerItem(room, 0), layout.rowCount(), 0, 1, layout.columnCount());
+}
+
+MsgAnswer showBox(const MsgBox::Message& message)
+{
+    QMessageBox box(QApplication::activeWindow());
+    box.setWindowTitle(message.title);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QString(message.text).replace("\r\n", "\n"));
+    box.setIcon(iconOf(message.icon));
+    const bool asks = message.buttons == MsgButtons::YesNo;
+    box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+    box.setDefaultButton(asks ? QMessageBox::Yes : QMessageBox::Ok);
+    box.setEscapeButton(asks ? QMessageBox::No : QMessageBox::Ok);
+    makeRoomForTitle(box);
+    const int answer = box.exec();
+    if (!asks)
+        return MsgAnswer::Ok;
+    return answer == QMessageBox::Yes ? MsgAnswer::Yes : MsgAnswer::No;
+}
+
+MsgBox::BackEnd& backEnd()
+{
+    static MsgBox::BackEnd current = showBox;
+    return current;
+}
+
+} // namespace
+
+MsgAnswer MsgBox::show(const QString& text, MsgIcon icon, MsgButtons buttons, const QString& title)
+{
+    return backEnd()({text, icon, buttons, title});
+}
+
+void MsgBox::setBackEnd(BackEnd replacement)
+{
+    backEnd() = replacement ? std::move(replacement) : BackEnd(showBox);
+}

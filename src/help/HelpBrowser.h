@@ -1,0 +1,31 @@
+#pragma once
+
+#include "help/HelpFile.h"
+#include <QTextBrowser>
+
+/// Shows one page of the help at a time and remembers the way back. Links to pages are followed here; all
+/// others are the desktop's.
+class HelpBrowser : public QTextBrowser
+{
+    Q_OBJECT
+
+public:
+    HelpBrowser(const QList<HelpPage>& pages, QWidget* parent);
+
+    /// Shows a page by its name.
+    void showPage(const QString& name);
+    /// The name of the page that is shown.
+    QString page() const;
+
+    /// Selects the next (or previous) place where a text stands, on this page or else on one of the following
+    /// (or preceding) ones. False when the help does not have it.
+    bool findText(const QString& text, bool backward);
+
+protected:
+    QVariant loadResource(int type, const QUrl& name) override;
+
+private:
+    void follow(const QUrl& link);
+
+    const QList<HelpPage> m_pages;
+};

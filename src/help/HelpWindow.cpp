@@ -1,0 +1,166 @@
+#include "help/HelpWindow.h"
+
+#include "desktop/Platform.h"
+#include "help/HelpBrowser.h"
+#include "pictures/Pictures.h"
+#include "widgets/Fonts.h"
+#include "widgets/Twips.h"
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QScreen>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QToolButton>
+#include <QWindow>
+
+namespace {
+
+constexpr int smallestZoom = -3;
+constexpr int largestZoom = 20;
+
+} // namespace
+
+HelpWindow::HelpWindow(const QList<HelpPage>& pages)
+    : back(addCommand("back", "Back", {Qt::ALT | Qt::Key_Left}))
+    , forward(addCommand("forward", "Forward", {Qt::ALT | Qt::Key_Right}))
+    , copy(addCommand("copy", "Copy", {Qt::CTRL | Qt::Key_C}))
+    , larger(addCommand("larger", "Larger", {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}))
+    , smaller(addCommand("smaller", "Smaller", {Qt::CTRL | Qt::Key_Minus}))
+    , normalSize(addCommand("normalSize", "Normal Size", {Qt::CTRL | Qt::Key_0}))
+    , find(addCommand("find", "Find", {Qt::CTRL | Qt::Key_F}))
+    , findNext(addCommand("findNext", "Next", {Qt::Key_F3}))
+    , findPrevious(addCommand("findPrevious", "Previous", {Qt::SHIFT | Qt::Key_F3}))
+    , searchText(new QLineEdit(this))
+    , contents(new QListWidget(this))
+    , browser(new HelpBrowser(pages, this))
+    , m_pages(pages)
+{
+    setObjectName("HelpWindow");
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setWindowTitle("Kestrel Reader Help");
+    setWindowIcon(picture(PictureId::Application));
+    searchText->setObjectName("searchText");
+    searchText->setAccessibleName("Find:");
+    contents->setObjectName("contents");
+    contents->setAccessibleName("Contents");
+    for (const HelpPage& page : pages)
+        contents->addItem(page.title);
+    browser->setObjectName("browser");
+    browser->setFont(Fonts::tahomaOf(10));
+    makeToolbar();
+    statusBar()->setSizeGripEnabled(false);
+
+    auto* split = new QSplitter(this);
+    split->addWidget(contents);
+    split->addWidget(browser);
+    split->setStretchFactor(1, 1);
+    split->setSizes({twips(3000), twips(9000)});
+    setCentralWidget(split);
+    resize(QSize(twips(12600), twips(9000)).boundedTo(screen()->availableSize() * 0.92));
+
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+    connect(back, &QAction::triggered, browser, &QTextBrowser::backward);
+    connect(forward, &QAction::triggered, browser, &QTextBrowser::forward);
+    connect(browser, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+    connect(browser, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+    connect(copy, &QAction::triggered, browser, &QTextEdit::copy);
+    connect(browser, &QTextEdit::copyAvailable, copy, &QAction::setEnabled);
+    connect(larger, &QAction::triggered, this, [this] { zoom(1); });
+    connect(smaller, &QAction::triggered, this, [this] { zoom(-1); });
+    connect(normalSize, &QAction::triggered, this, [this] { zoom(-m_zoom); });
+    connect(find, &QAction::triggered, searchText, &QLineEdit::selectAll);
+    connect(find, &QAction::triggered, searchText, [this] { searchText->setFocus(); });
+    connect(findNext, &QAction::triggered, this, [this] { search(false); });
+    connect(findPrevious, &QAction::triggered, this, [this] { search(true); });
+    connect(searchText, &QLineEdit::returnPressed, this, [this] { search(false); });
+    connect(contents, &QListWidget::currentRowChanged, this, &HelpWindow::contentsChosen);
+    connect(browser, &QTextBrowser::historyChanged, this, &HelpWindow::pageChanged);
+    for (QAction* unavailable : {back, forward, copy})
+        unavailable->setEnabled(false);
+    browser->setFocus();
+}
+
+void HelpWindow::showPage(const QString& name)
+{
+    browser->showPage(name);
+}
+
+void HelpWindow::standBeside(const QWidget* modal)
+{
+    // Qt blocks every window while a modal one is open, except the modal window's transient children, and
+    // decides that when a window is shown: the native window must exist and have its parent before show().
+    winId();
+    QWindow* const owner = modal ? modal->windowHandle() : nullptr;
+    if (windowHandle()->transientParent() != owner) {
+        hide();
+        windowHandle()->setTransientParent(owner);
+    }
+    if (isMinimized())
+        showNormal();
+    show();
+}
+
+void HelpWindow::pageChanged()
+{
+    for (int row = 0; row < m_pages.size(); ++row)
+        if (m_pages[row].name == browser->page())
+            contents->setCurrentRow(row);
+    browser->setAccessibleName(contents->currentItem() ? contents->currentItem()->text() : QString());
+    statusBar()->clearMessage();
+}
+
+void HelpWindow::contentsChosen(int row)
+{
+    if (row >= 0 && m_pages[row].name != browser->page())
+        showPage(m_pages[row].name);
+}
+
+void HelpWindow::search(bool backward)
+{
+    statusBar()->clearMessage();
+    if (searchText->text().isEmpty() || browser->findText(searchText->text(), backward))
+        return;
+    statusBar()->showMessage("The help does not have \"" + searchText->text() + "\".");
+    Platform::current().beep();
+}
+
+void HelpWindow::zoom(int step)
+{
+    const int wanted = qBound(smallestZoom, m_zoom + step, largestZoom);
+    browser->zoomIn(wanted - m_zoom);
+    m_zoom = wanted;
+}
+
+QAction* HelpWindow::addCommand(const QString& name, const QString& text, const QList<QKeySequence>& keys)
+{
+    auto* action = new QAction(text, this);
+    action->setObjectName(name);
+    action->setShortcuts(keys);
+    action->setToolTip(text + " (" + keys.first().toString(QKeySequence::NativeText) + ")");
+    addAction(action);
+    return action;
+}
+
+void HelpWindow::makeToolbar()
+{
+    auto* toolbar = addToolBar("Help Toolbar");
+    toolbar->setObjectName("toolbar");
+    toolbar->setMovable(false);
+    toolbar->addActions({back, forward});
+    toolbar->addSeparator();
+    auto* label = new QLabel("Find: ", toolbar);
+    label->setBuddy(searchText);
+    toolbar->addWidget(label);
+    toolbar->addWidget(searchText);
+    toolbar->addActions({findNext, findPrevious});
+    toolbar->addSeparator();
+    toolbar->addActions({copy, larger, smaller, normalSize});
+    for (auto* button : toolbar->findChildren<QToolButton*>())
+        button->setFocusPolicy(Qt::TabFocus);
+    setContextMenuPolicy(Qt::NoContextMenu); // the toolbar cannot be hidden
+}

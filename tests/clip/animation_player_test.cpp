@@ -1,0 +1,154 @@
+#include "clip/AnimationPlayer.h"
+#include "clip/AviBytes.h"
+#include <gtest/gtest.h>
+#include <QPaintEvent>
+#include <QTemporaryDir>
+#include <QTest>
+#include <sys/stat.h>
+
+namespace {
+class CountingPlayer : public AnimationPlayer
+{
+public:
+    int paints = 0;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        ++paints;
+        AnimationPlayer::paintEvent(event);
+    }
+};
+
+class AnimationPlayerTest : public testing::Test
+{
+protected:
+    QString write(const QByteArray& bytes)
+    {
+        const QString path = folder.filePath("clip.avi");
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return path;
+    }
+
+    void show()
+    {
+        player.resize(48, 32);
+        player.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&player));
+        QCoreApplication::processEvents();
+        player.paints = 0;
+    }
+
+    QColor middle()
+    {
+        return player.grab().toImage().pixelColor(player.rect().center() * player.devicePixelRatioF());
+    }
+
+    QTemporaryDir folder;
+    CountingPlayer player;
+};
+} // namespace
+
+TEST_F(AnimationPlayerTest, OpensAGoodClip)
+{
+    EXPECT_TRUE(player.open(write(AviBytes::goodClip())));
+    EXPECT_EQ(player.frameCount(), 3);
+    EXPECT_EQ(player.sizeHint(), QSize(24, 16));
+    EXPECT_FALSE(player.isPlaying());
+}
+
+TEST_F(AnimationPlayerTest, ABadOrMissingClipLeavesItEmpty)
+{
+    ASSERT_TRUE(player.open(write(AviBytes::goodClip())));
+    EXPECT_FALSE(player.open(write(QByteArray(60, 'x'))));
+    EXPECT_EQ(player.frameCount(), 0);
+    EXPECT_FALSE(player.open(write({})));
+    EXPECT_FALSE(player.open(folder.filePath("missing.avi")));
+    EXPECT_FALSE(player.open(folder.path()));
+}
+
+TEST_F(AnimationPlayerTest, APipeIsNotOpened)
+{
+    const QString path = folder.filePath("pipe");
+    ASSERT_EQ(mkfifo(qPrintable(path), 0600), 0);
+    EXPECT_FALSE(player.open(path)) << "and above all it returns";
+}
+
+TEST_F(AnimationPlayerTest, AnEmptyPlayerPlaysNothing)
+{
+    show();
+    player.play();
+    player.tick();
+    EXPECT_FALSE(player.isPlaying());
+    EXPECT_EQ(player.paints, 0);
+    player.stop();
+}
+
+TEST_F(AnimationPlayerTest, PlayShowsTheFirstFrameWithoutWaitingForEvents)
+{
+    player.open(write(AviBytes::goodClip()));
+    show();
+    player.play();
+    EXPECT_EQ(player.paints, 1);
+    EXPECT_EQ(player.currentFrame(), 0);
+    EXPECT_GT(middle().red(), 240);
+}
+
+TEST_F(AnimationPlayerTest, TickShowsTheFrameOfTheElapsedTimeOnce)
+{
+    player.open(write(
+        AviBytes::file(AviBytes::headers(300'000), AviBytes::chunk("00dc", AviBytes::jpeg(Qt::red)) +
+                                                       AviBytes::chunk("00dc", AviBytes::jpeg(Qt::blue)))));
+    show();
+    player.play();
+    player.tick();
+    EXPECT_EQ(player.paints, 1) << "the first frame still stands";
+    QTest::qSleep(400);
+    player.tick();
+    player.tick();
+    EXPECT_EQ(player.paints, 2);
+    EXPECT_EQ(player.currentFrame(), 1);
+    EXPECT_GT(middle().blue(), 240);
+    QTest::qSleep(300);
+    player.tick();
+    EXPECT_EQ(player.currentFrame(), 0) << "the clip goes round";
+}
+
+TEST_F(AnimationPlayerTest, TickAfterStopDoesNothing)
+{
+    player.open(write(AviBytes::goodClip()));
+    show();
+    player.play();
+    player.stop();
+    player.paints = 0;
+    QTest::qSleep(30);
+    player.tick();
+    EXPECT_FALSE(player.isPlaying());
+    EXPECT_EQ(player.paints, 0);
+}
+
+TEST_F(AnimationPlayerTest, PlayBeginsAgainAtTheFirstFrame)
+{
+    player.open(write(AviBytes::goodClip()));
+    show();
+    player.play();
+    QTest::qSleep(25);
+    player.tick();
+    EXPECT_NE(player.currentFrame(), 0);
+    player.stop();
+    player.play();
+    EXPECT_EQ(player.currentFrame(), 0);
+}
+
+TEST_F(AnimationPlayerTest, OpeningAnotherClipStopsTheFirst)
+{
+    player.open(write(AviBytes::goodClip()));
+    player.play();
+    player.open(write({}));
+    EXPECT_FALSE(player.isPlaying());
+    show();
+    player.tick();
+    EXPECT_EQ(player.paints, 0);
+}

@@ -1,0 +1,72 @@
+#include "desktop/MsgBox.h"
+#include "support/OnceModal.h"
+#include <gtest/gtest.h>
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+
+namespace {
+
+/// Looks at the open message box and answers it with a key.
+template <class Look>
+[[nodiscard]] std::unique_ptr<QTimer> whenShown(Qt::Key answer, Look look)
+{
+    return onceModal([answer, look](QWidget& window) {
+        auto* box = qobject_cast<QMessageBox*>(&window);
+        ASSERT_NE(box, nullptr);
+        look(*box);
+        QTest::keyClick(box, answer);
+    });
+}
+
+} // namespace
+
+TEST(MsgBox, ShowsTextTitleIconAndOneButton)
+{
+    const auto looking = whenShown(Qt::Key_Return, [](QMessageBox& box) {
+        EXPECT_EQ(box.text(), "first\n\nsecond <b>");
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.windowTitle(), "Title");
+        EXPECT_EQ(box.icon(), QMessageBox::Warning);
+        EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+    });
+    EXPECT_EQ(MsgBox::show("first\r\n\r\nsecond <b>", MsgIcon::Exclamation, MsgButtons::Ok, "Title"),
+              MsgAnswer::Ok);
+}
+
+TEST(MsgBox, CarriesTheApplicationTitleUnlessGivenAnother)
+{
+    const auto looking = whenShown(Qt::Key_Escape, [](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), "Kestrel Reader: Portuguese Version");
+        EXPECT_EQ(box.icon(), QMessageBox::Critical);
+    });
+    EXPECT_EQ(MsgBox::show("text", MsgIcon::Stop), MsgAnswer::Ok);
+}
+
+/// It is drawn by the desktop: between a mark at its left and three buttons at its right, in bold letters.
+TEST(MsgBox, HasRoomForItsWholeTitle)
+{
+    const QString title = "Search Results:";
+    QFont bold = QApplication::font();
+    bold.setBold(true);
+    const auto looking = whenShown(Qt::Key_Return, [&](QMessageBox& box) {
+        EXPECT_GE(box.width(), QFontMetrics(bold).horizontalAdvance(title) + 4 * 24);
+        EXPECT_LE(box.width(), 2 * QFontMetrics(bold).horizontalAdvance(title) + 4 * 24);
+    });
+    MsgBox::show("No matching verses.", MsgIcon::Information, MsgButtons::Ok, title);
+}
+
+TEST(MsgBox, AsksYesOrNoAndTakesClosingForNo)
+{
+    auto looking =
+        whenShown(Qt::Key_Return, [](QMessageBox& box) { EXPECT_EQ(box.icon(), QMessageBox::Question); });
+    EXPECT_EQ(MsgBox::show("?", MsgIcon::Question, MsgButtons::YesNo), MsgAnswer::Yes);
+    looking = whenShown(Qt::Key_Escape, [](QMessageBox&) {});
+    EXPECT_EQ(MsgBox::show("?", MsgIcon::Question, MsgButtons::YesNo), MsgAnswer::No);
+    looking = whenShown(Qt::Key_N, [](QMessageBox& box) {
+        EXPECT_EQ(box.button(QMessageBox::No)->text().remove('&'), "No");
+        QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton);
+    });
+    EXPECT_EQ(MsgBox::show("?", MsgIcon::Question, MsgButtons::YesNo), MsgAnswer::No);
+}

@@ -1,0 +1,593 @@
+// The help: its text, the ways to it, and its window.
+#include "app/HelpPage.h"
+#include "help/Help.h"
+#include "help/HelpBrowser.h"
+#include "help/HelpFile.h"
+#include "help/HelpWindow.h"
+#include "store/BookCatalog.h"
+#include "support/OnceModal.h"
+#include "support/Session.h"
+#include "widgets/Maker.h"
+#include "widgets/SoftBttn.h"
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QWindow>
+
+namespace {
+
+const QString helpSource = QStringLiteral(KESTREL_SOURCE_DIR "/data/help/kestrel.html");
+
+const QList<HelpPage>& shippedPages()
+{
+    static const QList<HelpPage> pages = readHelpFile(helpSource);
+    return pages;
+}
+
+QString allOfTheHelp()
+{
+    QString text;
+    for (const HelpPage& page : shippedPages())
+        text += page.html;
+    return text;
+}
+
+QStringList pageNames()
+{
+    QStringList names;
+    for (const HelpPage& page : shippedPages())
+        names << page.name;
+    return names;
+}
+
+QString pageHtml(const QString& name)
+{
+    for (const HelpPage& page : shippedPages())
+        if (page.name == name)
+            return page.html;
+    return {};
+}
+
+/// Whether a page has a row of keys that says what this key does.
+bool hasKey(const QString& pageName, const QString& key, const QString& meaning)
+{
+    const QString row = "<tr><td><kbd>" + key.toHtmlEscaped() + "</kbd></td><td>" + meaning;
+    return pageHtml(pageName).contains(row);
+}
+
+bool mentionsKey(const QString& pageName, const QString& key)
+{
+    return pageHtml(pageName).contains("<tr><td><kbd>" + key + "</kbd></td>");
+}
+
+} // namespace
+
+TEST(HelpFile, ReadsPagesInTheirOrder)
+{
+    const QList<HelpPage> pages =
+        helpPages("<body>\n<section id=\"One\">\n<h1>First</h1><p>a</p></section>\n"
+                  "<section id=\"Two\"><h1>Second</h1>\n<p>b</p>\n</section></body>");
+    ASSERT_EQ(pages.size(), 2);
+    EXPECT_EQ(pages[0].name, "One");
+    EXPECT_EQ(pages[0].title, "First");
+    EXPECT_EQ(pages[0].html, "<h1>First</h1><p>a</p>");
+    EXPECT_EQ(pages[1].name, "Two");
+    EXPECT_TRUE(pages[1].html.contains("<p>b</p>"));
+}
+
+TEST(HelpFile, HasNoPagesWhenItIsMissingEmptyOrNoFile)
+{
+    QTemporaryDir folder;
+    EXPECT_TRUE(readHelpFile(folder.filePath("none")).isEmpty());
+    EXPECT_TRUE(readHelpFile(folder.path()).isEmpty());
+    EXPECT_TRUE(helpPages("").isEmpty());
+    EXPECT_TRUE(helpPages("no pages here").isEmpty());
+}
+
+TEST(HelpText, HasAPageForEveryWindow)
+{
+    for (const char* name : {"MDIParent", "ChildSelect", "ChildRead", "ChapRead", "frmAdvSearch",
+                             "ChildMapSel", "ChildMapDsp", "frmStart", "frmDN", "frmQORV", "HelpWindow"})
+        EXPECT_TRUE(pageNames().contains(name)) << name;
+}
+
+TEST(HelpText, EverySectionIsAPageAndNamesAreUnique)
+{
+    QFile file(helpSource);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll().count("<section"), shippedPages().size());
+    QSet<QString> names;
+    QSet<QString> titles;
+    for (const HelpPage& page : shippedPages()) {
+        names << page.name;
+        titles << page.title;
+    }
+    EXPECT_EQ(names.size(), shippedPages().size());
+    EXPECT_EQ(titles.size(), shippedPages().size());
+}
+
+TEST(HelpText, EveryInternalLinkLeadsToAPage)
+{
+    static const QRegularExpression link("<a href=\"([^\"]*)\"");
+    const QString text = allOfTheHelp();
+    int internal = 0;
+    for (auto matches = link.globalMatch(text); matches.hasNext();) {
+        const QString target = matches.next().captured(1);
+        if (target.startsWith("http"))
+            continue;
+        ++internal;
+        EXPECT_TRUE(target.startsWith('#') && pageNames().contains(target.mid(1))) << target.toStdString();
+    }
+    EXPECT_GT(internal, 20);
+}
+
+TEST(HelpText, ListsEveryBookWithItsAbbreviation)
+{
+    const QString page = pageHtml("Books");
+    for (const Book& book : bookCatalog()) {
+        const QString row = "<td><code>" + QString::fromUtf8(book.abbreviation) + "</code></td><td>" +
+                            QString::fromUtf8(book.name) + "</td>";
+        EXPECT_TRUE(page.contains(row)) << row.toStdString();
+    }
+}
+
+TEST(HelpText, CarriesTheCredits)
+{
+    QString credits = pageHtml("Credits");
+    credits.remove(QRegularExpression("<[^>]*>"));
+    EXPECT_TRUE(
+        credits.contains("Todas as Escrituras em português citadas são da Bíblia Livre (BLIVRE), Copyright © "
+                         "Diego Santos, Mario "
+                         "Sérgio, e Marco Teles, http://sites.google.com/site/biblialivre/ - fevereiro de "
+                         "2018. Licença Creative "
+                         "Commons Atribuição 3.0 Brasil (http://creativecommons.org/licenses/by/3.0/br/). "
+                         "Reprodução permitida desde "
+                         "que devidamente mencionados fonte e autores."));
+    EXPECT_TRUE(
+        credits.contains("Footnotes left out; psalm titles joined to verse 1; words added by the translators "
+                         "in [brackets]; misprints and spacing corrected."));
+    EXPECT_TRUE(credits.contains("Place coordinates: OpenBible.info, CC BY 4.0"));
+    EXPECT_TRUE(credits.contains("Coastlines and rivers: GSHHG 2.3.7"));
+}
+
+TEST(HelpText, ExplainsEveryStartUpMessage)
+{
+    const QString page = pageHtml("Messages");
+    for (const char* message : {"Cannot start more than one copy of Kestrel Reader (PT).",
+                                "Couldn't find file 'SEARCH.AVI'. Please run Setup.",
+                                "Couldn't find file 'KESTRPT.DAT'. Please run Setup.",
+                                "Couldn't find file 'KESTREL.HLP'. Please run Setup.",
+                                "Can't continue; file 'KESTRPT.DAT' has been modified. Please uninstall the "
+                                "program then run Setup again."})
+        EXPECT_TRUE(page.contains(message)) << message;
+    EXPECT_TRUE(page.contains("time zone"));
+}
+
+/// A session in a folder of its own with the help file, and perhaps without it.
+class HelpSession : public Session
+{
+protected:
+    void SetUp() override
+    {
+        QFile::copy(helpSource, folder.filePath("KESTREL.HLP"));
+        QFile::link(KESTREL_INSTALL_DIR "/KESTRPT.DAT", folder.filePath("KESTRPT.DAT"));
+        program = std::make_unique<Program>(folder.path());
+        program->showFrame();
+        QApplication::setActiveWindow(&frame());
+        QTest::qWait(0);
+    }
+
+    HelpWindow* helpWindow() { return frame().help().window(); }
+
+    /// Presses F1 where the focus is, and gives back the name of the page that is then shown.
+    QString pageOnF1()
+    {
+        press(Qt::Key_F1);
+        QTest::qWait(0);
+        return helpWindow() ? helpWindow()->browser->page() : QString();
+    }
+
+    HelpWindow& openHelp(const QString& page)
+    {
+        press(Qt::Key_F1);
+        QTest::qWait(0);
+        EXPECT_NE(helpWindow(), nullptr);
+        helpWindow()->showPage(page);
+        QApplication::setActiveWindow(helpWindow());
+        return *helpWindow();
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(HelpSession, OpensAtThePageOfTheActiveChildWindow)
+{
+    EXPECT_EQ(pageOnF1(), "ChildSelect");
+    QApplication::setActiveWindow(&frame());
+    frame().readingWindow().restoreAndActivate();
+    frame().readingWindow().cmdNext->setFocus();
+    EXPECT_EQ(pageOnF1(), "ChildRead");
+}
+
+TEST_F(HelpSession, FitsOnASmallScreen)
+{
+    pageOnF1();
+    const QSize room = helpWindow()->screen()->availableSize();
+    EXPECT_LT(helpWindow()->width(), room.width());
+    EXPECT_LT(helpWindow()->height(), room.height());
+}
+
+TEST_F(HelpSession, ToolbarBelongsToTheActiveChildWindow)
+{
+    frame().cmdNote->setFocus();
+    EXPECT_EQ(pageOnF1(), "ChildSelect");
+}
+
+TEST_F(HelpSession, OpensAtTheFramesPageWhenNoChildIsOpen)
+{
+    outer(get<ChildSelect>()).close();
+    QTest::qWait(0);
+    frame().cmdNote->setFocus();
+    EXPECT_EQ(pageOnF1(), "MDIParent");
+}
+
+TEST_F(HelpSession, OpensAtThePageOfEveryChildWindow)
+{
+    for (const char* name : {"ChapRead", "frmAdvSearch", "ChildMapSel", "ChildMapDsp"}) {
+        // A window known by its name alone, as every child window is.
+        class Named : public Form
+        {
+        public:
+            Named(Shell& shell, const QString& itsName)
+                : Form(shell, itsName)
+            {
+            }
+        };
+        auto* window = new Named(frame(), name);
+        window->loadInto(*frame().area());
+        window->activate();
+        EXPECT_EQ(helpPageOf(window), name);
+        EXPECT_EQ(helpPageOf(frame().cmdNote), name);
+    }
+}
+
+TEST_F(HelpSession, OpensAtTheAboutWindowsPageWhileThatIsOpen)
+{
+    QString page;
+    const auto looking = onceModal([&](QWidget&) {
+        QApplication::setActiveWindow(program->startWindow());
+        program->startWindow()->cmdMore->setFocus();
+        page = pageOnF1();
+        EXPECT_TRUE(helpWindow()->isVisible());
+        EXPECT_TRUE(program->startWindow()->isVisible());
+        EXPECT_TRUE(helpWindow()->isEnabled());
+        QApplication::setActiveWindow(helpWindow());
+        QTest::keyClick(helpWindow(), Qt::Key_Escape);
+        EXPECT_TRUE(program->startWindow()->isVisible()) << "closing the help closed the About window";
+        QTest::keyClick(program->startWindow(), Qt::Key_Escape);
+    });
+    click(*frame().cmdAbout);
+    EXPECT_EQ(page, "frmStart");
+}
+
+TEST_F(HelpSession, OpensAtThePageOfBothLetters)
+{
+    QStringList pages;
+    const auto looking = onceModal([&](QWidget&) {
+        for (SoftBttn* button : {program->startWindow()->cmdDonation, program->startWindow()->cmdQORV}) {
+            const auto reading = onceModal([&](QWidget& letter) {
+                QApplication::setActiveWindow(&letter);
+                pages << pageOnF1();
+                QApplication::setActiveWindow(&letter);
+                QTest::keyClick(letter.focusWidget(), Qt::Key_Escape);
+            });
+            click(*button);
+        }
+        QApplication::setActiveWindow(program->startWindow());
+        QTest::keyClick(program->startWindow(), Qt::Key_Escape);
+    });
+    click(*frame().cmdAbout);
+    EXPECT_EQ(pages, QStringList({"frmDN", "frmQORV"}));
+}
+
+TEST_F(HelpSession, OpensAtThePageBehindAMessageWhileThatIsOpen)
+{
+    MsgBox::setBackEnd({}); // the real boxes
+    QString page;
+    const auto looking = onceModal([&](QWidget& box) {
+        QApplication::setActiveWindow(&box);
+        page = pageOnF1();
+        EXPECT_TRUE(box.isVisible());
+        box.close();
+    });
+    MsgBox::show("A message.", MsgIcon::Information);
+    EXPECT_EQ(page, "ChildSelect");
+}
+
+TEST_F(HelpSession, CanBeUsedBesideAModalWindowAndStaysWhenThatCloses)
+{
+    openHelp("Keys"); // stands alone, and is then called again from the modal window
+    EXPECT_EQ(helpWindow()->windowHandle()->transientParent(), nullptr);
+    QApplication::setActiveWindow(&frame());
+    const auto looking = onceModal([&](QWidget&) {
+        QApplication::setActiveWindow(program->startWindow());
+        EXPECT_EQ(pageOnF1(), "frmStart");
+        EXPECT_EQ(helpWindow()->windowHandle()->transientParent(), program->startWindow()->windowHandle());
+        QApplication::setActiveWindow(program->startWindow());
+        QTest::keyClick(program->startWindow(), Qt::Key_Escape);
+    });
+    click(*frame().cmdAbout);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_NE(helpWindow(), nullptr);
+    EXPECT_TRUE(helpWindow()->isVisible());
+    EXPECT_EQ(helpWindow()->windowHandle()->transientParent(), nullptr);
+}
+
+TEST_F(HelpSession, OpensAtThePageOfTheActiveWindow)
+{
+    frame().help().open();
+    ASSERT_NE(helpWindow(), nullptr);
+    EXPECT_EQ(helpWindow()->browser->page(), "ChildSelect");
+}
+
+TEST_F(HelpSession, OnlyThePlainKeyOpensIt)
+{
+    press(Qt::Key_F1, Qt::ShiftModifier);
+    press(Qt::Key_F4);
+    QTest::qWait(0);
+    EXPECT_EQ(helpWindow(), nullptr);
+}
+
+TEST_F(HelpSession, ControlSeesTheKeyAllTheSame)
+{
+    struct Watcher : QObject
+    {
+        int keys = 0;
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            keys += event->type() == QEvent::KeyPress;
+            return false;
+        }
+    } watcher;
+    QApplication::focusWidget()->installEventFilter(&watcher);
+    press(Qt::Key_F1);
+    EXPECT_EQ(watcher.keys, 1);
+}
+
+TEST_F(HelpSession, ThereIsOneWindowThatKeepsItsPlace)
+{
+    HelpWindow& first = openHelp("Keys");
+    QApplication::setActiveWindow(&frame());
+    frame().readingWindow().restoreAndActivate();
+    frame().readingWindow().cmdNext->setFocus();
+    EXPECT_EQ(pageOnF1(), "ChildRead");
+    EXPECT_EQ(helpWindow(), &first);
+}
+
+TEST_F(HelpSession, ItsOwnPageIsShownByF1InIt)
+{
+    openHelp("Keys").browser->setFocus();
+    EXPECT_EQ(pageOnF1(), "HelpWindow");
+}
+
+TEST_F(HelpSession, ChangesNothingInTheProgramsWindows)
+{
+    ChildRead& reading = frame().readingWindow();
+    reading.restoreAndActivate();
+    reading.chkAuto->setChecked(true);
+    reading.cmdNext->setFocus();
+    ASSERT_TRUE(reading.Timer1->isActive());
+    openHelp("Keys");
+    QTest::qWait(0);
+    EXPECT_TRUE(reading.Timer1->isActive());
+    EXPECT_EQ(activeForm(), &reading);
+    EXPECT_TRUE(reading.chkAuto->isChecked());
+    EXPECT_EQ(reading.lblVerseId->text(), "Mt:1:1");
+    EXPECT_FALSE(helpWindow()->isModal());
+    QTest::keyClick(helpWindow(), Qt::Key_Escape);
+    QTest::qWait(0);
+    EXPECT_EQ(helpWindow(), nullptr);
+    EXPECT_TRUE(reading.Timer1->isActive());
+    EXPECT_EQ(activeForm(), &reading);
+}
+
+TEST_F(HelpSession, MissingFileGivesAMessageAndNothingElse)
+{
+    QFile::remove(folder.filePath("KESTREL.HLP"));
+    press(Qt::Key_F1);
+    QTest::qWait(0);
+    ASSERT_EQ(boxes.shown.size(), 1);
+    EXPECT_EQ(boxes.shown[0].text, "Couldn't find file 'KESTREL.HLP'. Please run Setup.");
+    EXPECT_EQ(boxes.shown[0].icon, MsgIcon::Exclamation);
+    EXPECT_EQ(boxes.shown[0].buttons, MsgButtons::Ok);
+    EXPECT_EQ(boxes.shown[0].title, "Kestrel Reader: Portuguese Version");
+    EXPECT_EQ(helpWindow(), nullptr);
+}
+
+TEST_F(HelpSession, ListsItsPagesAndFollowsTheChosenOne)
+{
+    HelpWindow& window = openHelp("ChildRead");
+    EXPECT_EQ(window.windowTitle(), "Kestrel Reader Help");
+    EXPECT_EQ(window.contents->accessibleName(), "Contents");
+    ASSERT_EQ(window.contents->count(), shippedPages().size());
+    EXPECT_EQ(window.contents->currentItem()->text(), "Reading Window");
+    for (int row = 0; row < window.contents->count(); ++row) {
+        window.contents->setCurrentRow(row);
+        EXPECT_EQ(window.browser->page(), shippedPages()[row].name);
+        EXPECT_TRUE(window.browser->toPlainText().startsWith(shippedPages()[row].title));
+        EXPECT_EQ(window.browser->accessibleName(), shippedPages()[row].title);
+    }
+}
+
+TEST_F(HelpSession, FollowsInternalLinksAndGoesBackAndForward)
+{
+    HelpWindow& window = openHelp("Welcome");
+    EXPECT_FALSE(window.forward->isEnabled());
+    window.browser->setFocus();
+    press(Qt::Key_Tab); // the first link of the page
+    press(Qt::Key_Return);
+    EXPECT_EQ(window.browser->page(), "ChildSelect");
+    EXPECT_EQ(window.contents->currentItem()->text(), "Select Verse for Reading");
+    window.back->trigger();
+    EXPECT_EQ(window.browser->page(), "Welcome");
+    window.forward->trigger();
+    EXPECT_EQ(window.browser->page(), "ChildSelect");
+    EXPECT_TRUE(services.links.isEmpty());
+}
+
+TEST_F(HelpSession, ExternalLinksAreTheDesktops)
+{
+    HelpWindow& window = openHelp("Credits");
+    window.browser->setFocus();
+    press(Qt::Key_Tab);
+    press(Qt::Key_Return);
+    EXPECT_EQ(services.links, QList<QUrl>({QUrl("http://sites.google.com/site/biblialivre/")}));
+    EXPECT_EQ(window.browser->page(), "Credits");
+}
+
+TEST_F(HelpSession, FindsAWordOnThePageAndThenOnTheOthers)
+{
+    HelpWindow& window = openHelp("Welcome");
+    window.find->trigger();
+    EXPECT_EQ(QApplication::focusWidget(), window.searchText);
+    QTest::keyClicks(window.searchText, "Chapter Window");
+    press(Qt::Key_Return);
+    EXPECT_EQ(window.browser->page(), "Welcome");
+    EXPECT_EQ(window.browser->textCursor().selectedText(), "Chapter Window");
+    const int firstPlace = window.browser->textCursor().position();
+    window.findNext->trigger();
+    EXPECT_NE(window.browser->page(), "Welcome");
+    EXPECT_EQ(window.browser->textCursor().selectedText(), "Chapter Window");
+    window.findPrevious->trigger();
+    EXPECT_EQ(window.browser->page(), "Welcome");
+    EXPECT_EQ(window.browser->textCursor().position(), firstPlace);
+}
+
+TEST_F(HelpSession, FindGoesRoundAndReturnsToTheOnlyPlace)
+{
+    HelpWindow& window = openHelp("Credits");
+    window.searchText->setText("GSHHG");
+    window.findNext->trigger();
+    const int place = window.browser->textCursor().position();
+    window.findNext->trigger();
+    EXPECT_EQ(window.browser->page(), "Credits");
+    EXPECT_EQ(window.browser->textCursor().position(), place);
+    EXPECT_TRUE(window.statusBar()->currentMessage().isEmpty());
+}
+
+TEST_F(HelpSession, SaysWhenAWordIsNowhere)
+{
+    HelpWindow& window = openHelp("Welcome");
+    window.searchText->setText("xyzzy");
+    window.findNext->trigger();
+    EXPECT_EQ(window.browser->page(), "Welcome");
+    EXPECT_EQ(window.statusBar()->currentMessage(), "The help does not have \"xyzzy\".");
+    EXPECT_EQ(services.beeps, 1);
+}
+
+TEST_F(HelpSession, CopiesTheSelectedText)
+{
+    HelpWindow& window = openHelp("Credits");
+    EXPECT_FALSE(window.copy->isEnabled());
+    window.searchText->setText("GSHHG 2.3.7");
+    window.findNext->trigger();
+    window.copy->trigger();
+    EXPECT_EQ(QApplication::clipboard()->text(), "GSHHG 2.3.7");
+}
+
+TEST_F(HelpSession, ZoomsByKeyboardWithinBounds)
+{
+    HelpWindow& window = openHelp("Keys");
+    const int normal = window.browser->font().pointSize();
+    window.browser->setFocus();
+    press(Qt::Key_Plus, Qt::ControlModifier);
+    press(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(window.browser->font().pointSize(), normal + 2);
+    press(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(window.browser->font().pointSize(), normal + 1);
+    press(Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(window.browser->font().pointSize(), normal);
+    for (int i = 0; i < 100; ++i)
+        window.smaller->trigger();
+    EXPECT_GE(window.browser->font().pointSize(), 6);
+    window.normalSize->trigger();
+    EXPECT_EQ(window.browser->font().pointSize(), normal);
+}
+
+TEST_F(HelpSession, ListsEveryShortcutOfItsOwn)
+{
+    HelpWindow& window = openHelp("HelpWindow");
+    int shortcuts = 0;
+    for (const QAction* action : window.actions()) {
+        EXPECT_TRUE(hasKey("HelpWindow", action->shortcut().toString(), action->text()))
+            << action->objectName().toStdString();
+        EXPECT_TRUE(hasKey("Keys", action->shortcut().toString(), action->text()))
+            << action->objectName().toStdString();
+        ++shortcuts;
+    }
+    EXPECT_EQ(shortcuts, 9);
+}
+
+/// The keys of a menu bar: the help must list each of them on the window's page, with the item's words.
+class HelpAndMenus : public HelpSession
+{
+protected:
+    void expectKeysListed(const QString& page)
+    {
+        int keys = 0;
+        for (const QAction* menu : frame().menuBar()->actions())
+            for (const QAction* item : menu->menu()->actions()) {
+                if (item->shortcut().isEmpty())
+                    continue;
+                const QString key = item->shortcut().toString();
+                const QString caption = QString(item->text()).remove('&');
+                EXPECT_TRUE(hasKey(page, key, caption)) << key.toStdString() << " on " << page.toStdString();
+                EXPECT_TRUE(hasKey("Keys", key, caption)) << key.toStdString();
+                ++keys;
+            }
+        EXPECT_GE(keys, 3);
+        expectNoOtherFunctionKeys(page);
+    }
+
+    /// A function key on a window's page is one that the window's menus have (or the help's own).
+    void expectNoOtherFunctionKeys(const QString& page)
+    {
+        QStringList known = {"F1"};
+        for (const QAction* menu : frame().menuBar()->actions())
+            for (const QAction* item : menu->menu()->actions())
+                known << item->shortcut().toString();
+        for (int number = 1; number <= 12; ++number) {
+            const QString key = QString("F%1").arg(number);
+            EXPECT_EQ(mentionsKey(page, key), known.contains(key))
+                << key.toStdString() << " " << page.toStdString();
+        }
+    }
+};
+
+TEST_F(HelpAndMenus, AgreeInEveryWindow)
+{
+    expectKeysListed("ChildSelect");
+    frame().readingWindow().restoreAndActivate();
+    expectKeysListed("ChildRead");
+    for (QMdiSubWindow* window : frame().area()->subWindowList())
+        window->close();
+    QTest::qWait(0);
+    expectKeysListed("MDIParent");
+    // The windows that the shell opens when it has them.
+    const QList<std::function<void()>> openers = {[&] { frame().openSearch(); },
+                                                  [&] { frame().openStudyAids(); }};
+    for (const auto& opener : openers) {
+        opener();
+        if (activeForm())
+            expectKeysListed(activeForm()->objectName());
+    }
+}

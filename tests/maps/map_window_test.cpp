@@ -1,0 +1,333 @@
+#include "maps/MapsTest.h"
+
+#include <QClipboard>
+#include <QLabel>
+#include <QScrollBar>
+
+namespace {
+
+class ChildMapDspTest : public MapsTest
+{
+protected:
+    /// The window around a picture of a size in pixels: 520 twips higher, 800 wider.
+    static QSize around(QSize picture)
+    {
+        return {qRound(picture.width() + 800 / 15.0), qRound(picture.height() + 520 / 15.0)};
+    }
+
+    static void expectFitted(ChildMapDsp& map, QSize picture)
+    {
+        EXPECT_EQ(map.Image1->size(), picture);
+        EXPECT_EQ(outer(map).size(), around(picture));
+        EXPECT_EQ(map.cmdZoom->geometry(), QRect(picture.width() + 10, 4, 32, 32));
+        EXPECT_EQ(map.cmdPicCopy->geometry(), QRect(picture.width() + 10, 36, 32, 32));
+    }
+};
+
+} // namespace
+
+TEST_F(ChildMapDspTest, FitsTheMapAtTheFramesCorner)
+{
+    ChildMapDsp& map = openMap(denseMap);
+    expectFitted(map, {200, 150});
+    EXPECT_EQ(outer(map).pos(), QPoint(0, 0));
+    EXPECT_EQ(map.Image1->pos(), QPoint(4, 4));
+    EXPECT_EQ(map.caption(), "Map -- The Journeys of Abraham");
+    EXPECT_EQ(map.DataMap.recordSource(), "SELECT * FROM NTMaps WHERE MapNumber = 1");
+    EXPECT_EQ(activeForm(), &map);
+    EXPECT_EQ(program->flags.MapFirstShow, 0);
+    EXPECT_EQ(program->flags.MapZoomed, 0);
+}
+
+TEST_F(ChildMapDspTest, ShowsPictureAndButtonsWhole)
+{
+    ChildMapDsp& map = openMap(denseMap);
+    const QRect inside(QPoint(), map.size());
+    for (const QWidget* control : {static_cast<QWidget*>(map.Image1), static_cast<QWidget*>(map.cmdZoom),
+                                   static_cast<QWidget*>(map.cmdPicCopy)}) {
+        const QRect shown(control->mapTo(&map, QPoint()), control->size());
+        EXPECT_TRUE(inside.contains(shown)) << control->objectName().toStdString();
+    }
+    for (const QScrollBar* bar : map.findChildren<QScrollBar*>())
+        EXPECT_EQ(bar->maximum(), 0);
+}
+
+TEST_F(ChildMapDspTest, EveryMapIsFittedAnew)
+{
+    openMap(denseMap);
+    ChildMapDsp& map = openMap(plainMap);
+    expectFitted(map, {300, 200});
+    EXPECT_EQ(map.caption(), "Map -- Plain");
+    EXPECT_EQ(frame().findChildren<ChildMapDsp*>().size(), 1);
+    expectFitted(openMap(lastMap), {210, 140});
+}
+
+TEST_F(ChildMapDspTest, MovedWindowComesBackToTheCornerOnlyWithANewMap)
+{
+    ChildMapDsp& map = openMap(denseMap);
+    outer(map).move(100, 80);
+    QTest::keyClick(&frame(), Qt::Key_F8);
+    map.activate();
+    EXPECT_EQ(outer(map).pos(), QPoint(100, 80));
+    openMap(denseMap);
+    EXPECT_EQ(outer(map).pos(), QPoint(0, 0));
+}
+
+TEST_F(ChildMapDspTest, ChoosingAMapRestoresAMaximisedWindow)
+{
+    ChildMapDsp& map = openMap(denseMap);
+    map.setState(Form::Maximized);
+    ASSERT_EQ(map.state(), Form::Maximized);
+    openMap(plainMap);
+    EXPECT_EQ(map.state(), Form::Normal);
+    expectFitted(map, {300, 200});
+    EXPECT_EQ(outer(map).pos(), QPoint(0, 0));
+}
+
+TEST_F(ChildMapDspTest, ChoosingAMapRestoresAMinimisedWindow)
+{
+    ChildMapDsp& map = openMap(denseMap);
+    map.setState(Form::Minimized);
+    openMap(plainMap);
+    EXPECT_EQ(map.state(), Form::Normal);
+    expectFitted(map, {300, 200});
+}
+
+TEST_F(ChildMapDspTest, ChoosingAMapFromAMaximisedStudyAidsWindowShowsItFitted)
+{
+    openStudyAids().setState(Form::Maximized);
+    ChildMapDsp& map = openMap(denseMap);
+    EXPECT_EQ(map.state(), Form::Normal);
+    expectFitted(map, {200, 150});
+}
+
+TEST_F(ChildMapDspTest, ZoomEnlargesByAFifthAndZoomAgainRestores)
+{
+    ChildMapDsp& map = openMap(lastMap);
+    const QSizeF natural = map.Image1->extent();
+    QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
+    expectFitted(map, {252, 168});
+    EXPECT_TRUE(map.Image1->stretch());
+    EXPECT_EQ(program->flags.MapZoomed, 1);
+    QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
+    expectFitted(map, {210, 140});
+    EXPECT_EQ(program->flags.MapZoomed, 0);
+    EXPECT_NEAR(map.Image1->extent().width(), natural.width(), 0.001);
+    EXPECT_NEAR(map.Image1->extent().height(), natural.height(), 0.001);
+}
+
+TEST_F(ChildMapDspTest, ZoomingManyTimesDoesNotDrift)
+{
+    ChildMapDsp& map = openMap(denseMap);
+    for (int i = 0; i < 100; ++i)
+        QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
+    expectFitted(map, {200, 150});
+}
+
+TEST_F(ChildMapDspTest, ZoomWhileMinimisedIsSeenAfterwards)
+{
+    ChildMapDsp& map = openMap(denseMap);
+    map.setState(Form::Minimized);
+    QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
+    EXPECT_EQ(map.state(), Form::Minimized);
+    map.setState(Form::Normal);
+    expectFitted(map, {240, 180});
+}
+
+TEST_F(ChildMapDspTest, ZoomWhileMaximisedKeepsTheWindow)
+{
+    ChildMapDsp& map = openMap(denseMap);
+    map.setState(Form::Maximized);
+    QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
+    EXPECT_EQ(map.state(), Form::Maximized);
+    EXPECT_EQ(map.Image1->size(), QSize(240, 180));
+    EXPECT_EQ(map.cmdZoom->x(), 250);
+    map.setState(Form::Normal);
+    expectFitted(map, {240, 180});
+}
+
+TEST_F(ChildMapDspTest, NewMapIsNotEnlarged)
+{
+    ChildMapDsp& map = openMap(denseMap);
+    QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
+    openMap(lastMap);
+    expectFitted(map, {210, 140});
+    EXPECT_FALSE(map.Image1->stretch());
+    EXPECT_EQ(program->flags.MapZoomed, 0);
+    QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
+    expectFitted(map, {252, 168});
+}
+
+TEST_F(ChildMapDspTest, DraggedBorderIsUndoneAtOnce)
+{
+    ChildMapDsp& map = openMap(denseMap);
+    outer(map).resize(600, 500);
+    expectFitted(map, {200, 150});
+    outer(map).resize(120, 90);
+    expectFitted(map, {200, 150});
+}
+
+TEST_F(ChildMapDspTest, MenusHaveCopyAndZoom)
+{
+    ChildMapDsp& map = openMap(denseMap);
+    EXPECT_EQ(menuBarCaptions(),
+              QStringList({"&File", "&Edit", "&View", "&Search", "&Tools", "&Window", "&Help"}));
+    const auto* copy = map.findChild<QAction*>("mnuCopy");
+    EXPECT_EQ(copy->text(), "&Copy Map to Clipboard");
+    EXPECT_EQ(copy->shortcut(), QKeySequence("Ctrl+C"));
+    auto* zoom = map.findChild<QAction*>("mnuZoom");
+    EXPECT_EQ(zoom->text(), "&Zoom In/Restore Normal Size");
+    zoom->trigger();
+    expectFitted(map, {240, 180});
+}
+
+TEST_F(ChildMapDspTest, ButtonsSayWhatTheyDo)
+{
+    ChildMapDsp& map = openMap(denseMap);
+    EXPECT_EQ(map.cmdZoom->toolTip(), "Zoom In/Restore Normal Size");
+    EXPECT_EQ(map.cmdPicCopy->toolTip(), "Copy Map to Clipboard");
+    EXPECT_EQ(map.cmdZoom->objectName(), "cmdZoom");
+    EXPECT_EQ(map.cmdPicCopy->objectName(), "cmdPicCopy");
+}
+
+TEST_F(ChildMapDspTest, DescriptionIsTheLabelsTextAndThePicturesName)
+{
+    ChildMapDsp& map = openMap(9);
+    EXPECT_EQ(map.lblMapDesc->text(), "Ninth & Last <b>but Two</b>");
+    EXPECT_EQ(map.Image1->accessibleName(), "Ninth & Last <b>but Two</b>");
+    EXPECT_EQ(map.caption(), "Map -- Ninth & Last <b>but Two</b>");
+}
+
+TEST_F(ChildMapDspTest, CopyPutsAllPixelsOnTheClipboard)
+{
+    frame().readingWindow().activate(); // has the same shortcut
+    ChildMapDsp& map = openMap(denseMap);
+    QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
+    QApplication::clipboard()->setText("before");
+    QTest::mouseClick(map.cmdPicCopy, Qt::LeftButton);
+    EXPECT_EQ(QApplication::clipboard()->image().size(), QSize(400, 300));
+    EXPECT_EQ(QApplication::clipboard()->text(), "");
+    QApplication::clipboard()->clear();
+    QTest::keyClick(&frame(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->image().size(), QSize(400, 300));
+    EXPECT_TRUE(boxes.shown.isEmpty());
+}
+
+TEST_F(ChildMapDspTest, CopyOfAnEmptyPictureClearsTheClipboardWithoutAMessage)
+{
+    ChildMapDsp& map = openMap(emptyMap);
+    QApplication::clipboard()->setText("before");
+    QTest::mouseClick(map.cmdPicCopy, Qt::LeftButton);
+    EXPECT_EQ(QApplication::clipboard()->text(), "");
+    EXPECT_TRUE(QApplication::clipboard()->image().isNull());
+    EXPECT_TRUE(boxes.shown.isEmpty());
+}
+
+TEST_F(ChildMapDspTest, ClipboardThatTakesNothingIsReported)
+{
+    ChildMapDsp& map = openMap(denseMap);
+    services.clipboardWorks = false;
+    QTest::mouseClick(map.cmdPicCopy, Qt::LeftButton);
+    ASSERT_EQ(boxes.shown.size(), 1);
+    EXPECT_EQ(boxes.shown[0].title, "Clipboard Error");
+}
+
+TEST_F(ChildMapDspTest, PictureThatCannotBeReadIsEmpty)
+{
+    for (int number : {damagedMap, endlessMap, emptyMap, cutMap}) {
+        ChildMapDsp& map = openMap(number);
+        EXPECT_TRUE(map.Image1->image().isNull()) << number;
+        EXPECT_EQ(map.Image1->size(), QSize(49, 49)) << number;
+        EXPECT_NE(map.caption(), "Map -- ") << number;
+    }
+    EXPECT_TRUE(boxes.shown.isEmpty());
+}
+
+TEST_F(ChildMapDspTest, AbsurdResolutionIsNotFollowed)
+{
+    EXPECT_EQ(openMap(sparseMap).Image1->size(), QSize(30, 20));
+}
+
+TEST_F(ChildMapDspTest, DragBringsPictureAndDescriptionBack)
+{
+    ChildMapDsp& map = openMap(denseMap);
+    QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
+    map.Image1->setImage({});
+    map.lblMapDesc->setText("gone");
+    Q_EMIT map.Image1->dragCompleted();
+    EXPECT_EQ(map.Image1->image().size(), QSize(400, 300));
+    EXPECT_EQ(map.lblMapDesc->text(), "The Journeys of Abraham");
+}
+
+TEST_F(ChildMapDspTest, MapLargerThanTheFrameCanBeScrolledByKeys)
+{
+    ChildMapDsp& map = openMap(largeMap);
+    EXPECT_EQ(outer(map).size(), around({1500, 1200}));
+    EXPECT_EQ(outer(map).pos(), QPoint(0, 0));
+    const auto farCorner = [&] { return map.Image1->mapTo(frame().area()->viewport(), QPoint(1499, 1199)); };
+    const QRect room = frame().area()->viewport()->rect();
+    EXPECT_FALSE(room.contains(farCorner()));
+    for (int i = 0; i < 40; ++i) {
+        QTest::keyClick(map.cmdZoom, Qt::Key_Right);
+        QTest::keyClick(map.cmdZoom, Qt::Key_Down);
+    }
+    EXPECT_TRUE(room.contains(farCorner()));
+    for (int i = 0; i < 40; ++i) {
+        QTest::keyClick(map.cmdZoom, Qt::Key_Left);
+        QTest::keyClick(map.cmdZoom, Qt::Key_PageUp);
+    }
+    EXPECT_EQ(outer(map).pos(), QPoint(0, 0));
+}
+
+TEST_F(ChildMapDspTest, MapLargerThanAMaximisedWindowCanBeScrolledByKeys)
+{
+    ChildMapDsp& map = openMap(largeMap);
+    map.setState(Form::Maximized);
+    QCoreApplication::processEvents();
+    const auto farCorner = [&] { return map.Image1->mapTo(&map, QPoint(1499, 1199)); };
+    EXPECT_FALSE(map.rect().contains(farCorner()));
+    for (int i = 0; i < 40; ++i) {
+        QTest::keyClick(map.cmdZoom, Qt::Key_Right);
+        QTest::keyClick(map.cmdZoom, Qt::Key_Down);
+    }
+    EXPECT_TRUE(map.rect().contains(farCorner()));
+}
+
+TEST_F(ChildMapDspTest, MaximisedWindowOfALargeMapFillsTheFrame)
+{
+    ChildMapDsp& map = openMap(largeMap);
+    QTest::qWait(0);
+    map.setState(Form::Maximized);
+    QTest::qWait(0);
+    EXPECT_EQ(outer(map).geometry(), frame().area()->viewport()->rect());
+    EXPECT_EQ(frame().area()->viewport()->width(), frame().area()->width()); // its scroll bars are gone
+    QTest::mouseClick(frame().cmdTools, Qt::LeftButton); // the maximised state goes over to the next window
+    QTest::qWait(0);
+    EXPECT_EQ(get<ChildMapSel>().state(), Form::Maximized);
+    EXPECT_EQ(outer(get<ChildMapSel>()).geometry(), frame().area()->viewport()->rect());
+    EXPECT_EQ(outer(map).size(), around({1500, 1200}));
+}
+
+TEST_F(ChildMapDspTest, ClosedWindowIsLoadedAfresh)
+{
+    closeWindow(openMap(denseMap));
+    ASSERT_FALSE(open<ChildMapDsp>());
+    expectFitted(openMap(plainMap), {300, 200});
+}
+
+TEST_F(ChildMapDspTest, TheListOfMapsKeepsTheFocusWhileMapsAreMaximised)
+{
+    ChildMapSel& aids = openStudyAids();
+    choosePage(aids, 1);
+    aids.lstMaps->setFocus();
+    for (int row = 0; row < 3; ++row) {
+        aids.lstMaps->setCurrentRow(row);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        auto& map = get<ChildMapDsp>();
+        ASSERT_EQ(activeForm(), &map);
+        map.setState(Form::Maximized);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F8);
+        ASSERT_EQ(activeForm(), &aids);
+        EXPECT_EQ(QApplication::focusWidget(), aids.lstMaps) << "after map " << row + 1;
+    }
+}

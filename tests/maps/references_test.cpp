@@ -1,0 +1,66 @@
+#include "maps/MapsTest.h"
+
+#include "maps/TopicText.h"
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QRadioButton>
+#include <sqlite3.h>
+
+namespace {
+
+bool hasRows(const QString& path, const char* table)
+{
+    DataSource data;
+    data.setDatabaseName(path.toStdString());
+    data.setRecordSource(std::string("SELECT * FROM ") + table);
+    data.refresh();
+    return data.recordCount() > 0;
+}
+
+/// The same windows over the database that is shipped.
+class ShippedDatabaseTest : public MapsTest
+{
+protected:
+    void SetUp() override
+    {
+        const QString path = KESTREL_INSTALL_DIR "/KESTRPT.DAT";
+        if (!QFile::exists(path) || !hasRows(path, "ClassifiedVerses") || !hasRows(path, "NTMaps"))
+            GTEST_SKIP() << "no assembled database in " KESTREL_INSTALL_DIR;
+        start(KESTREL_INSTALL_DIR);
+    }
+};
+
+} // namespace
+
+TEST_F(ShippedDatabaseTest, EveryReferenceOfEveryTopicShowsItsVerse)
+{
+    ChildMapSel& aids = openStudyAids();
+    int opened = 0;
+    for (QRadioButton* group : aids.optEvents) {
+        QTest::mouseClick(group, Qt::LeftButton, {}, {8, 8});
+        ASSERT_GT(aids.Combo2->count(), 30);
+        for (int topic = 0; topic < aids.Combo2->count(); ++topic) {
+            if (topic > 0)
+                QTest::keyClick(aids.Combo2, Qt::Key_Down);
+            ASSERT_EQ(aids.Combo2->currentIndex(), topic);
+            ASSERT_GT(aids.List1->count(), 0) << aids.Combo2->currentText().toStdString();
+            for (int row = 0; row < aids.List1->count(); ++row) {
+                clickEntry(aids.List1, row);
+                ASSERT_EQ(get<ChildRead>().lblVerseId->text(), referenceOf(aids.List1->item(row)->text()));
+                ++opened;
+            }
+        }
+    }
+    EXPECT_GT(opened, 500);
+}
+
+TEST_F(ShippedDatabaseTest, EveryMapIsShownSharperThanItsSize)
+{
+    for (int number = 1; number <= 11; ++number) {
+        ChildMapDsp& map = openMap(number);
+        EXPECT_GT(map.Image1->image().width(), map.Image1->width()) << number;
+        EXPECT_GT(map.Image1->width(), 300) << number;
+        EXPECT_FALSE(map.lblMapDesc->text().isEmpty()) << number;
+    }
+}

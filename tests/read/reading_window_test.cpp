@@ -1,0 +1,407 @@
+// The reading window through events.
+#include "read/VerseLabel.h"
+#include "support/CutTexts.h"
+#include "support/Session.h"
+#include "widgets/SoftBttn.h"
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QTimer>
+
+class Reading : public Session
+{
+protected:
+    void SetUp() override
+    {
+        Session::SetUp();
+        window = &frame().readingWindow();
+        window->activate();
+    }
+
+    /// What a caller does to show a verse here.
+    void hand(const std::string& condition)
+    {
+        window->DataCtl.setRecordSource("SELECT * FROM NewTestament WHERE " + condition);
+        window->DataCtl.refresh();
+        window->restoreAndActivate();
+    }
+
+    void handNumber(int number) { hand("VerseNumber = " + std::to_string(number)); }
+
+    QString serial() const { return window->lblSerial->text(); }
+    QString key() const { return window->lblVerseId->text(); }
+
+    /// Chooses seconds with the keyboard and checks the box with the mouse.
+    void startAuto(const QString& seconds)
+    {
+        while (window->cboSeconds->currentText() != seconds)
+            QTest::keyClick(window->cboSeconds, seconds == "3" ? Qt::Key_Up : Qt::Key_Down);
+        QTest::mouseClick(window->chkAuto, Qt::LeftButton, {}, QPoint(8, window->chkAuto->height() / 2));
+        ASSERT_TRUE(window->chkAuto->isChecked());
+    }
+
+    ChildRead* window = nullptr;
+};
+
+TEST_F(Reading, OpensOnTheFirstVerse)
+{
+    EXPECT_EQ(key(), "Mt:1:1");
+    EXPECT_EQ(serial(), "1");
+    EXPECT_TRUE(window->VerseText->text().startsWith(" Livro"));
+    EXPECT_EQ(window->caption(), "Reading Window -- Mt:1:1");
+    EXPECT_EQ(window->DataCtl.recordSource(), "SELECT * FROM NewTestament WHERE VerseNumber = 1");
+}
+
+TEST_F(Reading, HasTheDesignedSizeAndPlace)
+{
+    EXPECT_EQ(outer(*window).size(), QSize(504, 353));
+    const QSize area = frame().area()->viewport()->size();
+    const QSize inner = window->size();
+    EXPECT_NEAR(outer(*window).x(), (area.width() - inner.width()) / 3.0, 1);
+    EXPECT_NEAR(outer(*window).y(), (area.height() - inner.height()) / 3.0 + 10, 1);
+}
+
+TEST_F(Reading, NamesAndTooltipsAreTheContract)
+{
+    const QList<std::pair<SoftBttn*, QString>> buttons = {
+        {window->cmdPrev, "Previous Verse"},  {window->cmdNext, "Next Verse"},
+        {window->cmdChap, "Current Chapter"}, {window->cmdCopy, "Copy Verse to Clipboard"},
+        {window->cmdFont, "Font Size"},       {window->cmdFntFace, "Font Face"},
+    };
+    for (const auto& [button, tip] : buttons) {
+        EXPECT_EQ(button->toolTip(), tip);
+        EXPECT_EQ(button->accessibleName(), tip);
+    }
+    EXPECT_EQ(window->chkAuto->text(), "&AutoJump to next verse after");
+    EXPECT_EQ(window->chkAuto->accessibleName(), "AutoJump to next verse after");
+    EXPECT_EQ(window->Label2->text(), "secon&ds");
+    EXPECT_EQ(window->cboSeconds->accessibleName(), "seconds");
+    EXPECT_EQ(window->chkAuto->font().family(), "Tahoma");
+    EXPECT_EQ(window->cboSeconds->font().family(), "Tahoma");
+    EXPECT_TRUE(window->VerseText->accessibleName().isEmpty());
+    EXPECT_TRUE(window->lblVerseId->accessibleName().isEmpty());
+    EXPECT_FALSE(window->lblSerial->isVisible());
+    for (const QWidget* control : window->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        EXPECT_FALSE(control->objectName().isEmpty()) << control->metaObject()->className();
+}
+
+TEST_F(Reading, HasEditAndViewMenusAndAToolsItemWithoutAccessKey)
+{
+    EXPECT_EQ(menuBarCaptions(),
+              QStringList({"&File", "&Edit", "&View", "&Search", "&Tools", "&Window", "&Help"}));
+    EXPECT_EQ(menuItem("mnuCopy")->text(), "&Copy Verse to Clipboard");
+    EXPECT_EQ(menuItem("mnuCopy")->shortcut(), QKeySequence("Ctrl+C"));
+    EXPECT_EQ(menuItem("mnuChap")->text(), "&Current Chapter");
+    EXPECT_EQ(menuItem("mnuChap")->shortcut(), QKeySequence("F9"));
+    EXPECT_EQ(menuItem("mnuPrev")->text(), "&Previous Verse");
+    EXPECT_EQ(menuItem("mnuPrev")->shortcut(), QKeySequence("F11"));
+    EXPECT_EQ(menuItem("mnuNext")->text(), "&Next Verse");
+    EXPECT_EQ(menuItem("mnuNext")->shortcut(), QKeySequence("F12"));
+    EXPECT_EQ(menuItem("mnuTools")->text(), "Study Aids");
+    EXPECT_TRUE(menuItem("mnuTools")->shortcut().isEmpty());
+    QStringList view;
+    for (const QAction* item : frame().menuBar()->actions()[2]->menu()->actions())
+        view << item->objectName();
+    EXPECT_EQ(view, QStringList({"mnuChap", "mnuSep2", "mnuPrev", "mnuNext"}));
+    EXPECT_TRUE(menuItem("mnuSep2")->isSeparator());
+}
+
+TEST_F(Reading, NextOnTheLastVerseShowsTheFirst)
+{
+    handNumber(31102);
+    EXPECT_EQ(key(), "Mal:4:6");
+    click(*window->cmdNext);
+    EXPECT_EQ(key(), "Mt:1:1");
+    handNumber(31102);
+    choose("mnuNext");
+    EXPECT_EQ(serial(), "1");
+    handNumber(31102);
+    press(Qt::Key_F12);
+    EXPECT_EQ(serial(), "1");
+}
+
+TEST_F(Reading, PreviousOnTheFirstVerseShowsTheLast)
+{
+    click(*window->cmdPrev);
+    EXPECT_EQ(serial(), "31102");
+    EXPECT_EQ(key(), "Mal:4:6");
+    handNumber(1);
+    press(Qt::Key_F11);
+    EXPECT_EQ(serial(), "31102");
+    handNumber(1);
+    choose("mnuPrev");
+    EXPECT_EQ(serial(), "31102");
+}
+
+TEST_F(Reading, StepsOverTheSeamOfTheTestaments)
+{
+    handNumber(7957);
+    EXPECT_EQ(key(), "Rv:22:21");
+    click(*window->cmdNext);
+    EXPECT_EQ(key(), "Gn:1:1");
+    EXPECT_EQ(serial(), "7958");
+    EXPECT_EQ(window->DataCtl.recordSource(), "SELECT * FROM NewTestament WHERE VerseNumber = 7958");
+    click(*window->cmdPrev);
+    EXPECT_EQ(key(), "Rv:22:21");
+}
+
+TEST_F(Reading, TheCaptionFollowsEveryVerse)
+{
+    click(*window->cmdNext);
+    EXPECT_EQ(window->caption(), "Reading Window -- Mt:1:2");
+    EXPECT_EQ(outer(*window).windowTitle(), "Reading Window -- Mt:1:2");
+    hand("VerseId = 'Gn:1:1'");
+    EXPECT_EQ(window->caption(), "Reading Window -- Gn:1:1");
+}
+
+TEST_F(Reading, AnEmptyResultBlanksTheLabelsAndStepsFromThereToOneOrNowhere)
+{
+    hand("VerseId = 'Xy:1:1'");
+    EXPECT_EQ(key(), "");
+    EXPECT_EQ(serial(), "");
+    EXPECT_EQ(window->VerseText->text(), "");
+    EXPECT_EQ(window->caption(), "Reading Window -- ");
+    click(*window->cmdPrev);
+    EXPECT_EQ(window->DataCtl.recordSource(), "SELECT * FROM NewTestament WHERE VerseNumber = -1");
+    EXPECT_EQ(serial(), "");
+    click(*window->cmdNext);
+    EXPECT_EQ(serial(), "1");
+}
+
+TEST_F(Reading, AutoJumpIsOffAtFirstWithFourSecondsChosen)
+{
+    EXPECT_FALSE(window->chkAuto->isChecked());
+    EXPECT_FALSE(window->Timer1->isActive());
+    EXPECT_EQ(window->Timer1->interval(), 4000);
+    EXPECT_EQ(window->cboSeconds->currentText(), "4");
+    QStringList items;
+    for (int i = 0; i < window->cboSeconds->count(); ++i)
+        items << window->cboSeconds->itemText(i);
+    EXPECT_EQ(items, QStringList({"3", "4", "5", "6", "7", "8", "12"}));
+}
+
+TEST_F(Reading, AutoJumpStepsAtEachTickAndStartsTheIntervalAnew)
+{
+    startAuto("3");
+    EXPECT_EQ(window->Timer1->interval(), 3000);
+    EXPECT_TRUE(window->Timer1->isActive());
+    QTest::qWait(50);
+    EXPECT_LT(window->Timer1->remainingTime(), 2990);
+    for (const Qt::Key step : {Qt::Key_F12, Qt::Key_F11}) { // a step by hand starts the interval anew, too
+        QTest::qWait(50);
+        press(step);
+        EXPECT_TRUE(window->Timer1->isActive());
+        EXPECT_GT(window->Timer1->remainingTime(), 2980);
+    }
+    window->Timer1->setInterval(20);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return key() == "Mt:1:4"; }, 2000));
+    EXPECT_TRUE(window->Timer1->isActive());
+}
+
+TEST_F(Reading, TheTimerWrapsAfterTheLastVerse)
+{
+    handNumber(31102);
+    startAuto("4");
+    window->Timer1->setInterval(1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return key().startsWith("Mt:1:"); }, 2000));
+}
+
+TEST_F(Reading, UncheckingAutoJumpStopsIt)
+{
+    startAuto("4");
+    QTest::keyClick(window->chkAuto, Qt::Key_Space);
+    EXPECT_FALSE(window->Timer1->isActive());
+    press(Qt::Key_F12);
+    EXPECT_FALSE(window->Timer1->isActive());
+}
+
+TEST_F(Reading, ChoosingTwelveSecondsChangesTheIntervalAtOnce)
+{
+    startAuto("4");
+    EXPECT_EQ(window->Timer1->interval(), 4000);
+    QTest::keyClick(window->cboSeconds, Qt::Key_End);
+    EXPECT_EQ(window->cboSeconds->currentText(), "12");
+    EXPECT_EQ(window->Timer1->interval(), 12000);
+    EXPECT_TRUE(window->Timer1->isActive());
+}
+
+TEST_F(Reading, AutoJumpStopsWhileAnotherChildIsActiveAndResumesWithAFullInterval)
+{
+    startAuto("4");
+    QTest::qWait(30);
+    press(Qt::Key_F2);
+    EXPECT_FALSE(window->Timer1->isActive());
+    window->activate();
+    EXPECT_TRUE(window->Timer1->isActive());
+    EXPECT_GT(window->Timer1->remainingTime(), 3980);
+}
+
+TEST_F(Reading, AutoJumpStopsWhileMinimisedAndResumesWhenRestored)
+{
+    startAuto("4");
+    window->setState(Form::Minimized);
+    EXPECT_FALSE(window->Timer1->isActive());
+    window->setState(Form::Normal);
+    EXPECT_TRUE(window->Timer1->isActive());
+}
+
+TEST_F(Reading, ActivatingItMinimisedDoesNotStartTheTimer)
+{
+    startAuto("4");
+    window->setState(Form::Minimized);
+    frame().openSelection();
+    window->activate();
+    EXPECT_FALSE(window->Timer1->isActive());
+}
+
+TEST_F(Reading, FontSizeGoesRoundTwentyFourTwelveEighteen)
+{
+    EXPECT_EQ(window->VerseText->font().pointSize(), 18);
+    for (const int size : {24, 12, 18, 24}) {
+        click(*window->cmdFont);
+        EXPECT_EQ(window->VerseText->font().pointSize(), size);
+    }
+}
+
+TEST_F(Reading, FontFaceGoesToTimesNewRomanFirst)
+{
+    EXPECT_EQ(window->VerseText->font().family(), "Tahoma");
+    click(*window->cmdFntFace);
+    EXPECT_EQ(window->VerseText->font().family(), "Times New Roman");
+    EXPECT_EQ(window->VerseText->font().pointSize(), 18);
+    click(*window->cmdFntFace);
+    EXPECT_EQ(window->VerseText->font().family(), "Tahoma");
+}
+
+TEST_F(Reading, CopiesKeyAndTextAsPlainText)
+{
+    hand("VerseId = 'Mt:24:43'");
+    const QString expected = "Mt:24:43\r\n" + window->VerseText->text() + " (PT)";
+    click(*window->cmdCopy);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), expected);
+    EXPECT_EQ(QGuiApplication::clipboard()->mimeData()->formats(), QStringList("text/plain"));
+    for (const bool byKey : {true, false}) {
+        QGuiApplication::clipboard()->clear();
+        byKey ? press(Qt::Key_C, Qt::ControlModifier) : choose("mnuCopy");
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), expected);
+    }
+}
+
+TEST_F(Reading, AClipboardThatTakesNothingIsReported)
+{
+    services.clipboardWorks = false;
+    click(*window->cmdCopy);
+    ASSERT_EQ(boxes.shown.size(), 1);
+    EXPECT_EQ(boxes.shown[0].title, "Clipboard Error");
+    EXPECT_EQ(boxes.shown[0].text, "Error 521: Can't open Clipboard");
+    EXPECT_EQ(boxes.shown[0].icon, MsgIcon::Exclamation);
+    EXPECT_EQ(key(), "Mt:1:1");
+}
+
+TEST_F(Reading, HandOverToTheMinimisedWindowRestoresAndFocusesIt)
+{
+    window->setState(Form::Minimized);
+    get<ChildSelect>().activate();
+    handNumber(5);
+    EXPECT_EQ(window->state(), Form::Normal);
+    EXPECT_EQ(activeForm(), window);
+    EXPECT_TRUE(window->isAncestorOf(QApplication::focusWidget()));
+    EXPECT_EQ(serial(), "5");
+}
+
+TEST_F(Reading, KeepsTheLayoutRuleAtEverySize)
+{
+    const auto pixels = [](int count) { return qRound(count / 15.0); };
+    const auto designed = [this] {
+        return QList<int>({window->cmdFont->y(), window->cmdFntFace->y(), window->cmdCopy->y(),
+                           window->cmdChap->y(), window->chkAuto->x(), window->cboSeconds->x(),
+                           window->Label2->x()});
+    };
+    const QList<int> before = designed();
+    for (const QSize size : {QSize(504, 353), QSize(800, 500), QSize(400, 300)}) {
+        outer(*window).resize(size);
+        const int width = size.width() * 15 - 840;
+        const int height = size.height() * 15 - 1030;
+        EXPECT_EQ(window->VerseText->geometry(), QRect(4, 4, pixels(width), pixels(height)));
+        EXPECT_EQ(window->cmdPrev->pos(), QPoint(pixels(width - 1530), pixels(height + 160)));
+        EXPECT_EQ(window->cmdNext->pos(), QPoint(pixels(width - 735), pixels(height + 160)));
+        for (SoftBttn* button : {window->cmdFont, window->cmdFntFace, window->cmdCopy, window->cmdChap})
+            EXPECT_EQ(button->x(), pixels(width + 160));
+        EXPECT_EQ(window->chkAuto->y(), pixels(height + 280));
+        EXPECT_EQ(window->cboSeconds->y(), pixels(height + 235));
+        EXPECT_EQ(window->Label2->y(), pixels(height + 295));
+        EXPECT_EQ(designed(), before);
+    }
+}
+
+TEST_F(Reading, ATooSmallWindowLeavesTheLayoutAsItWas)
+{
+    const QRect before = window->VerseText->geometry();
+    outer(*window).setMinimumSize(1, 1);
+    outer(*window).resize(40, 40);
+    EXPECT_EQ(window->VerseText->geometry(), before);
+}
+
+TEST_F(Reading, ASizeThatCannotBeIsLeftOutAndTheRestOfTheLayoutApplied)
+{
+    outer(*window).setMinimumSize(1, 1);
+    const QRect before = window->VerseText->geometry();
+    outer(*window).resize(300, 40); // too low for any text: 4500 - 840 wide
+    EXPECT_EQ(window->VerseText->size(), QSize(244, before.height()));
+    EXPECT_EQ(window->cmdNext->x(), 195); // 3660 - 735
+    EXPECT_EQ(window->cmdChap->x(), 255); // 3660 + 160
+    outer(*window).resize(40, 300);       // too narrow: 4500 - 1030 high
+    EXPECT_EQ(window->VerseText->size(), QSize(244, 231));
+    EXPECT_EQ(window->cmdNext->pos(), QPoint(195, 242)); // 3470 + 160
+}
+
+TEST_F(Reading, TheLayoutComesBackWithTheWindow)
+{
+    for (const QSize size : {QSize(504, 353), QSize(800, 500)}) {
+        outer(*window).resize(size);
+        const QRect text = window->VerseText->geometry();
+        const QPoint button = window->cmdNext->pos();
+        window->setState(Form::Minimized);
+        window->setState(Form::Normal);
+        EXPECT_EQ(window->VerseText->geometry(), text);
+        EXPECT_EQ(window->cmdNext->pos(), button);
+    }
+}
+
+TEST_F(Reading, NothingIsCutOffAtTheDesignedSize)
+{
+    for (const char* key : {"Mt:1:1", "1Thes:5:28", "Ps:119:176"}) {
+        hand(std::string("VerseId = '") + key + "'");
+        EXPECT_EQ(cutTexts(*window), "") << key;
+    }
+}
+
+TEST_F(Reading, AVerseLongerThanTheWindowCanBeScrolledToItsEnd)
+{
+    hand("VerseId = 'Est:8:9'");
+    auto* bar = window->VerseText->findChild<QScrollBar*>();
+    ASSERT_NE(bar, nullptr);
+    EXPECT_TRUE(bar->isVisible());
+    EXPECT_GT(bar->maximum(), 0);
+    bar->setValue(bar->maximum());
+    handNumber(1);
+    EXPECT_EQ(bar->value(), 0);
+    hand("VerseId = 'Jn:11:35'");
+    EXPECT_FALSE(bar->isVisible());
+}
+
+TEST_F(Reading, TheReadingSurfaceIsPaleYellowWithDarkText)
+{
+    EXPECT_EQ(window->VerseText->palette().color(QPalette::Window), QColor(255, 255, 224));
+    EXPECT_EQ(window->VerseText->palette().color(QPalette::WindowText), QColor(Qt::black));
+}
+
+TEST_F(Reading, ClosingAndReopeningLoadsAFreshWindow)
+{
+    handNumber(500);
+    outer(*window).close();
+    EXPECT_EQ(open<ChildRead>(), nullptr);
+    EXPECT_EQ(frame().readingWindow().lblSerial->text(), "1");
+}

@@ -1,0 +1,471 @@
+// The selection window and the lookup of typed references, through events.
+#include "read/VerseLabel.h"
+#include "support/Session.h"
+#include "widgets/SoftBttn.h"
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTimer>
+#include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
+
+class Selection : public Session
+{
+protected:
+    void SetUp() override
+    {
+        Session::SetUp();
+        window = &get<ChildSelect>();
+        box = window->Combo1->lineEdit();
+    }
+
+    void type(const QString& text)
+    {
+        window->activate();
+        box->clear();
+        QTest::keyClicks(QApplication::focusWidget(), text);
+    }
+
+    /// Types a reference and presses Enter; the key then shown.
+    QString lookUp(const QString& text)
+    {
+        type(text);
+        press(Qt::Key_Return);
+        return frame().readingWindow().lblVerseId->text();
+    }
+
+    QTreeWidgetItem* node(const QString& text)
+    {
+        for (QTreeWidgetItemIterator it(window->TreeView1); *it; ++it)
+            if ((*it)->text(0) == text)
+                return *it;
+        return nullptr;
+    }
+
+    void clickNode(const QString& text)
+    {
+        QTreeWidgetItem* item = node(text);
+        ASSERT_NE(item, nullptr) << text.toStdString();
+        window->TreeView1->scrollToItem(item); // expands what hides it
+        QTest::mouseClick(window->TreeView1->viewport(), Qt::LeftButton, {},
+                          window->TreeView1->visualItemRect(item).center());
+    }
+
+    ChildSelect* window = nullptr;
+    QLineEdit* box = nullptr;
+};
+
+TEST_F(Selection, HasItsCaptionSizeAndPlace)
+{
+    EXPECT_EQ(window->caption(), "Select Verse for Reading");
+    EXPECT_EQ(outer(*window).pos(), QPoint(0, 0));
+    EXPECT_EQ(outer(*window).size(), QSize(qRound(6395 / 15.0), qRound(4150 / 15.0)));
+    EXPECT_EQ(window->cmdExamples->geometry(), QRect(173, 4, 27, 27));
+    EXPECT_EQ(window->cmdGo->geometry(), QRect(147, 4, 27, 27));
+    EXPECT_EQ(window->Combo1->geometry(), QRect(4, 7, 133, 21));
+    EXPECT_EQ(window->TreeView1->geometry(), QRect(4, 37, 409, 209));
+}
+
+TEST_F(Selection, NamesAndTooltipsAreTheContract)
+{
+    EXPECT_EQ(window->cmdExamples->toolTip(), "Examples");
+    EXPECT_EQ(window->cmdGo->toolTip(), "Display Verse");
+    EXPECT_EQ(window->cmdGo->accessibleName(), "Display Verse");
+    EXPECT_EQ(window->Combo1->accessibleName(), "Reference");
+    EXPECT_EQ(window->TreeView1->accessibleName(), "Books");
+    EXPECT_EQ(window->Combo1->font().family(), "Tahoma");
+    for (const char* name : {"cmdExamples", "cmdGo", "TreeView1", "Combo1"})
+        EXPECT_NE(window->findChild<QWidget*>(name), nullptr) << name;
+}
+
+TEST_F(Selection, HasNoEditAndNoViewMenu)
+{
+    EXPECT_EQ(menuBarCaptions(), QStringList({"&File", "&Search", "&Tools", "&Window", "&Help"}));
+    EXPECT_EQ(menuItem("mnuTools")->text(), "&Study Aids");
+    EXPECT_EQ(menuItem("mnuTools")->shortcut(), QKeySequence("F8"));
+}
+
+TEST_F(Selection, TheTreeHas76NodesInTheirOrder)
+{
+    QStringList texts;
+    for (QTreeWidgetItemIterator it(window->TreeView1); *it; ++it)
+        texts << (*it)->text(0);
+    ASSERT_EQ(texts.size(), 76);
+    EXPECT_EQ(texts[0], "Books of the Kestrel Reader");
+    EXPECT_EQ(texts[1], "Old Testament");
+    EXPECT_EQ(texts[2], "Pentateuch");
+    EXPECT_EQ(texts[3], "Gênesis -- Gn");
+    EXPECT_EQ(texts[8], "Historical Books");
+    EXPECT_EQ(texts[21], "Poetical Books");
+    EXPECT_EQ(texts[27], "Prophetic Books");
+    EXPECT_EQ(texts[44], "Malaquias -- Mal");
+    EXPECT_EQ(texts[45], "New Testament");
+    EXPECT_EQ(texts[46], "The Four Gospels");
+    EXPECT_EQ(texts[51], "Atos -- Acts");
+    EXPECT_EQ(texts[52], "Epistles of St. Paul");
+    EXPECT_EQ(texts[67], "Catholic Epistles");
+    EXPECT_EQ(texts[68], "Tiago -- Jms");
+    EXPECT_EQ(texts[75], "Apocalipse -- Rv");
+    EXPECT_EQ(node("Atos -- Acts")->parent(), node("New Testament"));
+    EXPECT_EQ(node("Apocalipse -- Rv")->parent(), node("New Testament"));
+    EXPECT_EQ(node("New Testament")->parent(), node("Books of the Kestrel Reader"));
+    EXPECT_EQ(node("Gálatas -- Gal")->parent(), node("Epistles of St. Paul"));
+}
+
+TEST_F(Selection, OpensWithTheTestamentsExpandedAndTheGroupsCollapsed)
+{
+    EXPECT_EQ(window->TreeView1->currentItem(), node("Old Testament"));
+    EXPECT_TRUE(node("Old Testament")->isSelected());
+    for (const char* open : {"Books of the Kestrel Reader", "Old Testament", "New Testament"})
+        EXPECT_TRUE(node(open)->isExpanded()) << open;
+    for (const char* closed : {"Pentateuch", "Historical Books", "Poetical Books", "Prophetic Books",
+                               "The Four Gospels", "Epistles of St. Paul", "Catholic Epistles"})
+        EXPECT_FALSE(node(closed)->isExpanded()) << closed;
+    EXPECT_TRUE(window->TreeView1->visualItemRect(node("Tiago -- Jms")).isEmpty()); // hidden in its group
+    EXPECT_FALSE(window->TreeView1->visualItemRect(node("Atos -- Acts")).isEmpty());
+    EXPECT_EQ(window->Combo1->currentText(), "Mt");
+}
+
+TEST_F(Selection, TheListHoldsThe66PrefixesInCanonicalOrder)
+{
+    ASSERT_EQ(window->Combo1->count(), 66);
+    EXPECT_EQ(window->Combo1->itemText(0), "Gn:");
+    EXPECT_EQ(window->Combo1->itemText(38), "Mal:");
+    EXPECT_EQ(window->Combo1->itemText(39), "Mt:");
+    EXPECT_EQ(window->Combo1->itemText(65), "Rv:");
+}
+
+TEST_F(Selection, ClickingABookPutsItsPrefixIntoTheBoxAndOpensNothing)
+{
+    clickNode("1 Tessalonicenses -- 1Thes");
+    EXPECT_EQ(window->Combo1->currentText(), "1Thes:");
+    EXPECT_EQ(open<ChildRead>(), nullptr);
+    clickNode("Gênesis -- Gn");
+    EXPECT_EQ(window->Combo1->currentText(), "Gn:");
+    press(Qt::Key_Return);
+    EXPECT_EQ(get<ChildRead>().lblVerseId->text(), "Gn:1:1");
+}
+
+TEST_F(Selection, ClickingABookEnablesTheButton)
+{
+    box->clear();
+    EXPECT_FALSE(window->cmdGo->isEnabled());
+    clickNode("Atos -- Acts");
+    EXPECT_TRUE(window->cmdGo->isEnabled());
+}
+
+TEST_F(Selection, ClickingATestamentAGroupOrTheRootLeavesTheBoxUnchanged)
+{
+    for (const char* text : {"Pentateuch", "Old Testament", "Books of the Kestrel Reader", "New Testament"}) {
+        clickNode(text);
+        EXPECT_EQ(window->Combo1->currentText(), "Mt") << text;
+    }
+}
+
+TEST_F(Selection, ArrowKeysInTheTreeChooseABookToo)
+{
+    window->TreeView1->setFocus();
+    window->TreeView1->setCurrentItem(node("New Testament"));
+    press(Qt::Key_Down);
+    EXPECT_EQ(window->Combo1->currentText(), "Mt");
+    press(Qt::Key_Down);
+    EXPECT_EQ(window->TreeView1->currentItem(), node("Atos -- Acts"));
+    EXPECT_EQ(window->Combo1->currentText(), "Acts:");
+}
+
+TEST_F(Selection, ATypedReferenceShowsItsVerse)
+{
+    EXPECT_EQ(lookUp("Mt:24:43"), "Mt:24:43");
+    ChildRead& reading = get<ChildRead>();
+    EXPECT_EQ(reading.DataCtl.recordSource(), "SELECT * FROM NewTestament WHERE VerseId LIKE 'Mt:24:43*'");
+    EXPECT_TRUE(reading.VerseText->text().contains("ladrão"));
+    EXPECT_EQ(reading.caption(), "Reading Window -- Mt:24:43");
+    EXPECT_EQ(activeForm(), &reading);
+    EXPECT_TRUE(boxes.shown.isEmpty());
+}
+
+TEST_F(Selection, TheButtonDoesWhatEnterDoes)
+{
+    type("Rv:22:21");
+    click(*window->cmdGo);
+    EXPECT_EQ(get<ChildRead>().lblSerial->text(), "7957");
+}
+
+TEST_F(Selection, TheFirstVerseOfThePrefixWins)
+{
+    const QList<std::pair<QString, QString>> cases = {
+        {"Mt", "Mt:1:1"},
+        {"Mt:24", "Mt:24:1"},
+        {"Mt:2", "Mt:2:1"},
+        {"Mt:24:4", "Mt:24:4"},
+        {"J", "Jn:1:1"},
+        {"1", "1Cor:1:1"},
+        {"Ez", "Ezr:1:1"},
+        {"Ez:", "Ez:1:1"},
+        {"Ph", "Phil:1:1"},
+        {"Jo", "Jos:1:1"},
+        {"2Thes:3:16", "2Thes:3:16"},
+        {"Ps:119:176", "Ps:119:176"},
+    };
+    for (const auto& [typed, key] : cases)
+        EXPECT_EQ(lookUp(typed), key) << typed.toStdString();
+}
+
+TEST_F(Selection, BlanksAroundAReferenceAreTrimmed)
+{
+    EXPECT_EQ(lookUp("  Gn: "), "Gn:1:1");
+    EXPECT_EQ(get<ChildRead>().DataCtl.recordSource(),
+              "SELECT * FROM NewTestament WHERE VerseId LIKE 'Gn:*'");
+}
+
+TEST_F(Selection, TheVerseAlreadyShownRunsNoQuery)
+{
+    lookUp("Mt:24:43");
+    ChildRead& reading = get<ChildRead>();
+    reading.setState(Form::Minimized);
+    int queries = 0;
+    reading.DataCtl.currentRowChanged = [&] { ++queries; };
+    lookUp("Mt:24:43");
+    EXPECT_EQ(queries, 0);
+    EXPECT_EQ(reading.state(), Form::Normal);
+    EXPECT_EQ(activeForm(), &reading);
+    lookUp("mt:24:43"); // that test is for the exact text; the query takes letters of either case
+    EXPECT_EQ(queries, 1);
+}
+
+TEST_F(Selection, TheReferenceWithAColonAfterItCountsAsShownToo)
+{
+    ChildRead& reading = frame().readingWindow();
+    reading.lblVerseId->setText("Gn:1:");
+    reading.DataCtl.setRecordSource("untouched");
+    lookUp("Gn:1");
+    EXPECT_EQ(reading.DataCtl.recordSource(), "untouched");
+    EXPECT_EQ(activeForm(), &reading);
+}
+
+TEST_F(Selection, LowerCaseFindsTheVerse)
+{
+    EXPECT_EQ(lookUp("mt:24:43"), "Mt:24:43");
+}
+
+TEST_F(Selection, AnUnknownReferenceSaysSoAndShowsTheVerseBeforeAgain)
+{
+    lookUp("Mk:3:5");
+    const QString serial = get<ChildRead>().lblSerial->text();
+    QString keyBehindTheMessage = "?";
+    bool pointerWasBack = false;
+    boxes.whileShown = [&] {
+        keyBehindTheMessage = get<ChildRead>().lblVerseId->text();
+        pointerWasBack = QApplication::overrideCursor() == nullptr;
+    };
+    EXPECT_EQ(lookUp("Xy:1:1"), "Mk:3:5");
+    ASSERT_EQ(boxes.shown.size(), 1);
+    EXPECT_EQ(boxes.shown[0].text, "Incorrect user input. No such verse.");
+    EXPECT_EQ(boxes.shown[0].title, "Try Again!");
+    EXPECT_EQ(boxes.shown[0].icon, MsgIcon::Exclamation);
+    EXPECT_EQ(boxes.shown[0].buttons, MsgButtons::Ok);
+    EXPECT_EQ(keyBehindTheMessage, "");
+    EXPECT_TRUE(pointerWasBack);
+    EXPECT_EQ(window->Combo1->currentText(), "Xy:1:1"); // stays for correction
+    EXPECT_EQ(activeForm(), &get<ChildRead>());
+    EXPECT_EQ(QString::fromStdString(get<ChildRead>().DataCtl.recordSource()),
+              "SELECT * FROM NewTestament WHERE VerseNumber = " + serial);
+}
+
+TEST_F(Selection, TheHourglassShowsWhileAVerseIsLookedUp)
+{
+    lookUp("Mt:5");
+    Qt::CursorShape pointer = Qt::ArrowCursor;
+    get<ChildRead>().DataCtl.currentRowChanged = [&] {
+        if (const QCursor* shown = QApplication::overrideCursor())
+            pointer = shown->shape();
+    };
+    lookUp("Mt:6");
+    EXPECT_EQ(pointer, Qt::WaitCursor);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(Selection, ABadReferenceWithTheReadingWindowClosedOpensItOnTheFirstVerse)
+{
+    EXPECT_EQ(open<ChildRead>(), nullptr);
+    EXPECT_EQ(lookUp("Xy"), "Mt:1:1");
+    EXPECT_EQ(boxes.shown.size(), 1);
+}
+
+TEST_F(Selection, ABadReferenceWhileNoVerseIsShownShowsTheFirst)
+{
+    ChildRead& reading = frame().readingWindow();
+    reading.DataCtl.setRecordSource("SELECT * FROM NewTestament WHERE VerseNumber = 0");
+    reading.DataCtl.refresh();
+    ASSERT_EQ(reading.lblSerial->text(), "");
+    EXPECT_EQ(lookUp("Xy"), "Mt:1:1");
+    EXPECT_EQ(reading.DataCtl.recordSource(), "SELECT * FROM NewTestament WHERE VerseNumber = 1");
+}
+
+TEST_F(Selection, TextAfterACompleteKeyIsNotIgnored)
+{
+    lookUp("Mt:24:43x");
+    ASSERT_EQ(boxes.shown.size(), 1);
+    EXPECT_EQ(get<ChildRead>().lblVerseId->text(), "Mt:1:1");
+}
+
+TEST_F(Selection, AMinimisedReadingWindowIsRestored)
+{
+    lookUp("Mt:5");
+    get<ChildRead>().setState(Form::Minimized);
+    lookUp("Mt:6");
+    EXPECT_EQ(get<ChildRead>().state(), Form::Normal);
+}
+
+TEST_F(Selection, TheFifteenthCharacterBeepsAndIsCut)
+{
+    type("12345678901234");
+    EXPECT_EQ(services.beeps, 0);
+    QTest::keyClicks(QApplication::focusWidget(), "5");
+    EXPECT_EQ(services.beeps, 1);
+    EXPECT_EQ(window->Combo1->currentText(), "12345678901234");
+    EXPECT_EQ(box->cursorPosition(), 14);
+    box->setCursorPosition(3);
+    QTest::keyClicks(QApplication::focusWidget(), "x");
+    EXPECT_EQ(window->Combo1->currentText(), "123x4567890123");
+    EXPECT_EQ(box->cursorPosition(), 14);
+    EXPECT_EQ(services.beeps, 2);
+}
+
+TEST_F(Selection, AnEmptyBoxDisablesTheButtonAndEnterDoesNothing)
+{
+    type("   ");
+    EXPECT_FALSE(window->cmdGo->isEnabled());
+    press(Qt::Key_Return);
+    EXPECT_EQ(open<ChildRead>(), nullptr);
+    EXPECT_TRUE(boxes.shown.isEmpty());
+    QTest::keyClicks(QApplication::focusWidget(), "M");
+    EXPECT_TRUE(window->cmdGo->isEnabled());
+}
+
+TEST_F(Selection, EnterWorksAnywhereInTheWindow)
+{
+    type("Lk:2");
+    window->TreeView1->setFocus();
+    press(Qt::Key_Enter);
+    EXPECT_EQ(get<ChildRead>().lblVerseId->text(), "Lk:2:1");
+    window->activate();
+    window->cmdExamples->setFocus();
+    window->Combo1->setEditText("Lk:3");
+    press(Qt::Key_Return);
+    EXPECT_EQ(get<ChildRead>().lblVerseId->text(), "Lk:3:1");
+    EXPECT_TRUE(boxes.shown.isEmpty()); // Enter did not press the examples button
+}
+
+TEST_F(Selection, EachActivationGivesTheBoxTheFocus)
+{
+    window->TreeView1->setFocus();
+    frame().readingWindow().activate();
+    window->activate();
+    EXPECT_TRUE(window->Combo1->hasFocus() || box->hasFocus());
+}
+
+TEST_F(Selection, AReferenceTypedAtOnceReplacesTheOldOne)
+{
+    QTest::keyClicks(box, "Mt:24:43");
+    EXPECT_EQ(box->text(), "Mt:24:43");
+    press(Qt::Key_Return);
+    window->activate();
+    QTest::keyClicks(box, "Rv");
+    EXPECT_EQ(box->text(), "Rv");
+}
+
+TEST_F(Selection, ChoosingFromTheListEnablesTheButton)
+{
+    box->clear();
+    window->Combo1->setFocus();
+    press(Qt::Key_Down);
+    EXPECT_EQ(window->Combo1->currentText(), "Gn:");
+    EXPECT_TRUE(window->cmdGo->isEnabled());
+}
+
+TEST_F(Selection, NoTypedReferenceJoinsTheList)
+{
+    lookUp("Mt:24:43");
+    lookUp("Xyz");
+    EXPECT_EQ(window->Combo1->count(), 66);
+}
+
+TEST_F(Selection, AnApostropheEndsTheProgramWithTheEnginesOwnText)
+{
+    QTimer::singleShot(0, [this] {
+        type("Mt'");
+        press(Qt::Key_Return);
+    });
+    QTimer::singleShot(5000, [] { QCoreApplication::exit(7); });
+    EXPECT_EQ(QApplication::exec(), 1);
+    ASSERT_EQ(boxes.shown.size(), 1);
+    EXPECT_EQ(boxes.shown[0].icon, MsgIcon::Stop);
+    EXPECT_TRUE(boxes.shown[0].text.contains("syntax error") ||
+                boxes.shown[0].text.contains("unrecognized token"))
+        << boxes.shown[0].text.toStdString();
+}
+
+TEST_F(Selection, TheTreeFollowsTheWindowsSize)
+{
+    outer(*window).resize(600, 400);
+    EXPECT_EQ(window->TreeView1->size(),
+              QSize(qRound((9000 - 260) / 15.0), qRound((6000 - 555 - 460) / 15.0)));
+    EXPECT_EQ(window->Combo1->geometry(), QRect(4, 7, 133, 21));
+}
+
+TEST_F(Selection, ShrinkingBelow260TwipsLeavesTheTreeAsItWas)
+{
+    const QSize before = window->TreeView1->size();
+    outer(*window).setMinimumSize(1, 1);
+    outer(*window).resize(15, outer(*window).height());
+    EXPECT_EQ(window->TreeView1->size(), before);
+}
+
+TEST_F(Selection, ASizeThatCannotBeIsLeftOutAndTheOtherApplied)
+{
+    const QSize before = window->TreeView1->size();
+    outer(*window).setMinimumSize(1, 1);
+    outer(*window).resize(15, 400); // 6000 - 555 - 460 high
+    EXPECT_EQ(window->TreeView1->size(), QSize(before.width(), 332));
+    outer(*window).resize(600, 40); // 9000 - 260 wide
+    EXPECT_EQ(window->TreeView1->size(), QSize(583, 332));
+}
+
+TEST_F(Selection, TheTreeComesBackWithTheWindow)
+{
+    const QSize before = window->TreeView1->size();
+    window->setState(Form::Minimized);
+    window->setState(Form::Normal);
+    EXPECT_EQ(window->TreeView1->size(), before);
+}
+
+TEST_F(Selection, TheExamplesAreShown)
+{
+    click(*window->cmdExamples);
+    ASSERT_EQ(boxes.shown.size(), 1);
+    EXPECT_EQ(boxes.shown[0].icon, MsgIcon::Information);
+    EXPECT_EQ(boxes.shown[0].buttons, MsgButtons::Ok);
+    EXPECT_EQ(boxes.shown[0].title, "Kestrel Reader: Portuguese Version");
+    EXPECT_EQ(
+        boxes.shown[0].text,
+        "EXAMPLES\r\n\r\n"
+        "Type   Mt:24:43\r\n"
+        "To display verse 43 from chapter 24 of the Gospel according to St. Matthew\r\n\r\n"
+        "Type   Mt:24\r\n"
+        "To display the first verse from chapter 24 of the Gospel according to St. Matthew\r\n\r\n"
+        "Type   Mt\r\n"
+        "To display the first verse from the first chapter of the Gospel according to St. Matthew\r\n\r\n"
+        "Type   2Thes:3:16\r\n"
+        "To display verse 16 from chapter 3 of the Second Epistle to the Thessalonians");
+}
+
+TEST_F(Selection, TabWalksTheControlsInReadingOrder)
+{
+    QStringList order;
+    for (int i = 0; i < 4; ++i) {
+        const QWidget* focused = QApplication::focusWidget();
+        order << (focused == box ? "Combo1" : focused->objectName());
+        press(Qt::Key_Tab);
+    }
+    EXPECT_EQ(order, QStringList({"Combo1", "cmdGo", "cmdExamples", "TreeView1"}));
+}

@@ -1,0 +1,137 @@
+#include "tools/Samples.h"
+
+#include "importer/Files.h"
+#include "importer/Importer.h"
+#include "importer/InputError.h"
+#include "importer/Typography.h"
+#include "importer/Unicode.h"
+
+#include <gtest/gtest.h>
+#include <QCryptographicHash>
+
+namespace {
+
+std::string sha256(const std::string& bytes)
+{
+    return QCryptographicHash::hash(QByteArray::fromStdString(bytes), QCryptographicHash::Sha256)
+        .toHex()
+        .toStdString();
+}
+
+/// A folder that is gone after the test.
+class Importer : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        folder = std::filesystem::path(testing::TempDir()) / "kestrel-importer";
+        std::filesystem::remove_all(folder);
+        std::filesystem::create_directories(folder);
+    }
+    void TearDown() override { std::filesystem::remove_all(folder); }
+
+    std::filesystem::path folder;
+};
+
+class ReferenceText : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        if (!std::filesystem::exists(referenceText))
+            GTEST_SKIP() << noReferenceText;
+    }
+
+    static const ImportedText& imported()
+    {
+        static const ImportedText text = importText(referenceText);
+        return text;
+    }
+};
+
+std::string lettersAndDigits(const std::string& text)
+{
+    std::u32string kept;
+    const std::u32string characters = fromUtf8(text).value();
+    for (const char32_t character : characters) {
+        if (isLetter(character) || (character >= U'0' && character <= U'9'))
+            kept += character;
+    }
+    return toUtf8(kept);
+}
+
+} // namespace
+
+TEST_F(Importer, AppliesTheRulesAloneWithoutCorrections)
+{
+    writeFile(folder / "list.tsv", writeVerseList(uniformBible("Haja luz ,e houve")));
+    const ImportedText text = importText(folder / "list.tsv");
+    EXPECT_FALSE(text.hasCorrections);
+    EXPECT_EQ(text.verses[7].text, "Haja luz, e houve");
+}
+
+TEST_F(Importer, AppliesTheCorrectionsBesideTheTextBeforeTheRules)
+{
+    writeFile(folder / "list.tsv", writeVerseList(uniformBible("Haja luz ,e houve")));
+    writeFile(folder / "corrections.tsv", "book\tchapter\tverse\tbefore\tafter\twitness\n"
+                                          "Gn\t1\t3\tluz ,e\tluz .E\tspelling\n");
+    const ImportedText text = importText(folder / "list.tsv");
+    EXPECT_TRUE(text.hasCorrections);
+    EXPECT_EQ(text.corrections, 1u);
+    EXPECT_EQ(text.verses[2].text, "Haja luz. E houve");
+    EXPECT_EQ(text.verses[3].text, "Haja luz, e houve");
+}
+
+TEST_F(Importer, RefusesToLeaveAVerseWithoutText)
+{
+    writeFile(folder / "list.tsv", writeVerseList(uniformBible("x")));
+    writeFile(folder / "corrections.tsv",
+              "book\tchapter\tverse\tbefore\tafter\twitness\nGn\t1\t3\tx\t\tspelling\n");
+    EXPECT_EQ(complaint<InputError>([&] { importText(folder / "list.tsv"); }),
+              "Gn:1:3: the corrections and rules leave no text.");
+}
+
+TEST_F(Importer, NamesAFileThatCannotBeRead)
+{
+    const auto missing = folder / "missing.tsv";
+    EXPECT_EQ(complaint<InputError>([&] { importText(missing); }), "Cannot read " + missing.string() + ".");
+    EXPECT_EQ(complaint<InputError>([&] { importText(folder); }), "Cannot read " + folder.string() + ".");
+}
+
+TEST_F(Importer, NamesAFileThatCannotBeWritten)
+{
+    const auto nowhere = folder / "missing" / "list.tsv";
+    EXPECT_EQ(complaint<InputError>([&] { writeFile(nowhere, "x"); }),
+              "Cannot write " + nowhere.string() + ".");
+}
+
+TEST_F(ReferenceText, ComesOutByteForByte)
+{
+    ASSERT_EQ(sha256(readFile(referenceText)),
+              "aadefc71fc4ada2b185075e701d5a308a12535f6c92c66c058fc667112476b32");
+    EXPECT_EQ(imported().corrections, 515u);
+    EXPECT_EQ(sha256(writeVerseList(imported().verses)),
+              "977b2848297e2cca07927de47ebf0ea2ef69ac4b4527432151336dd400b0a3b9");
+}
+
+TEST_F(ReferenceText, IsNotChangedByASecondRunOfTheRules)
+{
+    for (const Verse& verse : imported().verses)
+        ASSERT_EQ(mendTypography(verse.text), verse.text) << verse.key.text();
+}
+
+TEST_F(ReferenceText, KeepsEveryLetterAndDigitUnderTheRules)
+{
+    for (const Verse& verse : readVerseList(readFile(referenceText), "list"))
+        ASSERT_EQ(lettersAndDigits(mendTypography(verse.text)), lettersAndDigits(verse.text))
+            << verse.key.text();
+}
+
+TEST_F(ReferenceText, DiffersFromThePublishedOneInThisManyVerses)
+{
+    const auto published = readVerseList(readFile(referenceText), "list");
+    int different = 0;
+    for (std::size_t i = 0; i < published.size(); ++i)
+        different += published[i].text != imported().verses[i].text;
+    EXPECT_EQ(different, 1723);
+}
