@@ -102,7 +102,7 @@ WINDOWS = [
     (search, SEARCH),
     (results, RESULTS[-1:] + RESULTS[:-1]),
     (Reader.open_aids, ["page tab list: Classified Verses", "radio button: Major Gospels Events",
-                        "combo box:  Preface of Luke", "list: Verse references"]),
+                        "combo box:  The Preface of Luke", "list: Verse references"]),
     (maps, ["page tab list: Maps", "list: Maps"]),
     (download, ["page tab list: Download Other Translations", "push button: Visit the Web Site"]),
     (Reader.open_map, ["push button: Zoom In/Restore Normal Size", "push button: Copy Map to Clipboard"]),

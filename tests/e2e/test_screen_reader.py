@@ -94,7 +94,7 @@ VERSES = TABS.format(tab="Classified Verses") + """\
     radio button: Christ's Parables
     radio button: Messianic Prophecies
   panel: Group Contents
-    combo box:  Preface of Luke
+    combo box:  The Preface of Luke
     list: Verse references"""
 MAPS = TABS.format(tab="Maps") + """\
   panel: Select a Map
