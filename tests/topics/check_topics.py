@@ -1,40 +1,27 @@
 #!/usr/bin/env python3
-"""Check the topic lists against the verses of the text.
+"""Check the topic lists against the verses of the text, and what their README says of them.
 
 usage: check_topics.py DIR_OF_LISTS TEXT_TSV
 
-Prints every fault as file:line: what is wrong, and exits 1 if there is one. The form of the lists is
-described in data/topics/README.md.
+Prints every fault as file:line: what is wrong, and exits 1 if there is one. The form of the lists and the
+rules of their titles stand in data/topics/README.md.
 """
 
 import re
 import sys
 from pathlib import Path
 
+from gospels import coverage_faults
+from references import Verses, reference_faults
+from titles import title_faults, twins
+
 # The fewest topics each list may hold.
 MINIMUM = {"events": 120, "miracles": 37, "parables": 40, "prophecy": 80}
 
 LONGEST_NAME = 60  # what the drop-down list can show
-FIRST_BOOK_OF_NEW_TESTAMENT = "Mt"
 QUOTES = "'\"`´‘’‚‛“”„‟«»‹›"
-REFERENCE = re.compile(r"([1-3]?[A-Z][a-z]*):([0-9]+):([0-9]+)(?:-(?:([0-9]+):)?([0-9]+))?")
-
-
-class Verses:
-    """Which verses there are, and where they stand."""
-
-    def __init__(self, path):
-        self.places = {}
-        books = []
-        for place, line in enumerate(Path(path).read_text(encoding="utf-8").splitlines()):
-            book, chapter, verse, _ = line.split("\t", 3)
-            self.places[f"{book}:{chapter}:{verse}"] = place
-            if book not in books:
-                books.append(book)
-        self.new_testament = set(books[books.index(FIRST_BOOK_OF_NEW_TESTAMENT):])
-
-    def __contains__(self, key):
-        return key in self.places
+# A row of the README's table of the lists: the file, its group and its number of topics.
+COUNT = re.compile(r"\| `(\w+)\.txt` \|[^|]*\| *(\d+) *\|")
 
 
 def name_faults(name):
@@ -50,24 +37,6 @@ def name_faults(name):
         yield "two hyphens in the name"
     if len(name) > LONGEST_NAME:
         yield f"name longer than {LONGEST_NAME} characters"
-
-
-def reference_faults(reference, verses):
-    match = REFERENCE.fullmatch(reference)
-    if not match:
-        yield f"not a reference: {reference!r}"
-        return
-    book, chapter, _, end_chapter, end_verse = match.groups()
-    start = reference.partition("-")[0]
-    if start not in verses:
-        yield f"no such verse: {start}"
-    if end_verse is None:
-        return
-    end = f"{book}:{end_chapter or chapter}:{end_verse}"
-    if end not in verses:
-        yield f"no such end verse: {end} in {reference}"
-    elif start in verses and verses.places[end] < verses.places[start]:
-        yield f"ends before it starts: {reference}"
 
 
 def topic_faults(group, references, verses):
@@ -89,40 +58,76 @@ def topic_faults(group, references, verses):
             yield "New Testament before Old Testament"
 
 
-def faults(folder, verses):
-    """All faults of the lists in the folder, as lines of text."""
-    first_use = {}
-    for group, minimum in MINIMUM.items():
-        path = Path(folder) / f"{group}.txt"
+class Lists:
+    """The topics of a folder of lists, and their faults one by one."""
+
+    def __init__(self, folder, verses):
+        self.topics = {}  # of each group: pairs of a name and its references
+        self.first_use = {}
+        self.faults = []
+        for group in MINIMUM:
+            self.topics[group] = []
+            self.faults += self.read(Path(folder) / f"{group}.txt", group, verses)
+
+    def read(self, path, group, verses):
         if not path.exists():
             yield f"{path.name}: missing"
-            continue
+            return
         try:
             lines = path.read_text(encoding="utf-8").splitlines()
         except UnicodeDecodeError:
             yield f"{path.name}: not UTF-8"
-            continue
-        topics = 0
+            return
         for number, line in enumerate(lines, 1):
-            if line.startswith("#"):
-                continue
-            where = f"{path.name}:{number}"
-            name, tab, references = line.partition("\t")
-            if not tab or not references:
-                yield f"{where}: not a name, a tab and references"
-                continue
-            topics += 1
-            for fault in name_faults(name):
-                yield f"{where}: {fault}"
-            # Letter case is ignored, as a database may ignore it when it compares names.
-            if name.casefold() in first_use:
-                yield f"{where}: name already used in {first_use[name.casefold()]}: {name}"
-            else:
-                first_use[name.casefold()] = where
-            for fault in topic_faults(group, references.split(" "), verses):
-                yield f"{where}: {fault}"
-        if topics < minimum:
-            yield f"{path.name}: {topics} topics, expected at least {minimum}"
+            if not line.startswith("#"):
+                where = f"{path.name}:{number}"
+                for fault in self.read_topic(line, where, group, verses):
+                    yield f"{where}: {fault}"
+        if len(self.topics[group]) < MINIMUM[group]:
+            yield f"{path.name}: {len(self.topics[group])} topics, expected at least {MINIMUM[group]}"
+
+    def read_topic(self, line, where, group, verses):
+        name, tab, references = line.partition("\t")
+        if not tab or not references:
+            yield "not a name, a tab and references"
+            return
+        references = references.split(" ")
+        self.topics[group].append((name, references))
+        wrong = list(name_faults(name))
+        yield from wrong or title_faults(name)
+        # Letter case is ignored, as a database may ignore it when it compares names.
+        if name.casefold() in self.first_use:
+            yield f"name already used in {self.first_use[name.casefold()]}: {name}"
+        else:
+            self.first_use[name.casefold()] = where
+        yield from topic_faults(group, references, verses)
+
+
+def count_faults(topics, readme):
+    said = {group: int(count) for group, count in COUNT.findall(readme)}
+    for group, listed in topics.items():
+        if group not in said:
+            yield f"README.md: does not say how many topics {group}.txt has"
+        elif said[group] != len(listed):
+            yield f"README.md: says that {group}.txt has {said[group]} topics, but it has {len(listed)}"
+
+
+def faults(folder, verses):
+    """All faults of the lists in the folder, as lines of text."""
+    lists = Lists(folder, verses)
+    readme = Path(folder) / "README.md"
+    if not readme.exists():
+        return [*lists.faults, "README.md: missing"]
+    # What follows takes each reference and each name for sound.
+    if lists.faults:
+        return lists.faults
+    text = readme.read_text(encoding="utf-8")
+    names = [name for listed in lists.topics.values() for name, _ in listed]
+    return [
+        *(f"titles too much alike: {one} / {other}" for one, other in twins(names)),
+        *count_faults(lists.topics, text),
+        *coverage_faults(lists.topics["events"], text, verses),
+    ]
 
 
 def main(arguments):
@@ -130,7 +135,7 @@ def main(arguments):
         print("usage: check_topics.py DIR_OF_LISTS TEXT_TSV", file=sys.stderr)
         return 2
     folder, text = arguments
-    found = list(faults(folder, Verses(text)))
+    found = faults(folder, Verses(text))
     for fault in found:
         print(fault)
     return 1 if found else 0
