@@ -73,7 +73,7 @@ void MDIParent::makeToolbar()
         place(*button, left, 0, 360, 360);
         left += 360;
     }
-    picToolbar->setFixedHeight(twips(390));
+    picToolbar->setFixedHeight(toPixels(390));
     auto* frame = new QWidget(this);
     auto* rows = new QVBoxLayout(frame);
     rows->setContentsMargins(0, 0, 0, 0);

@@ -20,5 +20,5 @@ TextWindow::TextWindow(const QString& name, const QString& caption, const QStrin
     Text1->setPlainText(text);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(Text1);
-    resize(twips(7200), twips(6000));
+    resize(toPixels(7200), toPixels(6000));
 }

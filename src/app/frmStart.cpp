@@ -30,7 +30,7 @@ ControlPlace placeOf(const QWidget& control)
 
 void moveTo(QWidget& control, const ControlPlace& place)
 {
-    control.move(twips(place.left), twips(place.top));
+    control.move(toPixels(place.left), toPixels(place.top));
 }
 
 } // namespace
@@ -53,12 +53,12 @@ frmStart::frmStart(Program& program, QWidget* owner)
     Image1->setObjectName("Image1");
     Image1->setAccessibleName("Kestrel Reader (PT)");
     Image1->setPixmap(splashPicture(devicePixelRatioF()));
-    Image1->move(twips(margin), twips(margin));
+    Image1->move(toPixels(margin), toPixels(margin));
     Image1->adjustSize();
     Image2->setToolTip(mailLink().toString());
     Image2->setAccessibleName(cmdMail->text());
     place(*Image2, margin, 4760, 360, 360);
-    cmdMail->move(twips(600), twips(4760));
+    cmdMail->move(toPixels(600), toPixels(4760));
     cmdMail->adjustSize();
     for (SoftBttn* button : {cmdMore, cmdDonation, cmdQORV, cmdOK})
         place(*button, margin, 4760, 480, 480);
@@ -89,8 +89,8 @@ bool frmStart::Form_Load()
     }
     if (!passesChecks())
         return false;
-    setFixedSize(Image1->geometry().right() + 1 + twips(margin),
-                 Image1->geometry().bottom() + 1 + twips(margin));
+    setFixedSize(Image1->geometry().right() + 1 + toPixels(margin),
+                 Image1->geometry().bottom() + 1 + toPixels(margin));
     hideAboutControls();
     return true;
 }
@@ -176,7 +176,7 @@ void frmStart::layOutAbout()
     moveTo(*cmdQORV, places.cmdQORV);
     moveTo(*Image2, places.Image2);
     moveTo(*cmdMail, places.cmdMail);
-    setFixedSize(twips(places.windowWidth), twips(places.windowHeight));
+    setFixedSize(toPixels(places.windowWidth), toPixels(places.windowHeight));
     // In the middle of the frame, and told to the desktop: where that chooses the place of a window without a
     // frame, Qt does not always learn it, and assistive tools look for the buttons elsewhere.
     adjustPosition(parentWidget());

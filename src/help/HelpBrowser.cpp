@@ -30,7 +30,7 @@ HelpBrowser::HelpBrowser(const QList<HelpPage>& pages, QWidget* parent)
 {
     document()->setDefaultStyleSheet(
         "a { color: " + linkColor(palette(), QPalette::Base, QPalette::Text).name() + "; }");
-    document()->setDocumentMargin(twips(180));
+    document()->setDocumentMargin(toPixels(180));
     setOpenLinks(false);
     connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::follow);
 }

@@ -59,9 +59,9 @@ HelpWindow::HelpWindow(const QList<HelpPage>& pages)
     split->addWidget(contents);
     split->addWidget(browser);
     split->setStretchFactor(1, 1);
-    split->setSizes({twips(3000), twips(9000)});
+    split->setSizes({toPixels(3000), toPixels(9000)});
     setCentralWidget(split);
-    resize(QSize(twips(12600), twips(9000)).boundedTo(screen()->availableSize() * 0.92));
+    resize(QSize(toPixels(12600), toPixels(9000)).boundedTo(screen()->availableSize() * 0.92));
 
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
     connect(back, &QAction::triggered, browser, &QTextBrowser::backward);

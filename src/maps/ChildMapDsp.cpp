@@ -25,7 +25,7 @@ ChildMapDsp::ChildMapDsp(Shell& shell)
     auto* surface = new QWidget;
     Image1 = new MapPicture(surface);
     Image1->setObjectName("Image1");
-    Image1->move(twips(60), twips(60));
+    Image1->move(toPixels(60), toPixels(60));
     lblMapDesc = new QLabel(surface);
     lblMapDesc->setObjectName("lblMapDesc");
     lblMapDesc->setTextFormat(Qt::PlainText);
@@ -112,8 +112,8 @@ void ChildMapDsp::fitWindow()
     const int width = qRound(Image1->extent().width());
     const int height = qRound(Image1->extent().height());
     setOuterSize(width + 800, height + 520);
-    cmdPicCopy->move(twips(width + 150), cmdPicCopy->y());
-    cmdZoom->move(twips(width + 150), cmdZoom->y());
+    cmdPicCopy->move(toPixels(width + 150), cmdPicCopy->y());
+    cmdZoom->move(toPixels(width + 150), cmdZoom->y());
     const QRect content = Image1->geometry() | cmdZoom->geometry() | cmdPicCopy->geometry();
     m_surface->widget()->resize(content.right() + 1, content.bottom() + 1);
     m_surface->resize(size());

@@ -143,7 +143,7 @@ void ChildMapSel::makeDownloadPage()
     image->setObjectName("Image1");
     image->setAccessibleName("Web site");
     image->setIcon(picture(PictureId::Web));
-    image->setIconSize(QSize(twips(960), twips(960)));
+    image->setIconSize(QSize(toPixels(960), toPixels(960)));
     image->setAutoRaise(true);
     image->setFocusPolicy(Qt::NoFocus); // the button does the same by keyboard
     image->setCursor(Qt::PointingHandCursor);
@@ -272,11 +272,8 @@ void ChildMapSel::fillReferences()
 
 void ChildMapSel::openReference(const QString& reference)
 {
-    ChildRead& reading = shell().readingWindow();
-    reading.DataCtl.setRecordSource(
-        ("SELECT * FROM NewTestament WHERE VerseId LIKE '" + reference + "*'").toStdString());
-    reading.DataCtl.refresh();
-    reading.restoreAndActivate();
+    shell().readingWindow().showFirst("SELECT * FROM NewTestament WHERE VerseId LIKE '" +
+                                      reference.toStdString() + "*'");
 }
 
 void ChildMapSel::openMap(int number)

@@ -70,7 +70,7 @@ void MapPicture::setStretch(bool stretch)
 void MapPicture::setExtent(QSizeF extent)
 {
     m_extent = extent;
-    resize(twips(extent.width()), twips(extent.height()));
+    resize(toPixels(extent.width()), toPixels(extent.height()));
     scalePixmap();
 }
 

@@ -7,6 +7,7 @@
 #include "read/TextBox.h"
 #include "read/TypeSize.h"
 #include "widgets/Fonts.h"
+#include "widgets/Layout.h"
 #include "widgets/Menus.h"
 #include "widgets/Shell.h"
 #include "widgets/SoftBttn.h"
@@ -15,20 +16,20 @@
 ChapRead::ChapRead(Shell& shell)
     : Form(shell, "ChapRead")
     , ChapText(new TextBox(this))
-    , cmdFont(new SoftBttn("cmdFont", PictureId::FontSize, "Font Size", this))
-    , cmdFntFace(new SoftBttn("cmdFntFace", PictureId::FontFace, "Font Face", this))
-    , cmdChapCopy(new SoftBttn("cmdChapCopy", PictureId::Copy, "Copy Chapter to Clipboard", this))
-    , cmdTip(new SoftBttn("cmdTip", PictureId::Tip, "Tip", this))
+    , cmdFont(new SoftBttn(PictureId::FontSize, "Font Size", this))
+    , cmdFntFace(new SoftBttn(PictureId::FontFace, "Font Face", this))
+    , cmdChapCopy(new SoftBttn(PictureId::Copy, "Copy Chapter to Clipboard", this))
+    , cmdTip(new SoftBttn(PictureId::Tip, "Tip", this))
 {
     setCaption("Chapter Window");
-    ChapText->setObjectName("ChapText");
-    ChapText->setAccessibleName("Chapter text");
     ChapText->setFont(Fonts::tahomaOf(12));
-    place(*ChapText, 60, 60, 7920, 5175);
-    place(*cmdFont, 8070, 60, 400, 400);
-    place(*cmdFntFace, 8070, 480, 400, 400);
-    place(*cmdChapCopy, 8070, 900, 400, 400);
-    place(*cmdTip, 8070, 1320, 400, 400);
+    layOut({
+        {ChapText, "ChapText", "Chapter text", {60, 60, 7920, 5175}},
+        {cmdFont, "cmdFont", "", {8070, 60, 400, 400}},
+        {cmdFntFace, "cmdFntFace", "", {8070, 480, 400, 400}},
+        {cmdChapCopy, "cmdChapCopy", "", {8070, 900, 400, 400}},
+        {cmdTip, "cmdTip", "", {8070, 1320, 400, 400}},
+    });
 
     // The item has no shortcut: Ctrl+C copies what is selected in the text.
     QMenu* edit = Menus::make(*this, "mnuEdit", "&Edit");
@@ -70,11 +71,11 @@ void ChapRead::Form_Load()
 
 void ChapRead::Form_Resize()
 {
-    const int width = possibleTwips(outerWidth() - 800, ChapText->width());
-    const int height = possibleTwips(outerHeight() - 520, ChapText->height());
-    ChapText->resize(twips(width), twips(height));
+    const int width = possibleLength(outerWidth() - 800, toTwips(ChapText->width()));
+    const int height = possibleLength(outerHeight() - 520, toTwips(ChapText->height()));
+    ChapText->resize(toPixels(width), toPixels(height));
     for (SoftBttn* button : {cmdFont, cmdFntFace, cmdChapCopy, cmdTip})
-        button->move(twips(width + 150), button->y());
+        button->move(toPixels(width + 150), button->y());
 }
 
 void ChapRead::cmdFont_Click()

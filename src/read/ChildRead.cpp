@@ -10,6 +10,7 @@
 #include "read/VerseLabel.h"
 #include "widgets/Fonts.h"
 #include "widgets/Hourglass.h"
+#include "widgets/Layout.h"
 #include "widgets/Menus.h"
 #include "widgets/Shell.h"
 #include "widgets/SoftBttn.h"
@@ -23,50 +24,37 @@ ChildRead::ChildRead(Shell& shell)
     , VerseText(new VerseLabel(this))
     , lblSerial(new QLabel(this))
     , lblVerseId(new VerseKeyLabel(this))
-    , cmdPrev(new SoftBttn("cmdPrev", PictureId::PreviousVerse, "Previous Verse", this))
-    , cmdNext(new SoftBttn("cmdNext", PictureId::NextVerse, "Next Verse", this))
-    , cmdChap(new SoftBttn("cmdChap", PictureId::Chapter, "Current Chapter", this))
-    , cmdCopy(new SoftBttn("cmdCopy", PictureId::Copy, "Copy Verse to Clipboard", this))
-    , cmdFont(new SoftBttn("cmdFont", PictureId::FontSize, "Font Size", this))
-    , cmdFntFace(new SoftBttn("cmdFntFace", PictureId::FontFace, "Font Face", this))
+    , cmdPrev(new SoftBttn(PictureId::PreviousVerse, "Previous Verse", this))
+    , cmdNext(new SoftBttn(PictureId::NextVerse, "Next Verse", this))
+    , cmdChap(new SoftBttn(PictureId::Chapter, "Current Chapter", this))
+    , cmdCopy(new SoftBttn(PictureId::Copy, "Copy Verse to Clipboard", this))
+    , cmdFont(new SoftBttn(PictureId::FontSize, "Font Size", this))
+    , cmdFntFace(new SoftBttn(PictureId::FontFace, "Font Face", this))
     , chkAuto(new QCheckBox("&AutoJump to next verse after", this))
     , cboSeconds(new QComboBox(this))
     , Label2(new QLabel("secon&ds", this))
     , Timer1(new QTimer(this))
 {
-    VerseText->setObjectName("VerseText");
     VerseText->setFont(Fonts::tahomaOf(18));
-    place(*VerseText, 60, 60, 6735, 4290);
-    lblSerial->setObjectName("lblSerial");
     lblSerial->hide();
-    place(*lblSerial, 6840, 3360, 975, 375);
-    lblVerseId->setObjectName("lblVerseId");
     lblVerseId->setFont(Fonts::captionsOf(7));
-    place(*lblVerseId, 6840, 3840, 585, 375);
-    place(*cmdFont, 6880, 60, 400, 400);
-    place(*cmdFntFace, 6880, 480, 400, 400);
-    place(*cmdCopy, 6880, 900, 400, 400);
-    place(*cmdChap, 6880, 1320, 400, 400);
-    place(*cmdPrev, 5190, 4450, 795, 400);
-    place(*cmdNext, 5985, 4450, 795, 400);
-    chkAuto->setObjectName("chkAuto");
-    chkAuto->setAccessibleName("AutoJump to next verse after");
-    place(*chkAuto, 60, 4570, 2820, 300);
-    cboSeconds->setObjectName("cboSeconds");
-    cboSeconds->setAccessibleName("seconds");
-    place(*cboSeconds, 2910, 4525, 780, 345);
-    Label2->setObjectName("Label2");
     Label2->setBuddy(cboSeconds);
-    place(*Label2, 3750, 4585, 900, 255);
     Timer1->setObjectName("Timer1");
     Timer1->setTimerType(Qt::PreciseTimer);
-    setTabOrder(cmdNext, cmdPrev); // the focus starts on the button that readers press most
-    setTabOrder(cmdPrev, chkAuto);
-    setTabOrder(chkAuto, cboSeconds);
-    setTabOrder(cboSeconds, cmdFont);
-    setTabOrder(cmdFont, cmdFntFace);
-    setTabOrder(cmdFntFace, cmdCopy);
-    setTabOrder(cmdCopy, cmdChap);
+    layOut({
+        {VerseText, "VerseText", "", {60, 60, 6735, 4290}},
+        {lblSerial, "lblSerial", "", {6840, 3360, 975, 375}},
+        {lblVerseId, "lblVerseId", "", {6840, 3840, 585, 375}},
+        {cmdNext, "cmdNext", "", {5985, 4450, 795, 400}}, // the focus starts where readers press most
+        {cmdPrev, "cmdPrev", "", {5190, 4450, 795, 400}},
+        {chkAuto, "chkAuto", "AutoJump to next verse after", {60, 4570, 2820, 300}},
+        {cboSeconds, "cboSeconds", "seconds", {2910, 4525, 780, 345}},
+        {Label2, "Label2", "", {3750, 4585, 900, 255}},
+        {cmdFont, "cmdFont", "", {6880, 60, 400, 400}},
+        {cmdFntFace, "cmdFntFace", "", {6880, 480, 400, 400}},
+        {cmdCopy, "cmdCopy", "", {6880, 900, 400, 400}},
+        {cmdChap, "cmdChap", "", {6880, 1320, 400, 400}},
+    });
 
     QMenu* edit = Menus::make(*this, "mnuEdit", "&Edit");
     Menus::addItem(edit, "mnuCopy", "&Copy Verse to Clipboard", Qt::CTRL | Qt::Key_C,
@@ -90,6 +78,29 @@ ChildRead::ChildRead(Shell& shell)
     connect(Timer1, &QTimer::timeout, this, &ChildRead::Timer1_Timer);
 }
 
+bool ChildRead::fetch(const std::string& sql)
+{
+    DataCtl.setRecordSource(sql);
+    DataCtl.refresh();
+    return DataCtl.recordCount() > 0;
+}
+
+void ChildRead::showFirst(const std::string& sql)
+{
+    fetch(sql);
+    restoreAndActivate();
+}
+
+QString ChildRead::currentKey() const
+{
+    return lblVerseId->text();
+}
+
+int ChildRead::currentNumber() const
+{
+    return static_cast<int>(leadingNumber(lblSerial->text()));
+}
+
 void ChildRead::Form_Load()
 {
     DataCtl.setDatabaseName(databasePath(shell().basePath()));
@@ -100,7 +111,7 @@ void ChildRead::Form_Load()
     const QSize frame = frameInnerSize();
     const QSize inner = innerSize();
     setOuterPosition((frame.width() - inner.width()) / 3, (frame.height() - inner.height()) / 3 + 150);
-    showVerse(1);
+    showNumber(1);
 }
 
 void ChildRead::Form_Activate()
@@ -122,18 +133,19 @@ void ChildRead::Form_Resize()
     else
         resumeTimer();
 
-    const int width = possibleTwips(outerWidth() - 840, VerseText->width());
-    const int height = possibleTwips(outerHeight() - 1030, VerseText->height());
-    VerseText->resize(twips(width), twips(height));
-    cmdPrev->move(twips(width - 1530), twips(height + 160));
-    cmdNext->move(twips(width - 735), twips(height + 160));
+    const int width = possibleLength(outerWidth() - 840, toTwips(VerseText->width()));
+    const int height = possibleLength(outerHeight() - 1030, toTwips(VerseText->height()));
+    VerseText->resize(toPixels(width), toPixels(height));
+    cmdPrev->move(toPixels(width - 1530), toPixels(height + 160));
+    cmdNext->move(toPixels(width - 735), toPixels(height + 160));
     for (SoftBttn* button : {cmdFont, cmdFntFace, cmdCopy, cmdChap})
-        button->move(twips(width + 160), button->y());
+        button->move(toPixels(width + 160), button->y());
     const int autoTop = height + 160 + 120;
-    chkAuto->move(chkAuto->x(), twips(autoTop));
-    cboSeconds->move(cboSeconds->x(), twips(autoTop - 45));
-    Label2->move(Label2->x(), twips(autoTop + 15));
-    lblVerseId->move(twips(width + 120), lblVerseId->y()); // stays below the buttons, where it was laid out
+    chkAuto->move(chkAuto->x(), toPixels(autoTop));
+    cboSeconds->move(cboSeconds->x(), toPixels(autoTop - 45));
+    Label2->move(Label2->x(), toPixels(autoTop + 15));
+    lblVerseId->move(toPixels(width + 120),
+                     lblVerseId->y()); // stays below the buttons, where it was laid out
 }
 
 void ChildRead::DataCtl_Reposition()
@@ -155,14 +167,14 @@ void ChildRead::lblVerseId_Change()
 void ChildRead::cmdPrev_Click()
 {
     Timer1->stop();
-    showVerse(verseBefore(lblSerial->text()));
+    showNumber(verseBefore(lblSerial->text()));
     resumeTimer();
 }
 
 void ChildRead::cmdNext_Click()
 {
     Timer1->stop(); // and started again below, so that the next tick comes one full interval after this step
-    showVerse(verseAfter(lblSerial->text()));
+    showNumber(verseAfter(lblSerial->text()));
     resumeTimer();
 }
 
@@ -210,10 +222,9 @@ void ChildRead::cmdChap_Click()
     chapter.highlight(lblVerseId->text() + VerseText->text());
 }
 
-void ChildRead::showVerse(int number)
+void ChildRead::showNumber(int number)
 {
-    DataCtl.setRecordSource("SELECT * FROM NewTestament WHERE VerseNumber = " + std::to_string(number));
-    DataCtl.refresh();
+    fetch("SELECT * FROM NewTestament WHERE VerseNumber = " + std::to_string(number));
 }
 
 void ChildRead::resumeTimer()

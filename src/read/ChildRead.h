@@ -12,14 +12,24 @@ class VerseLabel;
 
 /// The reading window: one verse in large type, stepped through by hand or on a timer.
 ///
-/// Another window hands a verse over by setting the record source of `DataCtl` to an SQL text whose first row
-/// is the verse, refreshing it, and calling restoreAndActivate(). The labels tell which verse is current.
+/// Every other window that wants to show a verse hands it over here, and asks here which verse is current.
 class ChildRead : public Form
 {
     Q_OBJECT
 
 public:
     explicit ChildRead(Shell& shell);
+
+    /// Shows the first row of an SQL text over `NewTestament`, in UTF-8; false when it has none, and the
+    /// labels are then blank. Throws DataError.
+    bool fetch(const std::string& sql);
+    /// The hand-off of a verse: fetch(), then restoreAndActivate().
+    void showFirst(const std::string& sql);
+
+    /// The key and the running number of the current verse as the labels show them; empty and 0 when there is
+    /// none.
+    QString currentKey() const;
+    int currentNumber() const;
 
     DataSource DataCtl;
     VerseLabel* VerseText;
@@ -55,7 +65,7 @@ private:
     void cmdCopy_Click();
     void cmdChap_Click();
 
-    void showVerse(int number);
+    void showNumber(int number);
     void resumeTimer();
 
     bool m_otherFace = false;

@@ -176,7 +176,7 @@ void frmAdvSearch::Form_Resize()
                  List1->isHidden() ? inputHeight : resultsHeight);
     // Maximised, the list takes the room that there is.
     const QSize room = size() - QSize(2 * List1->x(), List1->y() + List1->x());
-    List1->resize(room.expandedTo(QSize(twips(listWidth), twips(listHeight))));
+    List1->resize(room.expandedTo(QSize(toPixels(listWidth), toPixels(listHeight))));
 }
 
 void frmAdvSearch::Form_Unload()
@@ -388,11 +388,8 @@ void frmAdvSearch::List1_Click()
     const QString line = List1->text(List1->selected());
     const QString reference = line.left(qMax(qsizetype(0), line.indexOf(' ')));
     try {
-        ChildRead& reading = shell().readingWindow();
-        reading.DataCtl.setRecordSource("SELECT * FROM NewTestament WHERE VerseId = '" +
-                                        reference.toStdString() + "'");
-        reading.DataCtl.refresh();
-        reading.restoreAndActivate();
+        shell().readingWindow().showFirst("SELECT * FROM NewTestament WHERE VerseId = '" +
+                                          reference.toStdString() + "'");
     } catch (const DataError&) {
         return; // no word about it, on purpose
     }

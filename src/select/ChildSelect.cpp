@@ -6,6 +6,7 @@
 #include "select/Lookup.h"
 #include "store/BookCatalog.h"
 #include "widgets/EnterKey.h"
+#include "widgets/Layout.h"
 #include "widgets/Shell.h"
 #include "widgets/SoftBttn.h"
 #include "widgets/Twips.h"
@@ -16,28 +17,23 @@
 
 ChildSelect::ChildSelect(Shell& shell)
     : Form(shell, "ChildSelect")
-    , cmdExamples(new SoftBttn("cmdExamples", PictureId::Examples, "Examples", this))
-    , cmdGo(new SoftBttn("cmdGo", PictureId::DisplayVerse, "Display Verse", this))
+    , cmdExamples(new SoftBttn(PictureId::Examples, "Examples", this))
+    , cmdGo(new SoftBttn(PictureId::DisplayVerse, "Display Verse", this))
     , TreeView1(new QTreeWidget(this))
     , Combo1(new QComboBox(this))
 {
     setCaption("Select Verse for Reading");
-    place(*cmdExamples, 2600, 60, 400, 400);
-    place(*cmdGo, 2200, 60, 400, 400);
-    TreeView1->setObjectName("TreeView1");
-    TreeView1->setAccessibleName("Books");
     TreeView1->header()->hide();
-    place(*TreeView1, 60, 555, 6135, 3135);
-    Combo1->setObjectName("Combo1");
-    Combo1->setAccessibleName("Reference");
     Combo1->setEditable(true);
     Combo1->setInsertPolicy(QComboBox::NoInsert);
     Combo1->setCompleter(nullptr); // the text is the reader's own, to the letter
     Combo1->lineEdit()->setAccessibleName("Reference");
-    place(*Combo1, 60, 100, 2000, 315);
-    setTabOrder(Combo1, cmdGo);
-    setTabOrder(cmdGo, cmdExamples);
-    setTabOrder(cmdExamples, TreeView1);
+    layOut({
+        {Combo1, "Combo1", "Reference", {60, 100, 2000, 315}},
+        {cmdGo, "cmdGo", "", {2200, 60, 400, 400}},
+        {cmdExamples, "cmdExamples", "", {2600, 60, 400, 400}},
+        {TreeView1, "TreeView1", "Books", {60, 555, 6135, 3135}},
+    });
     makeMenus({});
 
     connect(TreeView1, &QTreeWidget::itemClicked, this, &ChildSelect::TreeView1_NodeClick);
@@ -67,9 +63,10 @@ void ChildSelect::Form_Activate()
 
 void ChildSelect::Form_Resize()
 {
-    const int width = possibleTwips(outerWidth() - 260, TreeView1->width());
-    const int height = possibleTwips(outerHeight() - toTwips(TreeView1->y()) - 460, TreeView1->height());
-    TreeView1->resize(twips(width), twips(height));
+    const int width = possibleLength(outerWidth() - 260, toTwips(TreeView1->width()));
+    const int height =
+        possibleLength(outerHeight() - toTwips(TreeView1->y()) - 460, toTwips(TreeView1->height()));
+    TreeView1->resize(toPixels(width), toPixels(height));
 }
 
 bool ChildSelect::Form_KeyDown(QKeyEvent& event)

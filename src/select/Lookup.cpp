@@ -2,17 +2,11 @@
 
 #include "desktop/MsgBox.h"
 #include "read/ChildRead.h"
-#include "read/Stepping.h"
 #include "widgets/Hourglass.h"
-#include <QLabel>
 
 namespace {
 
-void show(DataSource& data, const QString& condition)
-{
-    data.setRecordSource(("SELECT * FROM NewTestament WHERE " + condition).toStdString());
-    data.refresh();
-}
+const std::string verses = "SELECT * FROM NewTestament WHERE ";
 
 bool isShown(const QString& key, const QString& reference)
 {
@@ -23,16 +17,15 @@ bool isShown(const QString& key, const QString& reference)
 
 void displayVerse(ChildRead& reading, const QString& reference)
 {
-    const int current = qMax(1, static_cast<int>(leadingNumber(reading.lblSerial->text())));
-    if (!isShown(reading.lblVerseId->text(), reference)) {
-        {
-            const Hourglass hourglass;
-            show(reading.DataCtl, "VerseId LIKE '" + reference + "*'");
-        }
-        if (reading.DataCtl.recordCount() == 0) {
+    const int current = qMax(1, reading.currentNumber());
+    if (!isShown(reading.currentKey(), reference)) {
+        Hourglass hourglass;
+        const bool found = reading.fetch(verses + "VerseId LIKE '" + reference.toStdString() + "*'");
+        hourglass.restore();
+        if (!found) {
             MsgBox::show("Incorrect user input. No such verse.", MsgIcon::Exclamation, MsgButtons::Ok,
                          "Try Again!");
-            show(reading.DataCtl, QString("VerseNumber = %1").arg(current));
+            reading.fetch(verses + "VerseNumber = " + std::to_string(current));
         }
     }
     reading.restoreAndActivate();

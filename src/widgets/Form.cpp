@@ -183,13 +183,13 @@ void Form::makeMenus(const QList<QMenu*>& own, bool plainToolsItem)
 void Form::setOuterSize(int widthTwips, int heightTwips)
 {
     if (subWindow() && state() == Normal)
-        subWindow()->resize(twips(widthTwips), twips(heightTwips));
+        subWindow()->resize(toPixels(widthTwips), toPixels(heightTwips));
 }
 
 void Form::setOuterPosition(int leftTwips, int topTwips)
 {
     if (subWindow() && state() == Normal)
-        subWindow()->move(twips(leftTwips), twips(topTwips));
+        subWindow()->move(toPixels(leftTwips), toPixels(topTwips));
 }
 
 QSize Form::innerSize() const

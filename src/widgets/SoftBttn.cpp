@@ -32,12 +32,17 @@ SoftBttn::SoftBttn(QWidget* parent)
     });
 }
 
-SoftBttn::SoftBttn(const QString& name, PictureId id, const QString& toolTip, QWidget* parent)
+SoftBttn::SoftBttn(PictureId id, const QString& toolTip, QWidget* parent)
     : SoftBttn(parent)
 {
-    setObjectName(name);
     setPicture(::picture(id));
     setToolTip(toolTip);
+}
+
+SoftBttn::SoftBttn(const QString& name, PictureId id, const QString& toolTip, QWidget* parent)
+    : SoftBttn(id, toolTip, parent)
+{
+    setObjectName(name);
 }
 
 void SoftBttn::setPicture(const QIcon& picture)

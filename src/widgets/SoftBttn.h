@@ -16,7 +16,9 @@ class SoftBttn : public QAbstractButton
 
 public:
     explicit SoftBttn(QWidget* parent = nullptr);
-    /// The name is the one in the code, as in "cmdGo"; a screen reader speaks the tooltip.
+    /// A screen reader speaks the tooltip.
+    SoftBttn(PictureId id, const QString& toolTip, QWidget* parent);
+    /// The name is the one in the code, as in "cmdGo".
     SoftBttn(const QString& name, PictureId id, const QString& toolTip, QWidget* parent = nullptr);
 
     QIcon picture() const { return m_picture; }

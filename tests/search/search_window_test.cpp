@@ -114,20 +114,20 @@ TEST_F(SearchWindow, OpensAtTheTopLeftInItsShortSize)
 {
     const int width = toTwips(window().cmdOK->geometry().right() + 1) + 160;
     EXPECT_EQ(outer(window()).pos(), QPoint(0, 0));
-    EXPECT_EQ(outer(window()).size(), QSize(twips(width), twips(2920)));
+    EXPECT_EQ(outer(window()).size(), QSize(toPixels(width), toPixels(2920)));
 }
 
 TEST_F(SearchWindow, KeepsItsSizeInEachLayout)
 {
     const int width = outer(window()).width();
     outer(window()).resize(900, 500);
-    EXPECT_EQ(outer(window()).size(), QSize(width, twips(2920)));
+    EXPECT_EQ(outer(window()).size(), QSize(width, toPixels(2920)));
     search("amor");
-    EXPECT_EQ(outer(window()).size(), QSize(width, twips(5325)));
+    EXPECT_EQ(outer(window()).size(), QSize(width, toPixels(5325)));
     outer(window()).resize(300, 200);
-    EXPECT_EQ(outer(window()).size(), QSize(width, twips(5325)));
+    EXPECT_EQ(outer(window()).size(), QSize(width, toPixels(5325)));
     newSearch();
-    EXPECT_EQ(outer(window()).size(), QSize(width, twips(2920)));
+    EXPECT_EQ(outer(window()).size(), QSize(width, toPixels(2920)));
 }
 
 TEST_F(SearchWindow, ComesBackToItsSizeAfterBeingMaximised)
@@ -139,12 +139,12 @@ TEST_F(SearchWindow, ComesBackToItsSizeAfterBeingMaximised)
     EXPECT_TRUE(outer(window()).isMaximized());
     EXPECT_GT(list().width(), width) << "the list takes the room";
     outer(window()).showNormal();
-    EXPECT_EQ(outer(window()).size(), QSize(width, twips(5325)));
+    EXPECT_EQ(outer(window()).size(), QSize(width, toPixels(5325)));
     EXPECT_LT(list().width(), width);
     outer(window()).showMinimized();
     EXPECT_TRUE(outer(window()).isMinimized());
     outer(window()).showNormal();
-    EXPECT_EQ(outer(window()).size(), QSize(width, twips(5325)));
+    EXPECT_EQ(outer(window()).size(), QSize(width, toPixels(5325)));
 }
 
 TEST_F(SearchWindow, CutsAndOverlapsNothingInEitherLayout)

@@ -2,6 +2,7 @@
 
 #include "app/MDIParent.h"
 #include "app/Program.h"
+#include "support/Controls.h"
 #include "support/Recorders.h"
 #include <gtest/gtest.h>
 #include <memory>

@@ -451,7 +451,7 @@ protected:
         EXPECT_EQ(search.cmdOK->isEnabled(), !results && !search.Text1->text().trimmed().isEmpty());
         EXPECT_TRUE(search.Animation1->isHidden()) << "the clip stays";
         if (search.state() == Form::Normal) {
-            EXPECT_EQ(search.outerHeight(), toTwips(twips(results ? 5325 : 2920)));
+            EXPECT_EQ(search.outerHeight(), toTwips(toPixels(results ? 5325 : 2920)));
         }
     }
 
