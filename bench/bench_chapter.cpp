@@ -38,9 +38,7 @@ public:
         : m_program(QFileInfo(databasePath()).absolutePath())
     {
         m_program.showFrame();
-        reading().DataCtl.setRecordSource("SELECT * FROM NewTestament WHERE VerseId = 'Ps:119:176'");
-        reading().DataCtl.refresh();
-        reading().restoreAndActivate();
+        reading().showFirst("SELECT * FROM NewTestament WHERE VerseId = 'Ps:119:176'");
         QCoreApplication::processEvents();
     }
 

@@ -6,6 +6,7 @@
 #include "read/Chapter.h"
 #include "read/TextBox.h"
 #include "read/TypeSize.h"
+#include "widgets/DataControl.h"
 #include "widgets/Fonts.h"
 #include "widgets/Layout.h"
 #include "widgets/Menus.h"
@@ -15,6 +16,7 @@
 
 ChapRead::ChapRead(Shell& shell)
     : Form(shell, "ChapRead")
+    , DataCtrl(new DataControl("DataCtrl", "NewTestament", this))
     , ChapText(new TextBox(this))
     , cmdFont(new SoftBttn(PictureId::FontSize, "Font Size", this))
     , cmdFntFace(new SoftBttn(PictureId::FontFace, "Font Face", this))
@@ -49,7 +51,7 @@ void ChapRead::showChapter(const QString& reference)
     setCaption("Please wait...");
     ChapText->hide();
     ChapText->setText({});
-    ChapText->setText(gatherChapter(DataCtrl, reference));
+    ChapText->setText(gatherChapter(*DataCtrl, reference));
     setCaption(chapterCaption(reference));
     ChapText->show();
     ChapText->setFocus(); // hiding took it away
@@ -64,7 +66,7 @@ void ChapRead::highlight(const QString& verse)
 
 void ChapRead::Form_Load()
 {
-    DataCtrl.setDatabaseName(databasePath(shell().basePath()));
+    DataCtrl->setDatabaseName(databasePath(shell().basePath()));
     setOuterSize(toTwips(ChapText->width()) + 800, toTwips(ChapText->height()) + 520);
     setOuterPosition(0, 0);
 }

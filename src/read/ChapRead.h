@@ -1,8 +1,8 @@
 #pragma once
 
-#include "store/DataSource.h"
 #include "widgets/Form.h"
 
+class DataControl;
 class SoftBttn;
 class TextBox;
 
@@ -21,13 +21,6 @@ public:
     /// missing.
     void highlight(const QString& verse);
 
-    DataSource DataCtrl;
-    TextBox* ChapText;
-    SoftBttn* cmdFont;
-    SoftBttn* cmdFntFace;
-    SoftBttn* cmdChapCopy;
-    SoftBttn* cmdTip;
-
 protected:
     void Form_Load() override;
     void Form_Resize() override;
@@ -38,6 +31,13 @@ private:
     void cmdChapCopy_Click();
     void cmdTip_Click();
     void mnuCopy_Click();
+
+    DataControl* DataCtrl;
+    TextBox* ChapText;
+    SoftBttn* cmdFont;
+    SoftBttn* cmdFntFace;
+    SoftBttn* cmdChapCopy;
+    SoftBttn* cmdTip;
 
     bool m_otherFace = false;
 };

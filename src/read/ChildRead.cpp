@@ -8,6 +8,7 @@
 #include "read/TypeSize.h"
 #include "read/VerseKeyLabel.h"
 #include "read/VerseLabel.h"
+#include "widgets/DataControl.h"
 #include "widgets/Fonts.h"
 #include "widgets/Hourglass.h"
 #include "widgets/Layout.h"
@@ -18,9 +19,11 @@
 #include "widgets/Twips.h"
 #include <QCheckBox>
 #include <QComboBox>
+#include <QTimer>
 
 ChildRead::ChildRead(Shell& shell)
     : Form(shell, "ChildRead")
+    , DataCtl(new DataControl("DataCtl", "NewTestament", this))
     , VerseText(new VerseLabel(this))
     , lblSerial(new QLabel(this))
     , lblVerseId(new VerseKeyLabel(this))
@@ -66,7 +69,7 @@ ChildRead::ChildRead(Shell& shell)
     Menus::addItem(view, "mnuNext", "&Next Verse", Qt::Key_F12, [this] { cmdNext_Click(); });
     makeMenus({edit, view}, true);
 
-    DataCtl.currentRowChanged = [this] { DataCtl_Reposition(); };
+    DataCtl->currentRowChanged = [this] { DataCtl_Reposition(); };
     connect(cmdPrev, &SoftBttn::clicked, this, &ChildRead::cmdPrev_Click);
     connect(cmdNext, &SoftBttn::clicked, this, &ChildRead::cmdNext_Click);
     connect(cmdChap, &SoftBttn::clicked, this, &ChildRead::cmdChap_Click);
@@ -80,9 +83,9 @@ ChildRead::ChildRead(Shell& shell)
 
 bool ChildRead::fetch(const std::string& sql)
 {
-    DataCtl.setRecordSource(sql);
-    DataCtl.refresh();
-    return DataCtl.recordCount() > 0;
+    DataCtl->setRecordSource(sql);
+    DataCtl->refresh();
+    return DataCtl->recordCount() > 0;
 }
 
 void ChildRead::showFirst(const std::string& sql)
@@ -103,7 +106,7 @@ int ChildRead::currentNumber() const
 
 void ChildRead::Form_Load()
 {
-    DataCtl.setDatabaseName(databasePath(shell().basePath()));
+    DataCtl->setDatabaseName(databasePath(shell().basePath()));
     cboSeconds->addItems({"3", "4", "5", "6", "7", "8", "12"});
     cboSeconds->setCurrentIndex(1);
     Timer1->setInterval(4000);
@@ -150,9 +153,9 @@ void ChildRead::Form_Resize()
 
 void ChildRead::DataCtl_Reposition()
 {
-    VerseText->setText(toText(DataCtl.field("KJVerseText")));
-    lblSerial->setText(toText(DataCtl.field("VerseNumber")));
-    const QString key = toText(DataCtl.field("VerseId"));
+    VerseText->setText(toText(DataCtl->field("KJVerseText")));
+    lblSerial->setText(toText(DataCtl->field("VerseNumber")));
+    const QString key = toText(DataCtl->field("VerseId"));
     if (key == lblVerseId->text())
         return;
     lblVerseId->setText(key);

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "store/DataSource.h"
 #include "widgets/Form.h"
-#include <QTimer>
 
+class DataControl;
 class QCheckBox;
 class QComboBox;
 class QLabel;
+class QTimer;
 class SoftBttn;
 class VerseLabel;
 
@@ -31,21 +31,6 @@ public:
     QString currentKey() const;
     int currentNumber() const;
 
-    DataSource DataCtl;
-    VerseLabel* VerseText;
-    QLabel* lblSerial;  ///< hidden; the running number
-    QLabel* lblVerseId; ///< the verse key
-    SoftBttn* cmdPrev;
-    SoftBttn* cmdNext;
-    SoftBttn* cmdChap;
-    SoftBttn* cmdCopy;
-    SoftBttn* cmdFont;
-    SoftBttn* cmdFntFace;
-    QCheckBox* chkAuto;
-    QComboBox* cboSeconds;
-    QLabel* Label2;
-    QTimer* Timer1;
-
 protected:
     void Form_Load() override;
     void Form_Activate() override;
@@ -67,6 +52,21 @@ private:
 
     void showNumber(int number);
     void resumeTimer();
+
+    DataControl* DataCtl;
+    VerseLabel* VerseText;
+    QLabel* lblSerial;  ///< hidden; the running number
+    QLabel* lblVerseId; ///< the verse key
+    SoftBttn* cmdPrev;
+    SoftBttn* cmdNext;
+    SoftBttn* cmdChap;
+    SoftBttn* cmdCopy;
+    SoftBttn* cmdFont;
+    SoftBttn* cmdFntFace;
+    QCheckBox* chkAuto;
+    QComboBox* cboSeconds;
+    QLabel* Label2;
+    QTimer* Timer1;
 
     bool m_otherFace = false;
 };

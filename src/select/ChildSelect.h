@@ -14,11 +14,6 @@ class ChildSelect : public Form
 public:
     explicit ChildSelect(Shell& shell);
 
-    SoftBttn* cmdExamples;
-    SoftBttn* cmdGo;
-    QTreeWidget* TreeView1;
-    QComboBox* Combo1;
-
 protected:
     void Form_Load() override;
     void Form_Activate() override;
@@ -33,4 +28,9 @@ private:
     void cmdExamples_Click();
 
     QString reference() const;
+
+    SoftBttn* cmdExamples;
+    SoftBttn* cmdGo;
+    QTreeWidget* TreeView1;
+    QComboBox* Combo1;
 };

@@ -10,6 +10,7 @@
 #include "widgets/SoftBttn.h"
 #include <QCheckBox>
 #include <QPlainTextEdit>
+#include <QTimer>
 
 namespace {
 
@@ -409,10 +410,10 @@ TEST_F(About, ReadingTimerRestsWhileItIsOpenAndGoesOnAfterwards)
 {
     ChildRead& reading = frame().readingWindow();
     reading.restoreAndActivate();
-    QTest::mouseClick(reading.chkAuto, Qt::LeftButton, {}, QPoint(8, 8));
-    ASSERT_TRUE(reading.Timer1->isActive());
-    whileAboutIsOpen([&](frmStart&) { EXPECT_FALSE(reading.Timer1->isActive()); });
-    EXPECT_TRUE(reading.Timer1->isActive());
+    QTest::mouseClick(&control<QCheckBox>(reading, "chkAuto"), Qt::LeftButton, {}, QPoint(8, 8));
+    ASSERT_TRUE(control<QTimer>(reading, "Timer1").isActive());
+    whileAboutIsOpen([&](frmStart&) { EXPECT_FALSE(control<QTimer>(reading, "Timer1").isActive()); });
+    EXPECT_TRUE(control<QTimer>(reading, "Timer1").isActive());
 }
 
 class AboutControlsOfTheSplash : public Session

@@ -6,6 +6,7 @@
 #include "widgets/SoftBttn.h"
 #include <QComboBox>
 #include <QSignalSpy>
+#include <QTimer>
 
 using Frame = Session;
 
@@ -124,19 +125,19 @@ TEST_F(Frame, F2LeavesAMaximisedSelectionWindowMaximised)
 
 TEST_F(Frame, F2LoadsAFreshSelectionWindowAfterItWasClosed)
 {
-    get<ChildSelect>().Combo1->setEditText("Rv:1");
+    control<QComboBox>(get<ChildSelect>(), "Combo1").setEditText("Rv:1");
     outer(get<ChildSelect>()).close();
     EXPECT_EQ(open<ChildSelect>(), nullptr);
     choose("mnuSelect");
     ASSERT_NE(open<ChildSelect>(), nullptr);
-    EXPECT_EQ(get<ChildSelect>().Combo1->currentText(), "Mt");
+    EXPECT_EQ(control<QComboBox>(get<ChildSelect>(), "Combo1").currentText(), "Mt");
 }
 
 TEST_F(Frame, ReopeningAnOpenWindowKeepsItsContents)
 {
-    get<ChildSelect>().Combo1->setEditText("Rv:1");
+    control<QComboBox>(get<ChildSelect>(), "Combo1").setEditText("Rv:1");
     choose("mnuSelect");
-    EXPECT_EQ(get<ChildSelect>().Combo1->currentText(), "Rv:1");
+    EXPECT_EQ(control<QComboBox>(get<ChildSelect>(), "Combo1").currentText(), "Rv:1");
 }
 
 TEST_F(Frame, AToolbarButtonItsMenuItemAndItsKeyDoTheSame)

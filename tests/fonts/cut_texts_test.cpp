@@ -6,6 +6,7 @@
 #include "maps/ChildMapSel.h"
 #include "maps/ChoiceList.h"
 #include "maps/TabStrip.h"
+#include "read/VerseLabel.h"
 #include "search/frmAdvSearch.h"
 #include "search/ResultsList.h"
 #include "select/ChildSelect.h"
@@ -52,10 +53,8 @@ TEST_F(CutTexts, AreNotInTheReadingWindow)
     ChildRead& window = frame().readingWindow();
     window.activate();
     for (const char* key : {"1Thes:5:28", "Ps:119:176", "2Chr:36:23"}) {
-        window.DataCtl.setRecordSource(std::string("SELECT * FROM NewTestament WHERE VerseId = '") + key +
-                                       "'");
-        window.DataCtl.refresh();
-        ASSERT_EQ(window.lblVerseId->text(), key);
+        window.fetch(std::string("SELECT * FROM NewTestament WHERE VerseId = '") + key + "'");
+        ASSERT_EQ(window.currentKey(), key);
         expectNoneIn(window);
     }
 }
@@ -135,12 +134,12 @@ TEST_F(CutTexts, AreNotAvoidedInTheVersesByNarrowLetters)
     ChildRead& window = frame().readingWindow();
     window.activate();
     for (int face = 0; face < 3; ++face) {
-        const QFont& font = window.VerseText->font();
+        const QFont& font = control<VerseLabel>(window, "VerseText").font();
         QFont natural(font.family(), font.pointSize());
         natural.setStretch(QFont::AnyStretch);
         EXPECT_EQ(QFontMetrics(font).horizontalAdvance("misericórdia"),
                   QFontMetrics(natural).horizontalAdvance("misericórdia"));
-        click(*window.cmdFntFace);
+        click(control<SoftBttn>(window, "cmdFntFace"));
     }
 }
 

@@ -21,6 +21,7 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QWindow>
 
 namespace {
@@ -214,7 +215,7 @@ TEST_F(HelpSession, OpensAtThePageOfTheActiveChildWindow)
     EXPECT_EQ(pageOnF1(), "ChildSelect");
     QApplication::setActiveWindow(&frame());
     frame().readingWindow().restoreAndActivate();
-    frame().readingWindow().cmdNext->setFocus();
+    control<SoftBttn>(frame().readingWindow(), "cmdNext").setFocus();
     EXPECT_EQ(pageOnF1(), "ChildRead");
 }
 
@@ -368,7 +369,7 @@ TEST_F(HelpSession, ThereIsOneWindowThatKeepsItsPlace)
     HelpWindow& first = openHelp("Keys");
     QApplication::setActiveWindow(&frame());
     frame().readingWindow().restoreAndActivate();
-    frame().readingWindow().cmdNext->setFocus();
+    control<SoftBttn>(frame().readingWindow(), "cmdNext").setFocus();
     EXPECT_EQ(pageOnF1(), "ChildRead");
     EXPECT_EQ(helpWindow(), &first);
 }
@@ -383,20 +384,20 @@ TEST_F(HelpSession, ChangesNothingInTheProgramsWindows)
 {
     ChildRead& reading = frame().readingWindow();
     reading.restoreAndActivate();
-    reading.chkAuto->setChecked(true);
-    reading.cmdNext->setFocus();
-    ASSERT_TRUE(reading.Timer1->isActive());
+    control<QCheckBox>(reading, "chkAuto").setChecked(true);
+    control<SoftBttn>(reading, "cmdNext").setFocus();
+    ASSERT_TRUE(control<QTimer>(reading, "Timer1").isActive());
     openHelp("Keys");
     QTest::qWait(0);
-    EXPECT_TRUE(reading.Timer1->isActive());
+    EXPECT_TRUE(control<QTimer>(reading, "Timer1").isActive());
     EXPECT_EQ(activeForm(), &reading);
-    EXPECT_TRUE(reading.chkAuto->isChecked());
-    EXPECT_EQ(reading.lblVerseId->text(), "Mt:1:1");
+    EXPECT_TRUE(control<QCheckBox>(reading, "chkAuto").isChecked());
+    EXPECT_EQ(reading.currentKey(), "Mt:1:1");
     EXPECT_FALSE(helpWindow()->isModal());
     QTest::keyClick(helpWindow(), Qt::Key_Escape);
     QTest::qWait(0);
     EXPECT_EQ(helpWindow(), nullptr);
-    EXPECT_TRUE(reading.Timer1->isActive());
+    EXPECT_TRUE(control<QTimer>(reading, "Timer1").isActive());
     EXPECT_EQ(activeForm(), &reading);
 }
 

@@ -2,6 +2,7 @@
 
 #include "maps/CaptionFrame.h"
 #include "support/CutTexts.h"
+#include "widgets/DataControl.h"
 #include "widgets/Maker.h"
 #include <QAccessible>
 #include <QComboBox>
@@ -45,7 +46,7 @@ protected:
         return entries;
     }
 
-    std::string recordSource() { return get<ChildRead>().DataCtl.recordSource(); }
+    std::string recordSource() { return control<DataControl>(get<ChildRead>(), "DataCtl").recordSource(); }
 
     /// How often a verse was opened: the reading window is closed between.
     bool opensVerse(const std::function<void()>& doing)
@@ -173,7 +174,7 @@ TEST_F(ChildMapSelTest, ClickOpensTheVerseBeforeTheHyphen)
     auto* reading = open<ChildRead>();
     ASSERT_TRUE(reading);
     EXPECT_EQ(recordSource(), "SELECT * FROM NewTestament WHERE VerseId LIKE 'Mt:5:3*'");
-    EXPECT_EQ(reading->lblVerseId->text(), "Mt:5:3"); // not Mt:5:30, which the pattern takes in too
+    EXPECT_EQ(reading->currentKey(), "Mt:5:3"); // not Mt:5:30, which the pattern takes in too
     EXPECT_EQ(reading->caption(), "Reading Window -- Mt:5:3");
     EXPECT_EQ(activeForm(), reading);
 }

@@ -5,6 +5,7 @@
 #include "store/DataError.h"
 #include "support/CutTexts.h"
 #include "support/Session.h"
+#include "widgets/DataControl.h"
 #include "widgets/SoftBttn.h"
 #include <QClipboard>
 #include <QMimeData>
@@ -17,10 +18,7 @@ protected:
     /// Shows a verse in the reading window, which comes to the front.
     void read(const std::string& key)
     {
-        ChildRead& reading = frame().readingWindow();
-        reading.DataCtl.setRecordSource("SELECT * FROM NewTestament WHERE VerseId = '" + key + "'");
-        reading.DataCtl.refresh();
-        reading.restoreAndActivate();
+        frame().readingWindow().showFirst("SELECT * FROM NewTestament WHERE VerseId = '" + key + "'");
     }
 
     /// Shows a verse and presses F9.
@@ -41,8 +39,11 @@ protected:
     /// The key and text of the verse in the reading window.
     QString currentVerse()
     {
-        return frame().readingWindow().lblVerseId->text() + frame().readingWindow().VerseText->text();
+        return frame().readingWindow().currentKey() +
+               control<VerseLabel>(frame().readingWindow(), "VerseText").text();
     }
+
+    static TextBox& textOf(const ChapRead& window) { return control<TextBox>(window, "ChapText"); }
 
     static QString clipboard() { return QApplication::clipboard()->text(); }
 };
@@ -54,34 +55,34 @@ TEST_F(ChapterWindow, ShowsTheChapterOfTheVerseInTheReadingWindow)
     ChapRead& window = openChapterOf("Mt:24:43");
     EXPECT_EQ(activeForm(), &window);
     EXPECT_EQ(window.caption(), "Chapter Window -- Mt:24:");
-    EXPECT_EQ(window.ChapText->text(), chapter("Mt:24:"));
-    EXPECT_EQ(window.ChapText->text().count("\r\n"), 51);
-    EXPECT_TRUE(window.ChapText->isVisible());
+    EXPECT_EQ(textOf(window).text(), chapter("Mt:24:"));
+    EXPECT_EQ(textOf(window).text().count("\r\n"), 51);
+    EXPECT_TRUE(textOf(window).isVisible());
 }
 
 TEST_F(ChapterWindow, OpensFromTheButtonAndTheMenuToo)
 {
     read("Gn:1:1");
-    click(*frame().readingWindow().cmdChap);
+    click(control<SoftBttn>(frame().readingWindow(), "cmdChap"));
     EXPECT_EQ(get<ChapRead>().caption(), "Chapter Window -- Gn:1:");
     read("Gn:2:1");
     choose("mnuChap");
     EXPECT_EQ(get<ChapRead>().caption(), "Chapter Window -- Gn:2:");
-    EXPECT_EQ(get<ChapRead>().ChapText->text(), chapter("Gn:2:"));
+    EXPECT_EQ(textOf(get<ChapRead>()).text(), chapter("Gn:2:"));
 }
 
 TEST_F(ChapterWindow, ShowsTheLastChapterOfTheCanonInFull)
 {
-    const QString text = openChapterOf("Mal:4:6").ChapText->text();
+    const QString text = textOf(openChapterOf("Mal:4:6")).text();
     EXPECT_EQ(text, chapter("Mal:4:"));
     EXPECT_EQ(text.count("\r\n"), 6);
     EXPECT_TRUE(text.endsWith("\r\n(PT)"));
-    EXPECT_TRUE(get<ChapRead>().ChapText->selText().startsWith("Mal:4:6 "));
+    EXPECT_TRUE(textOf(get<ChapRead>()).selText().startsWith("Mal:4:6 "));
 }
 
 TEST_F(ChapterWindow, HighlightsTheCurrentVerse)
 {
-    const TextBox& box = *openChapterOf("Mt:24:43").ChapText;
+    const TextBox& box = textOf(openChapterOf("Mt:24:43"));
     EXPECT_EQ(box.selText(), currentVerse());
     EXPECT_TRUE(box.selText().startsWith("Mt:24:43 "));
     EXPECT_EQ(box.selStart(), box.text().indexOf("Mt:24:43 "));
@@ -91,11 +92,11 @@ TEST_F(ChapterWindow, ASecondPressForTheSameChapterRunsNoQueryAndMovesTheHighlig
 {
     ChapRead& window = openChapterOf("Mt:24:43");
     int queries = 0;
-    window.DataCtrl.currentRowChanged = [&queries] { ++queries; };
+    control<DataControl>(window, "DataCtrl").currentRowChanged = [&queries] { ++queries; };
     openChapterOf("Mt:24:2");
     EXPECT_EQ(queries, 0);
-    EXPECT_EQ(window.ChapText->selText(), currentVerse());
-    EXPECT_EQ(window.ChapText->selStart(), window.ChapText->text().indexOf("Mt:24:2 "));
+    EXPECT_EQ(textOf(window).selText(), currentVerse());
+    EXPECT_EQ(textOf(window).selStart(), textOf(window).text().indexOf("Mt:24:2 "));
     openChapterOf("Mt:25:1");
     EXPECT_EQ(queries, 46 + 1);
 }
@@ -104,24 +105,24 @@ TEST_F(ChapterWindow, SaysPleaseWaitWithTheHourglassAndTheTextHiddenWhileItGathe
 {
     ChapRead& window = openChapterOf("Ps:117:1");
     int queries = 0;
-    window.DataCtrl.currentRowChanged = [&] {
+    control<DataControl>(window, "DataCtrl").currentRowChanged = [&] {
         ++queries;
         EXPECT_EQ(window.caption(), "Please wait...");
         EXPECT_EQ(outer(window).windowTitle(), "Please wait...");
-        EXPECT_TRUE(window.ChapText->isHidden());
-        EXPECT_EQ(window.ChapText->text(), "");
+        EXPECT_TRUE(textOf(window).isHidden());
+        EXPECT_EQ(textOf(window).text(), "");
         ASSERT_NE(QApplication::overrideCursor(), nullptr);
         EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
     };
     openChapterOf("Ps:118:1");
     EXPECT_EQ(queries, 29 + 1);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-    EXPECT_TRUE(window.ChapText->isVisible());
+    EXPECT_TRUE(textOf(window).isVisible());
 }
 
 TEST_F(ChapterWindow, ALongChapterBringsItsHighlightIntoView)
 {
-    TextBox& box = *openChapterOf("Ps:119:176").ChapText;
+    TextBox& box = textOf(openChapterOf("Ps:119:176"));
     EXPECT_EQ(box.text().count("\r\n"), 176);
     for (const char* key : {"Ps:119:176", "Ps:119:1", "Ps:119:90"}) {
         openChapterOf(key);
@@ -135,31 +136,32 @@ TEST_F(ChapterWindow, ALongChapterBringsItsHighlightIntoView)
 TEST_F(ChapterWindow, LeavesTheSelectionAloneWhenTheVerseIsNotInIt)
 {
     ChapRead& window = openChapterOf("Mt:24:43");
-    frame().readingWindow().VerseText->setText(" quite another text");
-    window.ChapText->setSelection(7, 5);
+    control<VerseLabel>(frame().readingWindow(), "VerseText").setText(" quite another text");
+    textOf(window).setSelection(7, 5);
     frame().readingWindow().activate();
     press(Qt::Key_F9);
     EXPECT_EQ(activeForm(), &window);
-    EXPECT_EQ(window.ChapText->selStart(), 7);
-    EXPECT_EQ(window.ChapText->selLength(), 5);
+    EXPECT_EQ(textOf(window).selStart(), 7);
+    EXPECT_EQ(textOf(window).selLength(), 5);
 }
 
 TEST_F(ChapterWindow, SearchesTheHighlightWithRegardToCase)
 {
     ChapRead& window = openChapterOf("Mt:24:43");
-    frame().readingWindow().VerseText->setText(frame().readingWindow().VerseText->text().toUpper());
-    window.ChapText->setSelection(7, 5);
+    control<VerseLabel>(frame().readingWindow(), "VerseText")
+        .setText(control<VerseLabel>(frame().readingWindow(), "VerseText").text().toUpper());
+    textOf(window).setSelection(7, 5);
     frame().readingWindow().activate();
     press(Qt::Key_F9);
-    EXPECT_EQ(window.ChapText->selStart(), 7);
+    EXPECT_EQ(textOf(window).selStart(), 7);
 }
 
 TEST_F(ChapterWindow, ShowsTheMarkAloneWhenNoVerseIsCurrent)
 {
     ChapRead& window = openChapterOf("no such verse");
     EXPECT_EQ(window.caption(), "Chapter Window -- ");
-    EXPECT_EQ(window.ChapText->text(), "(PT)");
-    EXPECT_EQ(window.ChapText->selLength(), 0);
+    EXPECT_EQ(textOf(window).text(), "(PT)");
+    EXPECT_EQ(textOf(window).selLength(), 0);
 }
 
 TEST_F(ChapterWindow, IsRestoredWhenItWasMinimised)
@@ -169,7 +171,7 @@ TEST_F(ChapterWindow, IsRestoredWhenItWasMinimised)
     openChapterOf("Mt:24:44");
     EXPECT_EQ(window.state(), Form::Normal);
     EXPECT_EQ(activeForm(), &window);
-    EXPECT_TRUE(window.ChapText->selText().startsWith("Mt:24:44 "));
+    EXPECT_TRUE(textOf(window).selText().startsWith("Mt:24:44 "));
 }
 
 TEST_F(ChapterWindow, StaysMaximisedWhenItWas)
@@ -184,13 +186,13 @@ TEST_F(ChapterWindow, GathersAgainAfterItWasClosed)
 {
     outer(openChapterOf("Mt:24:43")).close();
     EXPECT_EQ(open<ChapRead>(), nullptr);
-    EXPECT_EQ(openChapterOf("Mt:24:43").ChapText->text(), chapter("Mt:24:"));
+    EXPECT_EQ(textOf(openChapterOf("Mt:24:43")).text(), chapter("Mt:24:"));
 }
 
 TEST_F(ChapterWindow, BringsThePointerBackWhenTheDataFail)
 {
     ChapRead& window = openChapterOf("Mt:24:43");
-    window.DataCtrl.setDatabaseName("/there is no such file");
+    control<DataControl>(window, "DataCtrl").setDatabaseName("/there is no such file");
     read("Mt:25:1");
     EXPECT_THROW(menuItem("mnuChap")->trigger(), DataError);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
@@ -200,7 +202,7 @@ TEST_F(ChapterWindow, CopiesTheWholeChapterUnderItsReference)
 {
     ChapRead& window = openChapterOf("Mt:24:43");
     const QString expected = "Mt:24:\r\n" + chapter("Mt:24:");
-    click(*window.cmdChapCopy);
+    click(control<SoftBttn>(window, "cmdChapCopy"));
     EXPECT_EQ(clipboard(), expected);
     EXPECT_EQ(QApplication::clipboard()->mimeData()->formats(), QStringList({"text/plain"}));
     QApplication::clipboard()->clear();
@@ -215,13 +217,13 @@ TEST_F(ChapterWindow, ReportsAClipboardThatCannotBeWritten)
 {
     ChapRead& window = openChapterOf("Mt:24:43");
     services.clipboardWorks = false;
-    click(*window.cmdChapCopy);
+    click(control<SoftBttn>(window, "cmdChapCopy"));
     ASSERT_EQ(boxes.shown.size(), 1);
     EXPECT_EQ(boxes.shown.first().text, "Error 521: Can't open Clipboard");
     EXPECT_EQ(boxes.shown.first().title, "Clipboard Error");
     EXPECT_EQ(boxes.shown.first().icon, MsgIcon::Exclamation);
     EXPECT_EQ(window.caption(), "Chapter Window -- Mt:24:");
-    EXPECT_EQ(window.ChapText->text(), chapter("Mt:24:"));
+    EXPECT_EQ(textOf(window).text(), chapter("Mt:24:"));
 }
 
 TEST_F(ChapterWindow, CtrlCCopiesTheSelectionWithItsLineEnds)
@@ -232,7 +234,7 @@ TEST_F(ChapterWindow, CtrlCCopiesTheSelectionWithItsLineEnds)
     EXPECT_EQ(clipboard(), currentVerse());
     press(Qt::Key_A, Qt::ControlModifier);
     press(Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(clipboard(), window.ChapText->text());
+    EXPECT_EQ(clipboard(), textOf(window).text());
     press(Qt::Key_Home, Qt::ControlModifier);
     press(Qt::Key_Down, Qt::ControlModifier); // no shortcut of a menu
     press(Qt::Key_Home, Qt::ControlModifier);
@@ -245,13 +247,13 @@ TEST_F(ChapterWindow, CtrlCCopiesTheSelectionWithItsLineEnds)
 
 TEST_F(ChapterWindow, HasTheFocusInItsTextOnceAChapterIsShown)
 {
-    EXPECT_TRUE(openChapterOf("Mt:24:43").ChapText->hasFocus());
-    EXPECT_TRUE(openChapterOf("Mt:25:1").ChapText->hasFocus());
+    EXPECT_TRUE(textOf(openChapterOf("Mt:24:43")).hasFocus());
+    EXPECT_TRUE(textOf(openChapterOf("Mt:25:1")).hasFocus());
 }
 
 TEST_F(ChapterWindow, TellsHowToDragText)
 {
-    click(*openChapterOf("Mt:24:43").cmdTip);
+    click(control<SoftBttn>(openChapterOf("Mt:24:43"), "cmdTip"));
     ASSERT_EQ(boxes.shown.size(), 1);
     const MsgBox::Message& tip = boxes.shown.first();
     EXPECT_EQ(tip.title, "Try this: Drag text from 'Kestrel Reader' to other programs");
@@ -273,32 +275,32 @@ TEST_F(ChapterWindow, TellsHowToDragText)
 TEST_F(ChapterWindow, TheTypeGrowsBySixPointsAndFallsBackFrom24To12)
 {
     ChapRead& window = openChapterOf("Mt:24:43");
-    EXPECT_EQ(window.ChapText->font().pointSize(), 12);
+    EXPECT_EQ(textOf(window).font().pointSize(), 12);
     for (int size : {18, 24, 12, 18}) {
-        click(*window.cmdFont);
-        EXPECT_EQ(window.ChapText->font().pointSize(), size);
+        click(control<SoftBttn>(window, "cmdFont"));
+        EXPECT_EQ(textOf(window).font().pointSize(), size);
     }
-    EXPECT_EQ(window.ChapText->selText(), currentVerse());
+    EXPECT_EQ(textOf(window).selText(), currentVerse());
 }
 
 TEST_F(ChapterWindow, TheFirstPressOfFontFaceGivesTimesNewRoman)
 {
     ChapRead& window = openChapterOf("Mt:24:43");
-    EXPECT_EQ(window.ChapText->font().family(), "Tahoma");
+    EXPECT_EQ(textOf(window).font().family(), "Tahoma");
     for (const char* face : {"Times New Roman", "Tahoma", "Times New Roman"}) {
-        click(*window.cmdFntFace);
-        EXPECT_EQ(window.ChapText->font().family(), face);
+        click(control<SoftBttn>(window, "cmdFntFace"));
+        EXPECT_EQ(textOf(window).font().family(), face);
     }
     outer(window).close();
-    click(*openChapterOf("Mt:24:43").cmdFntFace);
-    EXPECT_EQ(get<ChapRead>().ChapText->font().family(), "Times New Roman");
+    click(control<SoftBttn>(openChapterOf("Mt:24:43"), "cmdFntFace"));
+    EXPECT_EQ(textOf(get<ChapRead>()).font().family(), "Times New Roman");
 }
 
 TEST_F(ChapterWindow, LoadsInTheCornerOfTheFrameAtItsSize)
 {
     ChapRead& window = openChapterOf("Mt:24:43");
     EXPECT_EQ(outer(window).geometry(), QRect(0, 0, 581, 380)); // 8720 x 5695 twips
-    EXPECT_EQ(window.ChapText->geometry(), QRect(4, 4, 528, 345));
+    EXPECT_EQ(textOf(window).geometry(), QRect(4, 4, 528, 345));
 }
 
 TEST_F(ChapterWindow, NothingIsCutAtItsLoadSize)
@@ -306,23 +308,25 @@ TEST_F(ChapterWindow, NothingIsCutAtItsLoadSize)
     ChapRead& window = openChapterOf("Mt:24:43");
     EXPECT_EQ(cutTexts(window), "");
     for (const SoftBttn* button : window.findChildren<SoftBttn*>())
-        EXPECT_FALSE(button->geometry().intersects(window.ChapText->geometry()));
+        EXPECT_FALSE(button->geometry().intersects(textOf(window).geometry()));
 }
 
 TEST_F(ChapterWindow, TheTextFollowsTheWindowAndTheButtonsStandBesideIt)
 {
     ChapRead& window = openChapterOf("Mt:24:43");
-    const int top = window.cmdTip->y();
+    const int top = control<SoftBttn>(window, "cmdTip").y();
     outer(window).resize(800, 500);
-    EXPECT_EQ(window.ChapText->size(), QSize(747, 465)); // 12000 - 800, 7500 - 520 twips
-    for (const SoftBttn* button : {window.cmdFont, window.cmdFntFace, window.cmdChapCopy, window.cmdTip})
+    EXPECT_EQ(textOf(window).size(), QSize(747, 465)); // 12000 - 800, 7500 - 520 twips
+    for (const SoftBttn* button :
+         {&control<SoftBttn>(window, "cmdFont"), &control<SoftBttn>(window, "cmdFntFace"),
+          &control<SoftBttn>(window, "cmdChapCopy"), &control<SoftBttn>(window, "cmdTip")})
         EXPECT_EQ(button->x(), 757); // 11200 + 150 twips
-    EXPECT_EQ(window.cmdTip->y(), top);
+    EXPECT_EQ(control<SoftBttn>(window, "cmdTip").y(), top);
     window.setState(Form::Maximized);
-    EXPECT_EQ(window.ChapText->width(), qRound((outer(window).width() * 15 - 800) / 15.0));
+    EXPECT_EQ(textOf(window).width(), qRound((outer(window).width() * 15 - 800) / 15.0));
     window.setState(Form::Minimized);
     window.setState(Form::Normal);
-    EXPECT_EQ(window.ChapText->size(), QSize(747, 465));
+    EXPECT_EQ(textOf(window).size(), QSize(747, 465));
 }
 
 TEST_F(ChapterWindow, ASizeThatCannotBeIsLeftOutAndTheRestOfTheLayoutApplied)
@@ -330,11 +334,11 @@ TEST_F(ChapterWindow, ASizeThatCannotBeIsLeftOutAndTheRestOfTheLayoutApplied)
     ChapRead& window = openChapterOf("Mt:24:43");
     outer(window).setMinimumSize(1, 1);
     outer(window).resize(300, 30); // too low for any text: 4500 - 800 wide
-    EXPECT_EQ(window.ChapText->size(), QSize(247, 345));
-    EXPECT_EQ(window.cmdTip->x(), 257); // 3700 + 150
-    outer(window).resize(40, 300);      // too narrow: 4500 - 520 high
-    EXPECT_EQ(window.ChapText->size(), QSize(247, 265));
-    EXPECT_EQ(window.cmdTip->x(), 257);
+    EXPECT_EQ(textOf(window).size(), QSize(247, 345));
+    EXPECT_EQ(control<SoftBttn>(window, "cmdTip").x(), 257); // 3700 + 150
+    outer(window).resize(40, 300);                           // too narrow: 4500 - 520 high
+    EXPECT_EQ(textOf(window).size(), QSize(247, 265));
+    EXPECT_EQ(control<SoftBttn>(window, "cmdTip").x(), 257);
 }
 
 TEST_F(ChapterWindow, HasItsMenusInOrder)
@@ -350,9 +354,11 @@ TEST_F(ChapterWindow, NamesItsControls)
 {
     ChapRead& window = openChapterOf("Mt:24:43");
     EXPECT_EQ(window.objectName(), "ChapRead");
-    EXPECT_EQ(window.ChapText->objectName(), "ChapText");
-    EXPECT_EQ(window.ChapText->accessibleName(), "Chapter text");
-    const QList<SoftBttn*> buttons = {window.cmdFont, window.cmdFntFace, window.cmdChapCopy, window.cmdTip};
+    EXPECT_EQ(textOf(window).objectName(), "ChapText");
+    EXPECT_EQ(textOf(window).accessibleName(), "Chapter text");
+    const QList<SoftBttn*> buttons = {
+        &control<SoftBttn>(window, "cmdFont"), &control<SoftBttn>(window, "cmdFntFace"),
+        &control<SoftBttn>(window, "cmdChapCopy"), &control<SoftBttn>(window, "cmdTip")};
     const QStringList names = {"cmdFont", "cmdFntFace", "cmdChapCopy", "cmdTip"};
     const QStringList tips = {"Font Size", "Font Face", "Copy Chapter to Clipboard", "Tip"};
     for (int i = 0; i < buttons.size(); ++i) {
@@ -366,7 +372,8 @@ TEST_F(ChapterWindow, TabGoesFromTheTextThroughTheButtons)
 {
     ChapRead& window = openChapterOf("Mt:24:43");
     for (QWidget* next :
-         QList<QWidget*>{window.cmdFont, window.cmdFntFace, window.cmdChapCopy, window.cmdTip}) {
+         QList<QWidget*>{&control<SoftBttn>(window, "cmdFont"), &control<SoftBttn>(window, "cmdFntFace"),
+                         &control<SoftBttn>(window, "cmdChapCopy"), &control<SoftBttn>(window, "cmdTip")}) {
         press(Qt::Key_Tab);
         EXPECT_EQ(QApplication::focusWidget(), next);
     }

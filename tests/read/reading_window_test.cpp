@@ -2,6 +2,7 @@
 #include "read/VerseLabel.h"
 #include "support/CutTexts.h"
 #include "support/Session.h"
+#include "widgets/DataControl.h"
 #include "widgets/SoftBttn.h"
 #include <QCheckBox>
 #include <QClipboard>
@@ -23,24 +24,30 @@ protected:
     /// What a caller does to show a verse here.
     void hand(const std::string& condition)
     {
-        window->DataCtl.setRecordSource("SELECT * FROM NewTestament WHERE " + condition);
-        window->DataCtl.refresh();
-        window->restoreAndActivate();
+        window->showFirst("SELECT * FROM NewTestament WHERE " + condition);
     }
 
     void handNumber(int number) { hand("VerseNumber = " + std::to_string(number)); }
 
-    QString serial() const { return window->lblSerial->text(); }
-    QString key() const { return window->lblVerseId->text(); }
+    QString serial() const { return label("lblSerial").text(); }
+    QString key() const { return label("lblVerseId").text(); }
 
     /// Chooses seconds with the keyboard and checks the box with the mouse.
-    void startAuto(const QString& seconds)
+    void startAuto(const QString& choice)
     {
-        while (window->cboSeconds->currentText() != seconds)
-            QTest::keyClick(window->cboSeconds, seconds == "3" ? Qt::Key_Up : Qt::Key_Down);
-        QTest::mouseClick(window->chkAuto, Qt::LeftButton, {}, QPoint(8, window->chkAuto->height() / 2));
-        ASSERT_TRUE(window->chkAuto->isChecked());
+        while (seconds().currentText() != choice)
+            QTest::keyClick(&seconds(), choice == "3" ? Qt::Key_Up : Qt::Key_Down);
+        QTest::mouseClick(&autoJump(), Qt::LeftButton, {}, QPoint(8, autoJump().height() / 2));
+        ASSERT_TRUE(autoJump().isChecked());
     }
+
+    SoftBttn& button(const QString& name) const { return control<SoftBttn>(*window, name); }
+    QLabel& label(const QString& name) const { return control<QLabel>(*window, name); }
+    VerseLabel& verse() const { return control<VerseLabel>(*window, "VerseText"); }
+    QCheckBox& autoJump() const { return control<QCheckBox>(*window, "chkAuto"); }
+    QComboBox& seconds() const { return control<QComboBox>(*window, "cboSeconds"); }
+    QTimer& timer() const { return control<QTimer>(*window, "Timer1"); }
+    DataControl& data() const { return control<DataControl>(*window, "DataCtl"); }
 
     ChildRead* window = nullptr;
 };
@@ -49,9 +56,9 @@ TEST_F(Reading, OpensOnTheFirstVerse)
 {
     EXPECT_EQ(key(), "Mt:1:1");
     EXPECT_EQ(serial(), "1");
-    EXPECT_TRUE(window->VerseText->text().startsWith(" Livro"));
+    EXPECT_TRUE(verse().text().startsWith(" Livro"));
     EXPECT_EQ(window->caption(), "Reading Window -- Mt:1:1");
-    EXPECT_EQ(window->DataCtl.recordSource(), "SELECT * FROM NewTestament WHERE VerseNumber = 1");
+    EXPECT_EQ(data().recordSource(), "SELECT * FROM NewTestament WHERE VerseNumber = 1");
 }
 
 TEST_F(Reading, HasTheDesignedSizeAndPlace)
@@ -66,23 +73,23 @@ TEST_F(Reading, HasTheDesignedSizeAndPlace)
 TEST_F(Reading, NamesAndTooltipsAreTheContract)
 {
     const QList<std::pair<SoftBttn*, QString>> buttons = {
-        {window->cmdPrev, "Previous Verse"},  {window->cmdNext, "Next Verse"},
-        {window->cmdChap, "Current Chapter"}, {window->cmdCopy, "Copy Verse to Clipboard"},
-        {window->cmdFont, "Font Size"},       {window->cmdFntFace, "Font Face"},
+        {&button("cmdPrev"), "Previous Verse"},  {&button("cmdNext"), "Next Verse"},
+        {&button("cmdChap"), "Current Chapter"}, {&button("cmdCopy"), "Copy Verse to Clipboard"},
+        {&button("cmdFont"), "Font Size"},       {&button("cmdFntFace"), "Font Face"},
     };
     for (const auto& [button, tip] : buttons) {
         EXPECT_EQ(button->toolTip(), tip);
         EXPECT_EQ(button->accessibleName(), tip);
     }
-    EXPECT_EQ(window->chkAuto->text(), "&AutoJump to next verse after");
-    EXPECT_EQ(window->chkAuto->accessibleName(), "AutoJump to next verse after");
-    EXPECT_EQ(window->Label2->text(), "secon&ds");
-    EXPECT_EQ(window->cboSeconds->accessibleName(), "seconds");
-    EXPECT_EQ(window->chkAuto->font().family(), "Tahoma");
-    EXPECT_EQ(window->cboSeconds->font().family(), "Tahoma");
-    EXPECT_TRUE(window->VerseText->accessibleName().isEmpty());
-    EXPECT_TRUE(window->lblVerseId->accessibleName().isEmpty());
-    EXPECT_FALSE(window->lblSerial->isVisible());
+    EXPECT_EQ(autoJump().text(), "&AutoJump to next verse after");
+    EXPECT_EQ(autoJump().accessibleName(), "AutoJump to next verse after");
+    EXPECT_EQ(label("Label2").text(), "secon&ds");
+    EXPECT_EQ(seconds().accessibleName(), "seconds");
+    EXPECT_EQ(autoJump().font().family(), "Tahoma");
+    EXPECT_EQ(seconds().font().family(), "Tahoma");
+    EXPECT_TRUE(verse().accessibleName().isEmpty());
+    EXPECT_TRUE(label("lblVerseId").accessibleName().isEmpty());
+    EXPECT_FALSE(label("lblSerial").isVisible());
     for (const QWidget* control : window->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
         EXPECT_FALSE(control->objectName().isEmpty()) << control->metaObject()->className();
 }
@@ -112,7 +119,7 @@ TEST_F(Reading, NextOnTheLastVerseShowsTheFirst)
 {
     handNumber(31102);
     EXPECT_EQ(key(), "Mal:4:6");
-    click(*window->cmdNext);
+    click(button("cmdNext"));
     EXPECT_EQ(key(), "Mt:1:1");
     handNumber(31102);
     choose("mnuNext");
@@ -124,7 +131,7 @@ TEST_F(Reading, NextOnTheLastVerseShowsTheFirst)
 
 TEST_F(Reading, PreviousOnTheFirstVerseShowsTheLast)
 {
-    click(*window->cmdPrev);
+    click(button("cmdPrev"));
     EXPECT_EQ(serial(), "31102");
     EXPECT_EQ(key(), "Mal:4:6");
     handNumber(1);
@@ -139,17 +146,17 @@ TEST_F(Reading, StepsOverTheSeamOfTheTestaments)
 {
     handNumber(7957);
     EXPECT_EQ(key(), "Rv:22:21");
-    click(*window->cmdNext);
+    click(button("cmdNext"));
     EXPECT_EQ(key(), "Gn:1:1");
     EXPECT_EQ(serial(), "7958");
-    EXPECT_EQ(window->DataCtl.recordSource(), "SELECT * FROM NewTestament WHERE VerseNumber = 7958");
-    click(*window->cmdPrev);
+    EXPECT_EQ(data().recordSource(), "SELECT * FROM NewTestament WHERE VerseNumber = 7958");
+    click(button("cmdPrev"));
     EXPECT_EQ(key(), "Rv:22:21");
 }
 
 TEST_F(Reading, TheCaptionFollowsEveryVerse)
 {
-    click(*window->cmdNext);
+    click(button("cmdNext"));
     EXPECT_EQ(window->caption(), "Reading Window -- Mt:1:2");
     EXPECT_EQ(outer(*window).windowTitle(), "Reading Window -- Mt:1:2");
     hand("VerseId = 'Gn:1:1'");
@@ -161,70 +168,70 @@ TEST_F(Reading, AnEmptyResultBlanksTheLabelsAndStepsFromThereToOneOrNowhere)
     hand("VerseId = 'Xy:1:1'");
     EXPECT_EQ(key(), "");
     EXPECT_EQ(serial(), "");
-    EXPECT_EQ(window->VerseText->text(), "");
+    EXPECT_EQ(verse().text(), "");
     EXPECT_EQ(window->caption(), "Reading Window -- ");
-    click(*window->cmdPrev);
-    EXPECT_EQ(window->DataCtl.recordSource(), "SELECT * FROM NewTestament WHERE VerseNumber = -1");
+    click(button("cmdPrev"));
+    EXPECT_EQ(data().recordSource(), "SELECT * FROM NewTestament WHERE VerseNumber = -1");
     EXPECT_EQ(serial(), "");
-    click(*window->cmdNext);
+    click(button("cmdNext"));
     EXPECT_EQ(serial(), "1");
 }
 
 TEST_F(Reading, AutoJumpIsOffAtFirstWithFourSecondsChosen)
 {
-    EXPECT_FALSE(window->chkAuto->isChecked());
-    EXPECT_FALSE(window->Timer1->isActive());
-    EXPECT_EQ(window->Timer1->interval(), 4000);
-    EXPECT_EQ(window->cboSeconds->currentText(), "4");
+    EXPECT_FALSE(autoJump().isChecked());
+    EXPECT_FALSE(timer().isActive());
+    EXPECT_EQ(timer().interval(), 4000);
+    EXPECT_EQ(seconds().currentText(), "4");
     QStringList items;
-    for (int i = 0; i < window->cboSeconds->count(); ++i)
-        items << window->cboSeconds->itemText(i);
+    for (int i = 0; i < seconds().count(); ++i)
+        items << seconds().itemText(i);
     EXPECT_EQ(items, QStringList({"3", "4", "5", "6", "7", "8", "12"}));
 }
 
 TEST_F(Reading, AutoJumpStepsAtEachTickAndStartsTheIntervalAnew)
 {
     startAuto("3");
-    EXPECT_EQ(window->Timer1->interval(), 3000);
-    EXPECT_TRUE(window->Timer1->isActive());
+    EXPECT_EQ(timer().interval(), 3000);
+    EXPECT_TRUE(timer().isActive());
     QTest::qWait(50);
-    EXPECT_LT(window->Timer1->remainingTime(), 2990);
+    EXPECT_LT(timer().remainingTime(), 2990);
     for (const Qt::Key step : {Qt::Key_F12, Qt::Key_F11}) { // a step by hand starts the interval anew, too
         QTest::qWait(50);
         press(step);
-        EXPECT_TRUE(window->Timer1->isActive());
-        EXPECT_GT(window->Timer1->remainingTime(), 2980);
+        EXPECT_TRUE(timer().isActive());
+        EXPECT_GT(timer().remainingTime(), 2980);
     }
-    window->Timer1->setInterval(20);
+    timer().setInterval(20);
     EXPECT_TRUE(QTest::qWaitFor([&] { return key() == "Mt:1:4"; }, 2000));
-    EXPECT_TRUE(window->Timer1->isActive());
+    EXPECT_TRUE(timer().isActive());
 }
 
 TEST_F(Reading, TheTimerWrapsAfterTheLastVerse)
 {
     handNumber(31102);
     startAuto("4");
-    window->Timer1->setInterval(1);
+    timer().setInterval(1);
     EXPECT_TRUE(QTest::qWaitFor([&] { return key().startsWith("Mt:1:"); }, 2000));
 }
 
 TEST_F(Reading, UncheckingAutoJumpStopsIt)
 {
     startAuto("4");
-    QTest::keyClick(window->chkAuto, Qt::Key_Space);
-    EXPECT_FALSE(window->Timer1->isActive());
+    QTest::keyClick(&autoJump(), Qt::Key_Space);
+    EXPECT_FALSE(timer().isActive());
     press(Qt::Key_F12);
-    EXPECT_FALSE(window->Timer1->isActive());
+    EXPECT_FALSE(timer().isActive());
 }
 
 TEST_F(Reading, ChoosingTwelveSecondsChangesTheIntervalAtOnce)
 {
     startAuto("4");
-    EXPECT_EQ(window->Timer1->interval(), 4000);
-    QTest::keyClick(window->cboSeconds, Qt::Key_End);
-    EXPECT_EQ(window->cboSeconds->currentText(), "12");
-    EXPECT_EQ(window->Timer1->interval(), 12000);
-    EXPECT_TRUE(window->Timer1->isActive());
+    EXPECT_EQ(timer().interval(), 4000);
+    QTest::keyClick(&seconds(), Qt::Key_End);
+    EXPECT_EQ(seconds().currentText(), "12");
+    EXPECT_EQ(timer().interval(), 12000);
+    EXPECT_TRUE(timer().isActive());
 }
 
 TEST_F(Reading, AutoJumpStopsWhileAnotherChildIsActiveAndResumesWithAFullInterval)
@@ -232,19 +239,19 @@ TEST_F(Reading, AutoJumpStopsWhileAnotherChildIsActiveAndResumesWithAFullInterva
     startAuto("4");
     QTest::qWait(30);
     press(Qt::Key_F2);
-    EXPECT_FALSE(window->Timer1->isActive());
+    EXPECT_FALSE(timer().isActive());
     window->activate();
-    EXPECT_TRUE(window->Timer1->isActive());
-    EXPECT_GT(window->Timer1->remainingTime(), 3980);
+    EXPECT_TRUE(timer().isActive());
+    EXPECT_GT(timer().remainingTime(), 3980);
 }
 
 TEST_F(Reading, AutoJumpStopsWhileMinimisedAndResumesWhenRestored)
 {
     startAuto("4");
     window->setState(Form::Minimized);
-    EXPECT_FALSE(window->Timer1->isActive());
+    EXPECT_FALSE(timer().isActive());
     window->setState(Form::Normal);
-    EXPECT_TRUE(window->Timer1->isActive());
+    EXPECT_TRUE(timer().isActive());
 }
 
 TEST_F(Reading, ActivatingItMinimisedDoesNotStartTheTimer)
@@ -253,33 +260,33 @@ TEST_F(Reading, ActivatingItMinimisedDoesNotStartTheTimer)
     window->setState(Form::Minimized);
     frame().openSelection();
     window->activate();
-    EXPECT_FALSE(window->Timer1->isActive());
+    EXPECT_FALSE(timer().isActive());
 }
 
 TEST_F(Reading, FontSizeGoesRoundTwentyFourTwelveEighteen)
 {
-    EXPECT_EQ(window->VerseText->font().pointSize(), 18);
+    EXPECT_EQ(verse().font().pointSize(), 18);
     for (const int size : {24, 12, 18, 24}) {
-        click(*window->cmdFont);
-        EXPECT_EQ(window->VerseText->font().pointSize(), size);
+        click(button("cmdFont"));
+        EXPECT_EQ(verse().font().pointSize(), size);
     }
 }
 
 TEST_F(Reading, FontFaceGoesToTimesNewRomanFirst)
 {
-    EXPECT_EQ(window->VerseText->font().family(), "Tahoma");
-    click(*window->cmdFntFace);
-    EXPECT_EQ(window->VerseText->font().family(), "Times New Roman");
-    EXPECT_EQ(window->VerseText->font().pointSize(), 18);
-    click(*window->cmdFntFace);
-    EXPECT_EQ(window->VerseText->font().family(), "Tahoma");
+    EXPECT_EQ(verse().font().family(), "Tahoma");
+    click(button("cmdFntFace"));
+    EXPECT_EQ(verse().font().family(), "Times New Roman");
+    EXPECT_EQ(verse().font().pointSize(), 18);
+    click(button("cmdFntFace"));
+    EXPECT_EQ(verse().font().family(), "Tahoma");
 }
 
 TEST_F(Reading, CopiesKeyAndTextAsPlainText)
 {
     hand("VerseId = 'Mt:24:43'");
-    const QString expected = "Mt:24:43\r\n" + window->VerseText->text() + " (PT)";
-    click(*window->cmdCopy);
+    const QString expected = "Mt:24:43\r\n" + verse().text() + " (PT)";
+    click(button("cmdCopy"));
     EXPECT_EQ(QGuiApplication::clipboard()->text(), expected);
     EXPECT_EQ(QGuiApplication::clipboard()->mimeData()->formats(), QStringList("text/plain"));
     for (const bool byKey : {true, false}) {
@@ -292,7 +299,7 @@ TEST_F(Reading, CopiesKeyAndTextAsPlainText)
 TEST_F(Reading, AClipboardThatTakesNothingIsReported)
 {
     services.clipboardWorks = false;
-    click(*window->cmdCopy);
+    click(button("cmdCopy"));
     ASSERT_EQ(boxes.shown.size(), 1);
     EXPECT_EQ(boxes.shown[0].title, "Clipboard Error");
     EXPECT_EQ(boxes.shown[0].text, "Error 521: Can't open Clipboard");
@@ -315,58 +322,57 @@ TEST_F(Reading, KeepsTheLayoutRuleAtEverySize)
 {
     const auto pixels = [](int count) { return qRound(count / 15.0); };
     const auto designed = [this] {
-        return QList<int>({window->cmdFont->y(), window->cmdFntFace->y(), window->cmdCopy->y(),
-                           window->cmdChap->y(), window->chkAuto->x(), window->cboSeconds->x(),
-                           window->Label2->x()});
+        return QList<int>({button("cmdFont").y(), button("cmdFntFace").y(), button("cmdCopy").y(),
+                           button("cmdChap").y(), autoJump().x(), seconds().x(), label("Label2").x()});
     };
     const QList<int> before = designed();
     for (const QSize size : {QSize(504, 353), QSize(800, 500), QSize(400, 300)}) {
         outer(*window).resize(size);
         const int width = size.width() * 15 - 840;
         const int height = size.height() * 15 - 1030;
-        EXPECT_EQ(window->VerseText->geometry(), QRect(4, 4, pixels(width), pixels(height)));
-        EXPECT_EQ(window->cmdPrev->pos(), QPoint(pixels(width - 1530), pixels(height + 160)));
-        EXPECT_EQ(window->cmdNext->pos(), QPoint(pixels(width - 735), pixels(height + 160)));
-        for (SoftBttn* button : {window->cmdFont, window->cmdFntFace, window->cmdCopy, window->cmdChap})
-            EXPECT_EQ(button->x(), pixels(width + 160));
-        EXPECT_EQ(window->chkAuto->y(), pixels(height + 280));
-        EXPECT_EQ(window->cboSeconds->y(), pixels(height + 235));
-        EXPECT_EQ(window->Label2->y(), pixels(height + 295));
+        EXPECT_EQ(verse().geometry(), QRect(4, 4, pixels(width), pixels(height)));
+        EXPECT_EQ(button("cmdPrev").pos(), QPoint(pixels(width - 1530), pixels(height + 160)));
+        EXPECT_EQ(button("cmdNext").pos(), QPoint(pixels(width - 735), pixels(height + 160)));
+        for (const char* name : {"cmdFont", "cmdFntFace", "cmdCopy", "cmdChap"})
+            EXPECT_EQ(button(name).x(), pixels(width + 160)) << name;
+        EXPECT_EQ(autoJump().y(), pixels(height + 280));
+        EXPECT_EQ(seconds().y(), pixels(height + 235));
+        EXPECT_EQ(label("Label2").y(), pixels(height + 295));
         EXPECT_EQ(designed(), before);
     }
 }
 
 TEST_F(Reading, ATooSmallWindowLeavesTheLayoutAsItWas)
 {
-    const QRect before = window->VerseText->geometry();
+    const QRect before = verse().geometry();
     outer(*window).setMinimumSize(1, 1);
     outer(*window).resize(40, 40);
-    EXPECT_EQ(window->VerseText->geometry(), before);
+    EXPECT_EQ(verse().geometry(), before);
 }
 
 TEST_F(Reading, ASizeThatCannotBeIsLeftOutAndTheRestOfTheLayoutApplied)
 {
     outer(*window).setMinimumSize(1, 1);
-    const QRect before = window->VerseText->geometry();
+    const QRect before = verse().geometry();
     outer(*window).resize(300, 40); // too low for any text: 4500 - 840 wide
-    EXPECT_EQ(window->VerseText->size(), QSize(244, before.height()));
-    EXPECT_EQ(window->cmdNext->x(), 195); // 3660 - 735
-    EXPECT_EQ(window->cmdChap->x(), 255); // 3660 + 160
-    outer(*window).resize(40, 300);       // too narrow: 4500 - 1030 high
-    EXPECT_EQ(window->VerseText->size(), QSize(244, 231));
-    EXPECT_EQ(window->cmdNext->pos(), QPoint(195, 242)); // 3470 + 160
+    EXPECT_EQ(verse().size(), QSize(244, before.height()));
+    EXPECT_EQ(button("cmdNext").x(), 195); // 3660 - 735
+    EXPECT_EQ(button("cmdChap").x(), 255); // 3660 + 160
+    outer(*window).resize(40, 300);        // too narrow: 4500 - 1030 high
+    EXPECT_EQ(verse().size(), QSize(244, 231));
+    EXPECT_EQ(button("cmdNext").pos(), QPoint(195, 242)); // 3470 + 160
 }
 
 TEST_F(Reading, TheLayoutComesBackWithTheWindow)
 {
     for (const QSize size : {QSize(504, 353), QSize(800, 500)}) {
         outer(*window).resize(size);
-        const QRect text = window->VerseText->geometry();
-        const QPoint button = window->cmdNext->pos();
+        const QRect text = verse().geometry();
+        const QPoint next = button("cmdNext").pos();
         window->setState(Form::Minimized);
         window->setState(Form::Normal);
-        EXPECT_EQ(window->VerseText->geometry(), text);
-        EXPECT_EQ(window->cmdNext->pos(), button);
+        EXPECT_EQ(verse().geometry(), text);
+        EXPECT_EQ(button("cmdNext").pos(), next);
     }
 }
 
@@ -381,7 +387,7 @@ TEST_F(Reading, NothingIsCutOffAtTheDesignedSize)
 TEST_F(Reading, AVerseLongerThanTheWindowCanBeScrolledToItsEnd)
 {
     hand("VerseId = 'Est:8:9'");
-    auto* bar = window->VerseText->findChild<QScrollBar*>();
+    auto* bar = verse().findChild<QScrollBar*>();
     ASSERT_NE(bar, nullptr);
     EXPECT_TRUE(bar->isVisible());
     EXPECT_GT(bar->maximum(), 0);
@@ -394,8 +400,8 @@ TEST_F(Reading, AVerseLongerThanTheWindowCanBeScrolledToItsEnd)
 
 TEST_F(Reading, TheReadingSurfaceIsPaleYellowWithDarkText)
 {
-    EXPECT_EQ(window->VerseText->palette().color(QPalette::Window), QColor(255, 255, 224));
-    EXPECT_EQ(window->VerseText->palette().color(QPalette::WindowText), QColor(Qt::black));
+    EXPECT_EQ(verse().palette().color(QPalette::Window), QColor(255, 255, 224));
+    EXPECT_EQ(verse().palette().color(QPalette::WindowText), QColor(Qt::black));
 }
 
 TEST_F(Reading, ClosingAndReopeningLoadsAFreshWindow)
@@ -403,5 +409,5 @@ TEST_F(Reading, ClosingAndReopeningLoadsAFreshWindow)
     handNumber(500);
     outer(*window).close();
     EXPECT_EQ(open<ChildRead>(), nullptr);
-    EXPECT_EQ(frame().readingWindow().lblSerial->text(), "1");
+    EXPECT_EQ(frame().readingWindow().currentNumber(), 1);
 }

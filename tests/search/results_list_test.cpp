@@ -1,6 +1,8 @@
 // The results list by events: opening verses by mouse and keys, the tip, copying.
 #include "search/ResultLines.h"
 #include "search/SearchSession.h"
+#include "widgets/DataControl.h"
+#include "widgets/SoftBttn.h"
 #include <QAccessible>
 #include <QClipboard>
 #include <QToolTip>
@@ -19,7 +21,7 @@ protected:
     }
 
     QString key(int line) { return list().text(line).section(' ', 0, 0); }
-    QString shownVerse() { return open<ChildRead>() ? get<ChildRead>().lblVerseId->text() : "none"; }
+    QString shownVerse() { return open<ChildRead>() ? get<ChildRead>().currentKey() : "none"; }
     void back() { window().activate(), list().setFocus(); }
     void pointAt(const QPoint& point) { QTest::mouseMove(list().viewport(), point); }
 };
@@ -31,7 +33,7 @@ TEST_F(SearchResults, OpenAVerseByOneClick)
     clickLine(2);
     EXPECT_EQ(shownVerse(), key(2));
     EXPECT_EQ(activeForm(), open<ChildRead>());
-    EXPECT_EQ(QString::fromStdString(get<ChildRead>().DataCtl.recordSource()),
+    EXPECT_EQ(QString::fromStdString(control<DataControl>(get<ChildRead>(), "DataCtl").recordSource()),
               "SELECT * FROM NewTestament WHERE VerseId = '" + key(2) + "'");
 }
 
@@ -49,7 +51,7 @@ TEST_F(SearchResults, RestoreTheReadingWindowWhenItIsMinimised)
 TEST_F(SearchResults, OpenTheSameLineAgain)
 {
     clickLine(1);
-    get<ChildRead>().cmdNext->click();
+    control<SoftBttn>(get<ChildRead>(), "cmdNext").click();
     back();
     clickLine(1);
     EXPECT_EQ(shownVerse(), key(1));

@@ -1,6 +1,7 @@
 // The selection window and the lookup of typed references, through events.
 #include "read/VerseLabel.h"
 #include "support/Session.h"
+#include "widgets/DataControl.h"
 #include "widgets/SoftBttn.h"
 #include <QComboBox>
 #include <QLineEdit>
@@ -15,7 +16,7 @@ protected:
     {
         Session::SetUp();
         window = &get<ChildSelect>();
-        box = window->Combo1->lineEdit();
+        box = combo().lineEdit();
     }
 
     void type(const QString& text)
@@ -30,12 +31,12 @@ protected:
     {
         type(text);
         press(Qt::Key_Return);
-        return frame().readingWindow().lblVerseId->text();
+        return frame().readingWindow().currentKey();
     }
 
     QTreeWidgetItem* node(const QString& text)
     {
-        for (QTreeWidgetItemIterator it(window->TreeView1); *it; ++it)
+        for (QTreeWidgetItemIterator it(&tree()); *it; ++it)
             if ((*it)->text(0) == text)
                 return *it;
         return nullptr;
@@ -45,10 +46,14 @@ protected:
     {
         QTreeWidgetItem* item = node(text);
         ASSERT_NE(item, nullptr) << text.toStdString();
-        window->TreeView1->scrollToItem(item); // expands what hides it
-        QTest::mouseClick(window->TreeView1->viewport(), Qt::LeftButton, {},
-                          window->TreeView1->visualItemRect(item).center());
+        tree().scrollToItem(item); // expands what hides it
+        QTest::mouseClick(tree().viewport(), Qt::LeftButton, {}, tree().visualItemRect(item).center());
     }
+
+    SoftBttn& button(const QString& name) const { return control<SoftBttn>(*window, name); }
+    QComboBox& combo() const { return control<QComboBox>(*window, "Combo1"); }
+    QTreeWidget& tree() const { return control<QTreeWidget>(*window, "TreeView1"); }
+    static DataControl& dataOf(const ChildRead& reading) { return control<DataControl>(reading, "DataCtl"); }
 
     ChildSelect* window = nullptr;
     QLineEdit* box = nullptr;
@@ -59,20 +64,20 @@ TEST_F(Selection, HasItsCaptionSizeAndPlace)
     EXPECT_EQ(window->caption(), "Select Verse for Reading");
     EXPECT_EQ(outer(*window).pos(), QPoint(0, 0));
     EXPECT_EQ(outer(*window).size(), QSize(qRound(6395 / 15.0), qRound(4150 / 15.0)));
-    EXPECT_EQ(window->cmdExamples->geometry(), QRect(173, 4, 27, 27));
-    EXPECT_EQ(window->cmdGo->geometry(), QRect(147, 4, 27, 27));
-    EXPECT_EQ(window->Combo1->geometry(), QRect(4, 7, 133, 21));
-    EXPECT_EQ(window->TreeView1->geometry(), QRect(4, 37, 409, 209));
+    EXPECT_EQ(button("cmdExamples").geometry(), QRect(173, 4, 27, 27));
+    EXPECT_EQ(button("cmdGo").geometry(), QRect(147, 4, 27, 27));
+    EXPECT_EQ(combo().geometry(), QRect(4, 7, 133, 21));
+    EXPECT_EQ(tree().geometry(), QRect(4, 37, 409, 209));
 }
 
 TEST_F(Selection, NamesAndTooltipsAreTheContract)
 {
-    EXPECT_EQ(window->cmdExamples->toolTip(), "Examples");
-    EXPECT_EQ(window->cmdGo->toolTip(), "Display Verse");
-    EXPECT_EQ(window->cmdGo->accessibleName(), "Display Verse");
-    EXPECT_EQ(window->Combo1->accessibleName(), "Reference");
-    EXPECT_EQ(window->TreeView1->accessibleName(), "Books");
-    EXPECT_EQ(window->Combo1->font().family(), "Tahoma");
+    EXPECT_EQ(button("cmdExamples").toolTip(), "Examples");
+    EXPECT_EQ(button("cmdGo").toolTip(), "Display Verse");
+    EXPECT_EQ(button("cmdGo").accessibleName(), "Display Verse");
+    EXPECT_EQ(combo().accessibleName(), "Reference");
+    EXPECT_EQ(tree().accessibleName(), "Books");
+    EXPECT_EQ(combo().font().family(), "Tahoma");
     for (const char* name : {"cmdExamples", "cmdGo", "TreeView1", "Combo1"})
         EXPECT_NE(window->findChild<QWidget*>(name), nullptr) << name;
 }
@@ -87,7 +92,7 @@ TEST_F(Selection, HasNoEditAndNoViewMenu)
 TEST_F(Selection, TheTreeHas76NodesInTheirOrder)
 {
     QStringList texts;
-    for (QTreeWidgetItemIterator it(window->TreeView1); *it; ++it)
+    for (QTreeWidgetItemIterator it(&tree()); *it; ++it)
         texts << (*it)->text(0);
     ASSERT_EQ(texts.size(), 76);
     EXPECT_EQ(texts[0], "Books of the Kestrel Reader");
@@ -113,71 +118,71 @@ TEST_F(Selection, TheTreeHas76NodesInTheirOrder)
 
 TEST_F(Selection, OpensWithTheTestamentsExpandedAndTheGroupsCollapsed)
 {
-    EXPECT_EQ(window->TreeView1->currentItem(), node("Old Testament"));
+    EXPECT_EQ(tree().currentItem(), node("Old Testament"));
     EXPECT_TRUE(node("Old Testament")->isSelected());
     for (const char* open : {"Books of the Kestrel Reader", "Old Testament", "New Testament"})
         EXPECT_TRUE(node(open)->isExpanded()) << open;
     for (const char* closed : {"Pentateuch", "Historical Books", "Poetical Books", "Prophetic Books",
                                "The Four Gospels", "Epistles of St. Paul", "Catholic Epistles"})
         EXPECT_FALSE(node(closed)->isExpanded()) << closed;
-    EXPECT_TRUE(window->TreeView1->visualItemRect(node("Tiago -- Jms")).isEmpty()); // hidden in its group
-    EXPECT_FALSE(window->TreeView1->visualItemRect(node("Atos -- Acts")).isEmpty());
-    EXPECT_EQ(window->Combo1->currentText(), "Mt");
+    EXPECT_TRUE(tree().visualItemRect(node("Tiago -- Jms")).isEmpty()); // hidden in its group
+    EXPECT_FALSE(tree().visualItemRect(node("Atos -- Acts")).isEmpty());
+    EXPECT_EQ(combo().currentText(), "Mt");
 }
 
 TEST_F(Selection, TheListHoldsThe66PrefixesInCanonicalOrder)
 {
-    ASSERT_EQ(window->Combo1->count(), 66);
-    EXPECT_EQ(window->Combo1->itemText(0), "Gn:");
-    EXPECT_EQ(window->Combo1->itemText(38), "Mal:");
-    EXPECT_EQ(window->Combo1->itemText(39), "Mt:");
-    EXPECT_EQ(window->Combo1->itemText(65), "Rv:");
+    ASSERT_EQ(combo().count(), 66);
+    EXPECT_EQ(combo().itemText(0), "Gn:");
+    EXPECT_EQ(combo().itemText(38), "Mal:");
+    EXPECT_EQ(combo().itemText(39), "Mt:");
+    EXPECT_EQ(combo().itemText(65), "Rv:");
 }
 
 TEST_F(Selection, ClickingABookPutsItsPrefixIntoTheBoxAndOpensNothing)
 {
     clickNode("1 Tessalonicenses -- 1Thes");
-    EXPECT_EQ(window->Combo1->currentText(), "1Thes:");
+    EXPECT_EQ(combo().currentText(), "1Thes:");
     EXPECT_EQ(open<ChildRead>(), nullptr);
     clickNode("Gênesis -- Gn");
-    EXPECT_EQ(window->Combo1->currentText(), "Gn:");
+    EXPECT_EQ(combo().currentText(), "Gn:");
     press(Qt::Key_Return);
-    EXPECT_EQ(get<ChildRead>().lblVerseId->text(), "Gn:1:1");
+    EXPECT_EQ(get<ChildRead>().currentKey(), "Gn:1:1");
 }
 
 TEST_F(Selection, ClickingABookEnablesTheButton)
 {
     box->clear();
-    EXPECT_FALSE(window->cmdGo->isEnabled());
+    EXPECT_FALSE(button("cmdGo").isEnabled());
     clickNode("Atos -- Acts");
-    EXPECT_TRUE(window->cmdGo->isEnabled());
+    EXPECT_TRUE(button("cmdGo").isEnabled());
 }
 
 TEST_F(Selection, ClickingATestamentAGroupOrTheRootLeavesTheBoxUnchanged)
 {
     for (const char* text : {"Pentateuch", "Old Testament", "Books of the Kestrel Reader", "New Testament"}) {
         clickNode(text);
-        EXPECT_EQ(window->Combo1->currentText(), "Mt") << text;
+        EXPECT_EQ(combo().currentText(), "Mt") << text;
     }
 }
 
 TEST_F(Selection, ArrowKeysInTheTreeChooseABookToo)
 {
-    window->TreeView1->setFocus();
-    window->TreeView1->setCurrentItem(node("New Testament"));
+    tree().setFocus();
+    tree().setCurrentItem(node("New Testament"));
     press(Qt::Key_Down);
-    EXPECT_EQ(window->Combo1->currentText(), "Mt");
+    EXPECT_EQ(combo().currentText(), "Mt");
     press(Qt::Key_Down);
-    EXPECT_EQ(window->TreeView1->currentItem(), node("Atos -- Acts"));
-    EXPECT_EQ(window->Combo1->currentText(), "Acts:");
+    EXPECT_EQ(tree().currentItem(), node("Atos -- Acts"));
+    EXPECT_EQ(combo().currentText(), "Acts:");
 }
 
 TEST_F(Selection, ATypedReferenceShowsItsVerse)
 {
     EXPECT_EQ(lookUp("Mt:24:43"), "Mt:24:43");
     ChildRead& reading = get<ChildRead>();
-    EXPECT_EQ(reading.DataCtl.recordSource(), "SELECT * FROM NewTestament WHERE VerseId LIKE 'Mt:24:43*'");
-    EXPECT_TRUE(reading.VerseText->text().contains("ladrão"));
+    EXPECT_EQ(dataOf(reading).recordSource(), "SELECT * FROM NewTestament WHERE VerseId LIKE 'Mt:24:43*'");
+    EXPECT_TRUE(control<VerseLabel>(reading, "VerseText").text().contains("ladrão"));
     EXPECT_EQ(reading.caption(), "Reading Window -- Mt:24:43");
     EXPECT_EQ(activeForm(), &reading);
     EXPECT_TRUE(boxes.shown.isEmpty());
@@ -186,8 +191,8 @@ TEST_F(Selection, ATypedReferenceShowsItsVerse)
 TEST_F(Selection, TheButtonDoesWhatEnterDoes)
 {
     type("Rv:22:21");
-    click(*window->cmdGo);
-    EXPECT_EQ(get<ChildRead>().lblSerial->text(), "7957");
+    click(button("cmdGo"));
+    EXPECT_EQ(get<ChildRead>().currentNumber(), 7957);
 }
 
 TEST_F(Selection, TheFirstVerseOfThePrefixWins)
@@ -213,7 +218,7 @@ TEST_F(Selection, TheFirstVerseOfThePrefixWins)
 TEST_F(Selection, BlanksAroundAReferenceAreTrimmed)
 {
     EXPECT_EQ(lookUp("  Gn: "), "Gn:1:1");
-    EXPECT_EQ(get<ChildRead>().DataCtl.recordSource(),
+    EXPECT_EQ(dataOf(get<ChildRead>()).recordSource(),
               "SELECT * FROM NewTestament WHERE VerseId LIKE 'Gn:*'");
 }
 
@@ -223,7 +228,7 @@ TEST_F(Selection, TheVerseAlreadyShownRunsNoQuery)
     ChildRead& reading = get<ChildRead>();
     reading.setState(Form::Minimized);
     int queries = 0;
-    reading.DataCtl.currentRowChanged = [&] { ++queries; };
+    dataOf(reading).currentRowChanged = [&] { ++queries; };
     lookUp("Mt:24:43");
     EXPECT_EQ(queries, 0);
     EXPECT_EQ(reading.state(), Form::Normal);
@@ -235,10 +240,10 @@ TEST_F(Selection, TheVerseAlreadyShownRunsNoQuery)
 TEST_F(Selection, TheReferenceWithAColonAfterItCountsAsShownToo)
 {
     ChildRead& reading = frame().readingWindow();
-    reading.lblVerseId->setText("Gn:1:");
-    reading.DataCtl.setRecordSource("untouched");
+    control<QLabel>(reading, "lblVerseId").setText("Gn:1:");
+    dataOf(reading).setRecordSource("untouched");
     lookUp("Gn:1");
-    EXPECT_EQ(reading.DataCtl.recordSource(), "untouched");
+    EXPECT_EQ(dataOf(reading).recordSource(), "untouched");
     EXPECT_EQ(activeForm(), &reading);
 }
 
@@ -250,11 +255,11 @@ TEST_F(Selection, LowerCaseFindsTheVerse)
 TEST_F(Selection, AnUnknownReferenceSaysSoAndShowsTheVerseBeforeAgain)
 {
     lookUp("Mk:3:5");
-    const QString serial = get<ChildRead>().lblSerial->text();
+    const QString serial = control<QLabel>(get<ChildRead>(), "lblSerial").text();
     QString keyBehindTheMessage = "?";
     bool pointerWasBack = false;
     boxes.whileShown = [&] {
-        keyBehindTheMessage = get<ChildRead>().lblVerseId->text();
+        keyBehindTheMessage = get<ChildRead>().currentKey();
         pointerWasBack = QApplication::overrideCursor() == nullptr;
     };
     EXPECT_EQ(lookUp("Xy:1:1"), "Mk:3:5");
@@ -265,9 +270,9 @@ TEST_F(Selection, AnUnknownReferenceSaysSoAndShowsTheVerseBeforeAgain)
     EXPECT_EQ(boxes.shown[0].buttons, MsgButtons::Ok);
     EXPECT_EQ(keyBehindTheMessage, "");
     EXPECT_TRUE(pointerWasBack);
-    EXPECT_EQ(window->Combo1->currentText(), "Xy:1:1"); // stays for correction
+    EXPECT_EQ(combo().currentText(), "Xy:1:1"); // stays for correction
     EXPECT_EQ(activeForm(), &get<ChildRead>());
-    EXPECT_EQ(QString::fromStdString(get<ChildRead>().DataCtl.recordSource()),
+    EXPECT_EQ(QString::fromStdString(dataOf(get<ChildRead>()).recordSource()),
               "SELECT * FROM NewTestament WHERE VerseNumber = " + serial);
 }
 
@@ -275,7 +280,7 @@ TEST_F(Selection, TheHourglassShowsWhileAVerseIsLookedUp)
 {
     lookUp("Mt:5");
     Qt::CursorShape pointer = Qt::ArrowCursor;
-    get<ChildRead>().DataCtl.currentRowChanged = [&] {
+    dataOf(get<ChildRead>()).currentRowChanged = [&] {
         if (const QCursor* shown = QApplication::overrideCursor())
             pointer = shown->shape();
     };
@@ -294,18 +299,18 @@ TEST_F(Selection, ABadReferenceWithTheReadingWindowClosedOpensItOnTheFirstVerse)
 TEST_F(Selection, ABadReferenceWhileNoVerseIsShownShowsTheFirst)
 {
     ChildRead& reading = frame().readingWindow();
-    reading.DataCtl.setRecordSource("SELECT * FROM NewTestament WHERE VerseNumber = 0");
-    reading.DataCtl.refresh();
-    ASSERT_EQ(reading.lblSerial->text(), "");
+    dataOf(reading).setRecordSource("SELECT * FROM NewTestament WHERE VerseNumber = 0");
+    dataOf(reading).refresh();
+    ASSERT_EQ(control<QLabel>(reading, "lblSerial").text(), "");
     EXPECT_EQ(lookUp("Xy"), "Mt:1:1");
-    EXPECT_EQ(reading.DataCtl.recordSource(), "SELECT * FROM NewTestament WHERE VerseNumber = 1");
+    EXPECT_EQ(dataOf(reading).recordSource(), "SELECT * FROM NewTestament WHERE VerseNumber = 1");
 }
 
 TEST_F(Selection, TextAfterACompleteKeyIsNotIgnored)
 {
     lookUp("Mt:24:43x");
     ASSERT_EQ(boxes.shown.size(), 1);
-    EXPECT_EQ(get<ChildRead>().lblVerseId->text(), "Mt:1:1");
+    EXPECT_EQ(get<ChildRead>().currentKey(), "Mt:1:1");
 }
 
 TEST_F(Selection, AMinimisedReadingWindowIsRestored)
@@ -322,11 +327,11 @@ TEST_F(Selection, TheFifteenthCharacterBeepsAndIsCut)
     EXPECT_EQ(services.beeps, 0);
     QTest::keyClicks(QApplication::focusWidget(), "5");
     EXPECT_EQ(services.beeps, 1);
-    EXPECT_EQ(window->Combo1->currentText(), "12345678901234");
+    EXPECT_EQ(combo().currentText(), "12345678901234");
     EXPECT_EQ(box->cursorPosition(), 14);
     box->setCursorPosition(3);
     QTest::keyClicks(QApplication::focusWidget(), "x");
-    EXPECT_EQ(window->Combo1->currentText(), "123x4567890123");
+    EXPECT_EQ(combo().currentText(), "123x4567890123");
     EXPECT_EQ(box->cursorPosition(), 14);
     EXPECT_EQ(services.beeps, 2);
 }
@@ -334,34 +339,34 @@ TEST_F(Selection, TheFifteenthCharacterBeepsAndIsCut)
 TEST_F(Selection, AnEmptyBoxDisablesTheButtonAndEnterDoesNothing)
 {
     type("   ");
-    EXPECT_FALSE(window->cmdGo->isEnabled());
+    EXPECT_FALSE(button("cmdGo").isEnabled());
     press(Qt::Key_Return);
     EXPECT_EQ(open<ChildRead>(), nullptr);
     EXPECT_TRUE(boxes.shown.isEmpty());
     QTest::keyClicks(QApplication::focusWidget(), "M");
-    EXPECT_TRUE(window->cmdGo->isEnabled());
+    EXPECT_TRUE(button("cmdGo").isEnabled());
 }
 
 TEST_F(Selection, EnterWorksAnywhereInTheWindow)
 {
     type("Lk:2");
-    window->TreeView1->setFocus();
+    tree().setFocus();
     press(Qt::Key_Enter);
-    EXPECT_EQ(get<ChildRead>().lblVerseId->text(), "Lk:2:1");
+    EXPECT_EQ(get<ChildRead>().currentKey(), "Lk:2:1");
     window->activate();
-    window->cmdExamples->setFocus();
-    window->Combo1->setEditText("Lk:3");
+    button("cmdExamples").setFocus();
+    combo().setEditText("Lk:3");
     press(Qt::Key_Return);
-    EXPECT_EQ(get<ChildRead>().lblVerseId->text(), "Lk:3:1");
+    EXPECT_EQ(get<ChildRead>().currentKey(), "Lk:3:1");
     EXPECT_TRUE(boxes.shown.isEmpty()); // Enter did not press the examples button
 }
 
 TEST_F(Selection, EachActivationGivesTheBoxTheFocus)
 {
-    window->TreeView1->setFocus();
+    tree().setFocus();
     frame().readingWindow().activate();
     window->activate();
-    EXPECT_TRUE(window->Combo1->hasFocus() || box->hasFocus());
+    EXPECT_TRUE(combo().hasFocus() || box->hasFocus());
 }
 
 TEST_F(Selection, AReferenceTypedAtOnceReplacesTheOldOne)
@@ -377,17 +382,17 @@ TEST_F(Selection, AReferenceTypedAtOnceReplacesTheOldOne)
 TEST_F(Selection, ChoosingFromTheListEnablesTheButton)
 {
     box->clear();
-    window->Combo1->setFocus();
+    combo().setFocus();
     press(Qt::Key_Down);
-    EXPECT_EQ(window->Combo1->currentText(), "Gn:");
-    EXPECT_TRUE(window->cmdGo->isEnabled());
+    EXPECT_EQ(combo().currentText(), "Gn:");
+    EXPECT_TRUE(button("cmdGo").isEnabled());
 }
 
 TEST_F(Selection, NoTypedReferenceJoinsTheList)
 {
     lookUp("Mt:24:43");
     lookUp("Xyz");
-    EXPECT_EQ(window->Combo1->count(), 66);
+    EXPECT_EQ(combo().count(), 66);
 }
 
 TEST_F(Selection, AnApostropheEndsTheProgramWithTheEnginesOwnText)
@@ -408,40 +413,39 @@ TEST_F(Selection, AnApostropheEndsTheProgramWithTheEnginesOwnText)
 TEST_F(Selection, TheTreeFollowsTheWindowsSize)
 {
     outer(*window).resize(600, 400);
-    EXPECT_EQ(window->TreeView1->size(),
-              QSize(qRound((9000 - 260) / 15.0), qRound((6000 - 555 - 460) / 15.0)));
-    EXPECT_EQ(window->Combo1->geometry(), QRect(4, 7, 133, 21));
+    EXPECT_EQ(tree().size(), QSize(qRound((9000 - 260) / 15.0), qRound((6000 - 555 - 460) / 15.0)));
+    EXPECT_EQ(combo().geometry(), QRect(4, 7, 133, 21));
 }
 
 TEST_F(Selection, ShrinkingBelow260TwipsLeavesTheTreeAsItWas)
 {
-    const QSize before = window->TreeView1->size();
+    const QSize before = tree().size();
     outer(*window).setMinimumSize(1, 1);
     outer(*window).resize(15, outer(*window).height());
-    EXPECT_EQ(window->TreeView1->size(), before);
+    EXPECT_EQ(tree().size(), before);
 }
 
 TEST_F(Selection, ASizeThatCannotBeIsLeftOutAndTheOtherApplied)
 {
-    const QSize before = window->TreeView1->size();
+    const QSize before = tree().size();
     outer(*window).setMinimumSize(1, 1);
     outer(*window).resize(15, 400); // 6000 - 555 - 460 high
-    EXPECT_EQ(window->TreeView1->size(), QSize(before.width(), 332));
+    EXPECT_EQ(tree().size(), QSize(before.width(), 332));
     outer(*window).resize(600, 40); // 9000 - 260 wide
-    EXPECT_EQ(window->TreeView1->size(), QSize(583, 332));
+    EXPECT_EQ(tree().size(), QSize(583, 332));
 }
 
 TEST_F(Selection, TheTreeComesBackWithTheWindow)
 {
-    const QSize before = window->TreeView1->size();
+    const QSize before = tree().size();
     window->setState(Form::Minimized);
     window->setState(Form::Normal);
-    EXPECT_EQ(window->TreeView1->size(), before);
+    EXPECT_EQ(tree().size(), before);
 }
 
 TEST_F(Selection, TheExamplesAreShown)
 {
-    click(*window->cmdExamples);
+    click(button("cmdExamples"));
     ASSERT_EQ(boxes.shown.size(), 1);
     EXPECT_EQ(boxes.shown[0].icon, MsgIcon::Information);
     EXPECT_EQ(boxes.shown[0].buttons, MsgButtons::Ok);

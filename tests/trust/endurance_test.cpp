@@ -64,8 +64,8 @@ protected:
         Session::SetUp();
         window = &frame().readingWindow();
         window->restoreAndActivate();
-        window->chkAuto->setChecked(true);
-        ASSERT_TRUE(window->Timer1->isActive());
+        control<QCheckBox>(*window, "chkAuto").setChecked(true);
+        ASSERT_TRUE(timer().isActive());
     }
 
     void TearDown() override
@@ -76,11 +76,12 @@ protected:
 
     void tick()
     {
-        QTimerEvent event(window->Timer1->timerId());
-        QCoreApplication::sendEvent(window->Timer1, &event);
+        QTimerEvent event(timer().timerId());
+        QCoreApplication::sendEvent(&timer(), &event);
     }
 
-    int number() const { return window->lblSerial->text().toInt(); }
+    QTimer& timer() const { return control<QTimer>(*window, "Timer1"); }
+    int number() const { return window->currentNumber(); }
 
     ChildRead* window = nullptr;
 };
@@ -88,20 +89,19 @@ protected:
 TEST_F(FastClock, TenThousandTicksAreTenThousandSteps)
 {
     constexpr int ticks = 10'000;
-    window->DataCtl.setRecordSource("SELECT * FROM NewTestament WHERE VerseNumber = 30000");
-    window->DataCtl.refresh();
+    window->fetch("SELECT * FROM NewTestament WHERE VerseNumber = 30000");
     for (int i = 1; i <= ticks; ++i) {
         tick();
         const int expected = (30'000 + i - 1) % 31'102 + 1;
         ASSERT_EQ(number(), expected);
-        ASSERT_EQ(window->caption(), "Reading Window -- " + window->lblVerseId->text());
-        ASSERT_TRUE(window->Timer1->isActive());
+        ASSERT_EQ(window->caption(), "Reading Window -- " + window->currentKey());
+        ASSERT_TRUE(timer().isActive());
     }
 }
 
 TEST_F(FastClock, AfterALongSleepTheTimerTicksOnce)
 {
-    window->Timer1->setInterval(500);
+    timer().setInterval(500);
     const int before = number();
     std::this_thread::sleep_for(1600ms); // three intervals without an event, as when the computer sleeps
     QCoreApplication::processEvents();
@@ -115,12 +115,12 @@ TEST_F(FastClock, AWallClockSetBackOrAheadChangesNothing)
         wallClockOffset = hours * 3600;
         const qint64 wall = QDateTime::currentSecsSinceEpoch();
         ASSERT_NEAR(wall - realSeconds(), hours * 3600, 2) << "the clock of this test moves nothing";
-        window->Timer1->setInterval(500);
+        timer().setInterval(500);
         const int before = number();
         QTest::qWait(50);
         EXPECT_EQ(number(), before) << hours;
         EXPECT_TRUE(QTest::qWaitFor([&] { return number() == before + 1; }, 5000)) << hours;
-        window->Timer1->setInterval(4000);
+        timer().setInterval(4000);
         QTest::qWait(100);
         EXPECT_EQ(number(), before + 1) << hours;
     }

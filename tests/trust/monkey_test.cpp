@@ -302,10 +302,11 @@ protected:
     void letTimePass()
     {
         auto* reading = open<ChildRead>();
-        if (reading && reading->Timer1->isActive()) {
+        QTimer* timer = reading ? &control<QTimer>(*reading, "Timer1") : nullptr;
+        if (timer && timer->isActive()) {
             tell("the reading window's timer ticks");
-            QTimerEvent tick(reading->Timer1->timerId());
-            QCoreApplication::sendEvent(reading->Timer1, &tick);
+            QTimerEvent tick(timer->timerId());
+            QCoreApplication::sendEvent(timer, &tick);
         } else {
             tell("time passes");
             QTest::qWait(anyOf(5));
@@ -432,12 +433,13 @@ protected:
 
     static void expectReading(const ChildRead& reading)
     {
-        EXPECT_EQ(reading.caption(), "Reading Window -- " + reading.lblVerseId->text());
-        const QString number = reading.lblSerial->text();
+        EXPECT_EQ(reading.caption(), "Reading Window -- " + reading.currentKey());
+        const QString number = control<QLabel>(reading, "lblSerial").text();
         const bool isVerse = number.toInt() >= 1 && number.toInt() <= 31102;
         EXPECT_TRUE(number.isEmpty() || isVerse) << number.toStdString();
-        EXPECT_EQ(number.isEmpty(), reading.lblVerseId->text().isEmpty());
-        EXPECT_TRUE(reading.chkAuto->isChecked() || !reading.Timer1->isActive()) << "the timer runs unasked";
+        EXPECT_EQ(number.isEmpty(), reading.currentKey().isEmpty());
+        const bool isAuto = control<QCheckBox>(reading, "chkAuto").isChecked();
+        EXPECT_TRUE(isAuto || !control<QTimer>(reading, "Timer1").isActive()) << "the timer runs unasked";
     }
 
     static void expectSearch(const frmAdvSearch& search)

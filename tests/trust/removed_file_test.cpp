@@ -29,7 +29,7 @@ TEST_F(RemovedFile, DoesNotStopTheFirstLookup)
 {
     ASSERT_TRUE(QFile::remove(folder.filePath(databaseFileName)));
     frame().readingWindow().restoreAndActivate();
-    EXPECT_EQ(get<ChildRead>().lblVerseId->text(), "Mt:1:1");
+    EXPECT_EQ(get<ChildRead>().currentKey(), "Mt:1:1");
 }
 
 TEST_F(RemovedFile, DoesNotStopALookupAfterAllReadersWereClosed)
@@ -39,7 +39,7 @@ TEST_F(RemovedFile, DoesNotStopALookupAfterAllReadersWereClosed)
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     ASSERT_TRUE(QFile::remove(folder.filePath(databaseFileName)));
     frame().readingWindow().restoreAndActivate();
-    EXPECT_EQ(get<ChildRead>().lblVerseId->text(), "Mt:1:1");
+    EXPECT_EQ(get<ChildRead>().currentKey(), "Mt:1:1");
 }
 
 } // namespace
