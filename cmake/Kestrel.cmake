@@ -20,6 +20,9 @@ set(KESTREL_TEST_ENVIRONMENT
     LSAN_OPTIONS=suppressions='${CMAKE_SOURCE_DIR}/tests/support/leaks.supp'
     UBSAN_OPTIONS=print_stacktrace=1)
 
+# The program as the tests meet it: assembled by this build, over a text of the tests' own.
+set(KESTREL_TEST_DIR ${CMAKE_BINARY_DIR}/test/kestrel)
+
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
 # g++ 12 sees overlaps in joined strings where there are none.
 add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
@@ -60,9 +63,10 @@ function(kestrel_test name)
     file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${name}/*.cpp)
     add_executable(test_${name} ${sources})
     set_target_properties(test_${name} PROPERTIES AUTOMOC ${ARG_QT})
-    target_compile_definitions(test_${name} PRIVATE KESTREL_INSTALL_DIR="${KESTREL_INSTALL_DIR}"
+    target_compile_definitions(test_${name} PRIVATE KESTREL_INSTALL_DIR="${KESTREL_TEST_DIR}"
                                KESTREL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
     target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+    add_dependencies(test_${name} test_data)
     # Test code is compiled for a quick build; what it tests is compiled as everywhere.
     target_compile_options(test_${name} PRIVATE -O0 -U_FORTIFY_SOURCE)
     target_link_libraries(test_${name} PRIVATE ${ARG_LINK} GTest::gmock $<IF:$<BOOL:${ARG_QT}>,qt_test_main,GTest::gtest_main>)
@@ -81,5 +85,5 @@ function(kestrel_pytest name)
     list(TRANSFORM ARGN PREPEND ${CMAKE_SOURCE_DIR}/tests/ OUTPUT_VARIABLE paths)
     add_test(NAME ${name} COMMAND ${SYSTEM_PYTHON} -m pytest -q -p no:cacheprovider ${paths})
     set_tests_properties(${name} PROPERTIES TIMEOUT 900 ENVIRONMENT
-        "KESTREL_TOOLS_DIR=${CMAKE_BINARY_DIR}/tools;KESTREL_INSTALL_DIR=${KESTREL_INSTALL_DIR}")
+        "KESTREL_TOOLS_DIR=${CMAKE_BINARY_DIR}/tools;KESTREL_INSTALL_DIR=${KESTREL_TEST_DIR}")
 endfunction()

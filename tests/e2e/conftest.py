@@ -6,15 +6,15 @@ import pytest
 from desktop import Desktop
 from reader import Reader, install
 
-TOP = pathlib.Path(__file__).resolve().parents[2]
+# The program that this build assembled, over the text of the tests; what they look for in it stands in phrases.py.
+ASSEMBLED = pathlib.Path(os.environ.get("KESTREL_INSTALL_DIR", "build/release/test/kestrel")).resolve()
 
 
 @pytest.fixture(scope="session")
 def installed(tmp_path_factory):
     """A copy of the assembled program: the one in its own place may be in use."""
-    folder = pathlib.Path(os.environ.get("KESTREL_INSTALL_DIR", TOP / "build" / "kestrel"))
-    assert (folder / "kestrel-reader").exists(), f"no program in {folder}: run ./setup"
-    return install(folder, tmp_path_factory.mktemp("installed"))
+    assert (ASSEMBLED / "kestrel-reader").exists(), f"no program in {ASSEMBLED}: build it"
+    return install(ASSEMBLED, tmp_path_factory.mktemp("installed"))
 
 
 @pytest.fixture
@@ -26,7 +26,7 @@ def copy(installed, tmp_path):
 @pytest.fixture(scope="session")
 def verses():
     """The text list: the verses by their keys."""
-    text = (TOP / "build" / "data" / "scripture.tsv").read_text(encoding="utf-8")
+    text = (ASSEMBLED.parent / "data" / "scripture.tsv").read_text(encoding="utf-8")
     rows = (line.split("\t") for line in text.splitlines())
     return {f"{book}:{chapter}:{verse}": text for book, chapter, verse, text in rows}
 

@@ -7,10 +7,9 @@ import subprocess
 import time
 
 import pytest
+from phrases import PSALM_117
 
 TOP = pathlib.Path(__file__).resolve().parents[2]
-PSALM = ("Ps:117:1 Louvai ao SENHOR, todas as nações; celebrai a ele, todos os povos.\r\n"
-         "Ps:117:2 Porque sua bondade prevaleceu sobre nós, e a fidelidade do SENHOR [dura] para sempre. Aleluia!\r\n")
 
 
 @pytest.fixture
@@ -48,18 +47,18 @@ def drag(desktop, start, end):
 
 def test_a_screen_reader_reads_the_chapter_and_its_highlight(reader, chapter_text):
     shown = chapter_text.queryText()
-    assert shown.getText(0, shown.characterCount) == PSALM.replace("\r\n", "\n") + "(PT)"
-    assert selected(chapter_text) == PSALM.splitlines()[1]
+    assert shown.getText(0, shown.characterCount) == PSALM_117.replace("\r\n", "\n") + "(PT)"
+    assert selected(chapter_text) == PSALM_117.splitlines()[1]
 
 
 def test_the_chapter_is_copied_with_its_reference(reader, desktop, chapter_text):
     reader.press("Copy Chapter to Clipboard")
-    reader.wait_for(lambda: desktop.clipboard() == "Ps:117:\r\n" + PSALM + "(PT)", "the chapter on the clipboard")
+    reader.wait_for(lambda: desktop.clipboard() == "Ps:117:\r\n" + PSALM_117 + "(PT)", "the chapter on the clipboard")
 
 
 def test_ctrl_c_copies_the_selection_with_its_line_ends(reader, desktop, chapter_text):
     desktop.key("ctrl+a", "ctrl+c")
-    reader.wait_for(lambda: desktop.clipboard() == PSALM + "(PT)", "the text on the clipboard")
+    reader.wait_for(lambda: desktop.clipboard() == PSALM_117 + "(PT)", "the text on the clipboard")
 
 
 def test_selected_text_is_dropped_in_another_program_to_the_letter(reader, desktop, chapter_text, drop_target):
@@ -75,6 +74,6 @@ def test_selected_text_is_dropped_in_another_program_to_the_letter(reader, deskt
 
     assert dropped["formats"] == ["text/plain"]
     assert dropped["copies"] and dropped["onlyCopies"]
-    assert PSALM.startswith(dropped["text"])
+    assert PSALM_117.startswith(dropped["text"])
     assert dropped["text"].count("\r\n") == 1
     assert "\r\nPs:117:2 Porque" in dropped["text"]

@@ -3,13 +3,13 @@ import subprocess
 import time
 
 import pytest
+from phrases import PSALM_117, TWICE, TWICE_KEYS
 from selections import Selections
-from test_chapter import PSALM
 
 EXIT = ("alt+f", "x")
 CLOSE = ("alt+F4",)
-VERSE = "Ps:117:2\r\n " + PSALM.splitlines()[1].removeprefix("Ps:117:2 ") + " (PT)"
-CHAPTER = "Ps:117:\r\n" + PSALM + "(PT)"
+VERSE = "Ps:117:2\r\n " + PSALM_117.splitlines()[1].removeprefix("Ps:117:2 ") + " (PT)"
+CHAPTER = "Ps:117:\r\n" + PSALM_117 + "(PT)"
 
 
 @pytest.fixture
@@ -44,7 +44,7 @@ def copy_chapter(reader, desktop):
 
 
 def copy_results(reader):
-    reader.search("IGREJA")
+    reader.search(TWICE)
     reader.press("Copy Search Results to Clipboard")
 
 
@@ -75,7 +75,7 @@ def test_a_copied_chapter_outlives_a_closed_frame_with_its_line_ends(manager, re
 
 def test_copied_results_outlive_the_program(manager, reader, desktop, verses):
     copy_results(reader)
-    found = [f"\r\n{key} {verses[key]}" for key in ("Mt:16:18", "Mt:18:17")]
+    found = [f"\r\n{key} {verses[key]}" for key in TWICE_KEYS]
     expected = "Search Results:" + "".join(found) + "\r\n(PT)"
     reader.wait_for(lambda: desktop.clipboard() == expected, "the results on the clipboard")
     leave(reader, desktop, EXIT)

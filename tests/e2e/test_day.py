@@ -7,6 +7,7 @@ import struct
 import time
 
 import pytest
+from phrases import COUSINS, ONCE_KEY
 from reader import Reader
 
 TOPICS = pathlib.Path(__file__).resolve().parents[2] / "data" / "topics"
@@ -91,8 +92,8 @@ def test_buttons_and_keys_step_through_the_verses(reader):
 
 
 def test_the_type_grows_begins_again_and_changes_its_face(reader, verses):
-    window = reader.look_up("Jn:11:35")
-    text = reader.find("label", " " + verses["Jn:11:35"], window)
+    window = reader.look_up(ONCE_KEY)
+    text = reader.find("label", " " + verses[ONCE_KEY], window)
     looks = [reader.picture(text)]
     for name in ("Font Size", "Font Size", "Font Size", "Font Face", "Font Face"):
         reader.press(name, within=window)
@@ -185,13 +186,13 @@ def test_a_second_search_joins_two_words(reader, desktop, verses):
     reader.press("New Search", within=window)
     reader.absent("list", "Search results:")
     reader.key("ctrl+a")
-    desktop.type("Marta")
+    desktop.type(COUSINS[0])
     reader.key("Tab")
     choose(reader, reader.find("combo box", "And containing", window), "Or containing", "Down")
     reader.key("Tab")
-    desktop.type("Tabita")
+    desktop.type(COUSINS[1])
     reader.key("Return")
-    expected = matching(verses, lambda text: whole_word("Marta")(text) or whole_word("Tabita")(text))
+    expected = matching(verses, lambda text: any(whole_word(name)(text) for name in COUSINS))
     assert found(reader) == f"{len(expected)} verse(s) found."
     assert listed(reader.find("list", "Search results:", window)) == expected
     reader.key("Escape")

@@ -7,6 +7,7 @@ import subprocess
 import time
 
 import pytest
+from phrases import TWICE, TWICE_FOUND
 from reader import Reader
 
 TITLE = "Kestrel Reader: Portuguese Version"
@@ -47,7 +48,7 @@ def test_a_full_disk_stops_nothing(start, desktop, installed, full_disk):
     reader.look_up(VERSE)
     desktop.key("ctrl+c")
     reader.wait_for(lambda: desktop.clipboard().startswith(VERSE + "\r\n "), "the verse on the clipboard")
-    assert reader.search("IGREJA") == "2 verse(s) found."
+    assert reader.search(TWICE) == TWICE_FOUND
 
 
 # --- The clipboard ---

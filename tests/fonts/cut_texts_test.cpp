@@ -13,6 +13,7 @@
 #include "support/CutTexts.h"
 #include "support/OnceModal.h"
 #include "support/Session.h"
+#include "text/Phrases.h"
 #include "widgets/SoftBttn.h"
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -64,7 +65,7 @@ TEST_F(CutTexts, AreNotInTheSearchWindow)
     frame().openSearch();
     auto& window = get<frmAdvSearch>();
     expectNoneIn(window);
-    window.Text1->setText("Marta");
+    window.Text1->setText(phrases::cousin);
     click(*window.cmdOK);
     ASSERT_TRUE(window.List1->isVisible());
     expectNoneIn(window);

@@ -28,7 +28,7 @@ std::u32string lettersOf(const std::string& text)
 
 void correct(std::string_view bytes)
 {
-    std::vector<Verse> verses = {{{"Gn", 1, 1}, "a água e a terra"}, {{"Gn", 1, 2}, "E a terra estava"}};
+    std::vector<Verse> verses = {{{"Gn", 1, 1}, "a água e a terra"}, {{"Gn", 1, 2}, "A gaveta estava"}};
     applyCorrections(verses, readCorrections(bytes, "corrections"), "corrections");
 }
 

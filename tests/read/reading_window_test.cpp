@@ -2,6 +2,7 @@
 #include "read/VerseLabel.h"
 #include "support/CutTexts.h"
 #include "support/Session.h"
+#include "text/Phrases.h"
 #include "widgets/DataControl.h"
 #include "widgets/SoftBttn.h"
 #include <QCheckBox>
@@ -56,7 +57,7 @@ TEST_F(Reading, OpensOnTheFirstVerse)
 {
     EXPECT_EQ(key(), "Mt:1:1");
     EXPECT_EQ(serial(), "1");
-    EXPECT_TRUE(verse().text().startsWith(" Livro"));
+    EXPECT_TRUE(verse().text().startsWith(QString(" ") + phrases::firstWord));
     EXPECT_EQ(window->caption(), "Reading Window -- Mt:1:1");
     EXPECT_EQ(data().recordSource(), "SELECT * FROM NewTestament WHERE VerseNumber = 1");
 }

@@ -22,9 +22,9 @@ ResultLines listOfLength(int characters, int moreLines)
 TEST(CopiedResults, FrameOneLine)
 {
     ResultLines lines;
-    lines.add("Gn:1:3", " Haja luz.");
+    lines.add("Gn:1:3", " Abre a porta.");
     const CopiedResults copied = copiedResults(lines);
-    EXPECT_EQ(copied.text, "Search Results:\r\nGn:1:3 Haja luz.\r\n(PT)");
+    EXPECT_EQ(copied.text, "Search Results:\r\nGn:1:3 Abre a porta.\r\n(PT)");
     EXPECT_EQ(copied.lines, 1);
     EXPECT_FALSE(copied.isCutShort);
 }

@@ -1,6 +1,7 @@
 // The results list by events: opening verses by mouse and keys, the tip, copying.
 #include "search/ResultLines.h"
 #include "search/SearchSession.h"
+#include "text/Phrases.h"
 #include "widgets/DataControl.h"
 #include "widgets/SoftBttn.h"
 #include <QAccessible>
@@ -96,7 +97,7 @@ TEST_F(SearchResults, AreSelectedByAnyJumpWhenThereIsOne)
         {Qt::Key_Home, 44}, {Qt::Key_End, 47}, {Qt::Key_PageUp, 51}, {Qt::Key_PageDown, -1}};
     for (const auto& [jump, range] : jumps) {
         newSearch();
-        search("Jesus chorou", range); // another range, so that the list is made anew
+        search(phrases::onceText, range); // another range, so that the list is made anew
         ASSERT_EQ(list().count(), 1);
         press(jump);
         EXPECT_EQ(list().selected(), 0);
@@ -231,7 +232,7 @@ TEST_F(SearchResults, AreReadLineByLineByAScreenReader)
 TEST_F(SearchResults, AreCopiedByTheButtonAndTheMenu)
 {
     newSearch();
-    search("Jesus chorou", 44);
+    search(phrases::onceText, 44);
     boxes.shown.clear();
     const QString expected = "Search Results:\r\n" + list().text(0) + "\r\n(PT)";
     click(*window().cmdCopySR);
@@ -245,7 +246,7 @@ TEST_F(SearchResults, AreCopiedByTheButtonAndTheMenu)
 TEST_F(SearchResults, AreCopiedUpToTheLimitWithAWordAboutIt)
 {
     newSearch();
-    search("Deus", -1);
+    search(phrases::thirdOfAll, -1);
     boxes.shown.clear();
     QApplication::clipboard()->setText("before");
     QString atMessage;

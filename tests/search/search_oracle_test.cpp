@@ -218,10 +218,10 @@ private:
 
     QString word()
     {
-        static const QStringList odd = {"xyzzy",    "#",         "na",     "é", "Í",         "'",
-                                        "d'água",   "a*e",       "[áàâã]", "?", "*",         "[a-c]???",
-                                        "[!a-z ]",  "s[e-i]*m",  "(",      "]", "!",         "-",
-                                        "Deus*rei", "[xyz][!u]", "SENHOR", "“", "o? [A-D]?", "[!r-t]e"};
+        static const QStringList odd = {"xyzzy",       "#",         "na",      "é", "Í",         "'",
+                                        "d'água",      "a*e",       "[áàâã]",  "?", "*",         "[a-c]???",
+                                        "[!a-z ]",     "s[e-i]*m",  "(",       "]", "!",         "-",
+                                        "moleiro*rio", "[xyz][!u]", "MOLEIRO", "“", "o? [A-D]?", "[!r-t]e"};
         if (below(6) == 0)
             return odd[below(static_cast<int>(odd.size()))];
         QString piece = pieceOfText();
@@ -308,7 +308,7 @@ TEST_F(SearchOracle, AgreesLineByLineOnGeneratedQueries)
 
 TEST_F(SearchOracle, FailsOnEveryPatternThatCannotBeValid)
 {
-    for (const char* text : {"[", "amor[", "[a", "[!", "[z-a]", "Deus[c-a]x", "*[*"}) {
+    for (const char* text : {"[", "amor[", "[a", "[!", "[z-a]", "rio[c-a]x", "*[*"}) {
         search(text, -1);
         EXPECT_EQ(box(), failedTitle + "Error 93: Invalid pattern string" + aborted) << text;
         search("amor", 47, text, 2);

@@ -1,5 +1,6 @@
 // The search window by events: its layouts, the steps of a search, the repeat check, keys.
 #include "search/SearchSession.h"
+#include "text/Phrases.h"
 #include "widgets/Twips.h"
 #include <QLabel>
 #include <QRegularExpression>
@@ -388,7 +389,7 @@ TEST_F(SearchWindow, RunsAnewWhenAnInputChanged)
         search(row.text1, row.range, row.text2, row.connective, row.wholeWord);
         EXPECT_NE(sql(), "untouched") << row.text1 << row.text2;
         if (!isInResultsMode()) // nothing found: the button of the next round needs the results mode
-            search("Deus");
+            search(phrases::thirdOfAll);
     }
 }
 
@@ -427,9 +428,9 @@ TEST_F(SearchWindow, KeepsTheOtherMemoryWhenItIsClosed)
 
 TEST_F(SearchWindow, TrimsTheTexts)
 {
-    search("  amor ", 47, " Deus  ");
+    search("  amor ", 47, " moleiro  ");
     EXPECT_EQ(sql(), allVerses + " WHERE VerseNumber BETWEEN 1 AND 7957 AND KJVerseText LIKE '*amor*' AND "
-                                 "KJVerseText LIKE '*Deus*'");
+                                 "KJVerseText LIKE '*moleiro*'");
 }
 
 TEST_F(SearchWindow, WrapsTheSecondWordOnlyWhenThereIsOne)
@@ -437,9 +438,9 @@ TEST_F(SearchWindow, WrapsTheSecondWordOnlyWhenThereIsOne)
     search("amor", 47, "", 0, true);
     EXPECT_TRUE(sql().endsWith("KJVerseText LIKE '*[!0-9a-zA-Z]amor[!0-9a-zA-Z]*'"));
     newSearch();
-    search("amor", 47, "Deus", 2, true);
+    search("amor", 47, "moleiro", 2, true);
     EXPECT_TRUE(sql().endsWith("AND (KJVerseText LIKE '*[!0-9a-zA-Z]amor[!0-9a-zA-Z]*' OR "
-                               "KJVerseText LIKE '*[!0-9a-zA-Z]Deus[!0-9a-zA-Z]*')"));
+                               "KJVerseText LIKE '*[!0-9a-zA-Z]moleiro[!0-9a-zA-Z]*')"));
 }
 
 TEST_F(SearchWindow, SearchesAnApostropheAsAnyCharacter)
@@ -453,7 +454,7 @@ TEST_F(SearchWindow, SearchesAnApostropheAsAnyCharacter)
 TEST_F(SearchWindow, FindsTheVersesOfEzrToThoseOfEz)
 {
     ASSERT_EQ(window().Combo2->itemText(30), "Ez");
-    search("Deus", 30);
+    search(phrases::thirdOfAll, 30);
     EXPECT_TRUE(lines().first().startsWith("Ezr:"));
     EXPECT_TRUE(lines().last().startsWith("Ez:"));
 }
@@ -482,7 +483,7 @@ TEST_F(SearchWindow, ScansEverythingWithoutARange)
 
 TEST_F(SearchWindow, CountsASingleMatchInTheSameWords)
 {
-    search("Jesus chorou", 44);
+    search(phrases::onceText, 44);
     EXPECT_EQ(box(), found(1));
 }
 
@@ -492,7 +493,7 @@ TEST_F(SearchWindow, LeavesTheQueryAsItWasForNoConnective)
     const QString before = sql();
     const int count = list().count();
     newSearch();
-    search("amor", 47, "Deus", -1);
+    search("amor", 47, "moleiro", -1);
     EXPECT_EQ(sql(), before);
     EXPECT_EQ(list().count(), count);
 }

@@ -1,6 +1,7 @@
 // The selection window and the lookup of typed references, through events.
 #include "read/VerseLabel.h"
 #include "support/Session.h"
+#include "text/Phrases.h"
 #include "widgets/DataControl.h"
 #include "widgets/SoftBttn.h"
 #include <QComboBox>
@@ -182,7 +183,7 @@ TEST_F(Selection, ATypedReferenceShowsItsVerse)
     EXPECT_EQ(lookUp("Mt:24:43"), "Mt:24:43");
     ChildRead& reading = get<ChildRead>();
     EXPECT_EQ(dataOf(reading).recordSource(), "SELECT * FROM NewTestament WHERE VerseId LIKE 'Mt:24:43*'");
-    EXPECT_TRUE(control<VerseLabel>(reading, "VerseText").text().contains("ladrão"));
+    EXPECT_TRUE(control<VerseLabel>(reading, "VerseText").text().contains(phrases::inMt_24_43));
     EXPECT_EQ(reading.caption(), "Reading Window -- Mt:24:43");
     EXPECT_EQ(activeForm(), &reading);
     EXPECT_TRUE(boxes.shown.isEmpty());

@@ -48,16 +48,15 @@ inline const std::string verseTable = "PRAGMA page_size = 2048; CREATE TABLE New
 
 /// Six verses, stored in disorder, one of them without its leading blank.
 inline const std::string smallBible =
-    verseTable +
-    "CREATE INDEX ByKey ON NewTestament (VerseId);"
-    "INSERT INTO NewTestament VALUES ('Gn:1:2', 5, ' E a terra estava vazia.'),"
-    "('Mt:1:1', 1, ' Livro da geração de Jesus Cristo.'), ('Gn:1:1', 4, 'No princípio criou Deus.'),"
-    "('Mt:10:1', 3, ' Água e luz.'), ('Mt:2:1', 2, ' E sendo Jesus nascido.'),"
-    "('Gn:1:3', 6, ' Haja luz; e houve luz.');"
-    "CREATE TABLE ClassifiedVerses (Id INTEGER, Name TEXT, VerseList TEXT, Type TEXT);"
-    "INSERT INTO ClassifiedVerses VALUES (1, 'Água', 'Mt:10:1\\Gn:1:2-3', 'Events');"
-    "CREATE TABLE NTMaps (MapNumber INTEGER, MapDesc TEXT, Pic BLOB);"
-    "INSERT INTO NTMaps VALUES (1, 'Nowhere', x'00FF0041'), (2, NULL, NULL);";
+    verseTable + "CREATE INDEX ByKey ON NewTestament (VerseId);"
+                 "INSERT INTO NewTestament VALUES ('Gn:1:2', 5, ' A gaveta estava vazia.'),"
+                 "('Mt:1:1', 1, ' Livro dos recados da estação.'), ('Gn:1:1', 4, 'Dorme o gato na escada.'),"
+                 "('Mt:10:1', 3, ' Água e luz.'), ('Mt:2:1', 2, ' E vem o padeiro.'),"
+                 "('Gn:1:3', 6, ' Apaga a luz; é tarde.');"
+                 "CREATE TABLE ClassifiedVerses (Id INTEGER, Name TEXT, VerseList TEXT, Type TEXT);"
+                 "INSERT INTO ClassifiedVerses VALUES (1, 'Água', 'Mt:10:1\\Gn:1:2-3', 'Events');"
+                 "CREATE TABLE NTMaps (MapNumber INTEGER, MapDesc TEXT, Pic BLOB);"
+                 "INSERT INTO NTMaps VALUES (1, 'Nowhere', x'00FF0041'), (2, NULL, NULL);";
 
 inline DataSource& openIn(DataSource& source, const std::string& path, const std::string& sql)
 {

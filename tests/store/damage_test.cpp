@@ -60,7 +60,7 @@ protected:
         std::string sql = smallBible;
         for (int i = 7; i < 1500; ++i) {
             const std::string n = std::to_string(i);
-            sql += "INSERT INTO NewTestament VALUES ('Ps:" + n + ":1', " + n + ", ' E disse Deus: haja luz " +
+            sql += "INSERT INTO NewTestament VALUES ('Ps:" + n + ":1', " + n + ", ' E veio a conta da luz " +
                    n + ".');";
         }
         makeDatabase(m_folder.file(), "PRAGMA page_size = 2048; BEGIN;" + sql + "COMMIT;");

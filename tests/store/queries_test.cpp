@@ -160,19 +160,19 @@ TEST_P(SearchShape, FindsWhatAPlainWalkFindsInOrder)
 const std::vector<Shape> shapes = {
     Shape{"KJVerseText LIKE '*amor*'", [](int, auto, auto t) { return like("*amor*", t); }},
     Shape{"KJVerseText LIKE '*ÁGUA*'", [](int, auto, auto t) { return like("*água*", t); }},
-    Shape{"KJVerseText LIKE '*[!0-9a-zA-Z]deus[!0-9a-zA-Z]*'",
-          [](int, auto, auto t) { return like("*[!0-9a-zA-Z]deus[!0-9a-zA-Z]*", t); }},
-    Shape{"KJVerseText LIKE '*amor*' AND KJVerseText LIKE '*deus*'",
-          [](int, auto, auto t) { return like("*amor*", t) && like("*deus*", t); }},
-    Shape{"KJVerseText LIKE '*deus*' AND KJVerseText NOT LIKE '*senhor*'",
-          [](int, auto, auto t) { return like("*deus*", t) && !like("*senhor*", t); }},
-    Shape{"(KJVerseText LIKE '*amor*' OR KJVerseText LIKE '*deus*')",
-          [](int, auto, auto t) { return like("*amor*", t) || like("*deus*", t); }},
+    Shape{"KJVerseText LIKE '*[!0-9a-zA-Z]rio[!0-9a-zA-Z]*'",
+          [](int, auto, auto t) { return like("*[!0-9a-zA-Z]rio[!0-9a-zA-Z]*", t); }},
+    Shape{"KJVerseText LIKE '*amor*' AND KJVerseText LIKE '*moleiro*'",
+          [](int, auto, auto t) { return like("*amor*", t) && like("*moleiro*", t); }},
+    Shape{"KJVerseText LIKE '*moleiro*' AND KJVerseText NOT LIKE '*aldeia*'",
+          [](int, auto, auto t) { return like("*moleiro*", t) && !like("*aldeia*", t); }},
+    Shape{"(KJVerseText LIKE '*amor*' OR KJVerseText LIKE '*moleiro*')",
+          [](int, auto, auto t) { return like("*amor*", t) || like("*moleiro*", t); }},
     // So common that the engine is quicker testing every row.
-    Shape{"(KJVerseText LIKE '*senhor*' OR KJVerseText LIKE '*deus*')",
-          [](int, auto, auto t) { return like("*senhor*", t) || like("*deus*", t); }},
-    Shape{"VerseId LIKE 'Gn*' AND (KJVerseText LIKE '*terra*' OR KJVerseText LIKE '*deus*')",
-          [](int, auto k, auto t) { return like("gn*", k) && (like("*terra*", t) || like("*deus*", t)); }},
+    Shape{"(KJVerseText LIKE '*aldeia*' OR KJVerseText LIKE '*moleiro*')",
+          [](int, auto, auto t) { return like("*aldeia*", t) || like("*moleiro*", t); }},
+    Shape{"VerseId LIKE 'Gn*' AND (KJVerseText LIKE '*terra*' OR KJVerseText LIKE '*moleiro*')",
+          [](int, auto k, auto t) { return like("gn*", k) && (like("*terra*", t) || like("*moleiro*", t)); }},
     Shape{"VerseId LIKE 'Gn*' AND KJVerseText LIKE '*terra*'",
           [](int, auto k, auto t) { return like("gn*", k) && like("*terra*", t); }},
     Shape{"VerseNumber BETWEEN 7958 AND 13809 AND KJVerseText LIKE '*luz*'",
@@ -267,8 +267,8 @@ TEST(SmallBible, GetsItsLeadingBlankWhereTheFileLacksIt)
     makeDatabase(folder.file(), smallBible);
     DataSource source;
     openIn(source, folder.file(), "SELECT * FROM NewTestament WHERE VerseId = 'Gn:1:1'");
-    EXPECT_EQ(source.field(2), " No princípio criou Deus.");
-    EXPECT_THAT(keys(folder.file(), " WHERE KJVerseText LIKE '*[!a-z]No[!a-z]*'"), ElementsAre("Gn:1:1"));
+    EXPECT_EQ(source.field(2), " Dorme o gato na escada.");
+    EXPECT_THAT(keys(folder.file(), " WHERE KJVerseText LIKE '*[!a-z]Dorme[!a-z]*'"), ElementsAre("Gn:1:1"));
 }
 
 TEST(SmallBible, MayEndInTheMiddleOfAPieceThatTheNextVerseContinues)

@@ -64,22 +64,22 @@ std::string lettersAndDigits(const std::string& text)
 
 TEST_F(Importer, AppliesTheRulesAloneWithoutCorrections)
 {
-    writeFile(folder / "list.tsv", writeVerseList(uniformBible("Haja luz ,e houve")));
+    writeFile(folder / "list.tsv", writeVerseList(uniformBible("Fecha a mala ,e volta")));
     const ImportedText text = importText(folder / "list.tsv");
     EXPECT_FALSE(text.hasCorrections);
-    EXPECT_EQ(text.verses[7].text, "Haja luz, e houve");
+    EXPECT_EQ(text.verses[7].text, "Fecha a mala, e volta");
 }
 
 TEST_F(Importer, AppliesTheCorrectionsBesideTheTextBeforeTheRules)
 {
-    writeFile(folder / "list.tsv", writeVerseList(uniformBible("Haja luz ,e houve")));
+    writeFile(folder / "list.tsv", writeVerseList(uniformBible("Fecha a mala ,e volta")));
     writeFile(folder / "corrections.tsv", "book\tchapter\tverse\tbefore\tafter\twitness\n"
-                                          "Gn\t1\t3\tluz ,e\tluz .E\tspelling\n");
+                                          "Gn\t1\t3\tmala ,e\tmala .E\tspelling\n");
     const ImportedText text = importText(folder / "list.tsv");
     EXPECT_TRUE(text.hasCorrections);
     EXPECT_EQ(text.corrections, 1u);
-    EXPECT_EQ(text.verses[2].text, "Haja luz. E houve");
-    EXPECT_EQ(text.verses[3].text, "Haja luz, e houve");
+    EXPECT_EQ(text.verses[2].text, "Fecha a mala. E volta");
+    EXPECT_EQ(text.verses[3].text, "Fecha a mala, e volta");
 }
 
 TEST_F(Importer, RefusesToLeaveAVerseWithoutText)

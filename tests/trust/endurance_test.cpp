@@ -150,7 +150,7 @@ protected:
 
     void searchAndRead(int times)
     {
-        static const QStringList words = {"amor", "casa", "luz", "igreja", "pastor", "jugo"};
+        static const QStringList words = {"amor", "casa", "luz", "jardim", "pastor", "trigo"};
         for (int i = 0; i < times; ++i)
             search(words[i % words.size()]);
     }
