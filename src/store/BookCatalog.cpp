@@ -1,4 +1,4 @@
-#include "BookCatalog.h"
+#include "store/BookCatalog.h"
 
 std::string Book::treeText() const
 {

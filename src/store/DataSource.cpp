@@ -1,6 +1,6 @@
-#include "DataSource.h"
+#include "store/DataSource.h"
 
-#include "Database.h"
+#include "store/Database.h"
 
 /// What a data source holds between its operations: the database, and the statement while it has a row to
 /// show.
@@ -31,7 +31,7 @@ public:
         } else if (result == SQLITE_DONE) {
             m_statement.reset();
         } else {
-            const DataError error = engineError(m_database->connection());
+            const DataError error = sqliteError(m_database->connection());
             m_statement.reset();
             throw error;
         }

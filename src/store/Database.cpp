@@ -1,8 +1,8 @@
-#include "Database.h"
+#include "store/Database.h"
 
-#include "Hardening.h"
-#include "LikeFunction.h"
-#include "VerseTable.h"
+#include "store/Hardening.h"
+#include "store/LikeFunction.h"
+#include "store/VerseTable.h"
 #include <filesystem>
 #include <map>
 
@@ -53,7 +53,7 @@ Database::Database(const std::string& path)
                                        SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX, nullptr);
     m_connection.reset(connection);
     if (result != SQLITE_OK)
-        throw connection ? engineError(connection) : DataError(result, sqlite3_errstr(result));
+        throw connection ? sqliteError(connection) : DataError(result, sqlite3_errstr(result));
     setUp();
     readVerses(fileSize);
     allowReadingOnly(connection);
@@ -61,14 +61,14 @@ Database::Database(const std::string& path)
 
 void Database::setUp()
 {
-    limitEngine(m_connection.get(), m_steps);
+    limitSqlite(m_connection.get(), m_steps);
     if (registerLike(m_connection.get(), &m_verses) != SQLITE_OK ||
         registerVerseTable(m_connection.get(), &m_verses) != SQLITE_OK)
-        throw engineError(m_connection.get());
+        throw sqliteError(m_connection.get());
     // Texts are read as they lie in the file, and every file of ours holds UTF-8.
     const Statement encoding = prepare("PRAGMA encoding");
     if (sqlite3_step(encoding.get()) != SQLITE_ROW)
-        throw engineError(m_connection.get());
+        throw sqliteError(m_connection.get());
     if (columnBytes(encoding.get(), 0) != "UTF-8")
         throw DataError(SQLITE_NOTADB, sqlite3_errstr(SQLITE_NOTADB));
     execute("PRAGMA temp_store = MEMORY");
@@ -98,7 +98,7 @@ void Database::readVerses(std::size_t fileSize)
 void Database::execute(const char* sql)
 {
     if (sqlite3_exec(m_connection.get(), sql, nullptr, nullptr, nullptr) != SQLITE_OK)
-        throw engineError(m_connection.get());
+        throw sqliteError(m_connection.get());
 }
 
 Statement Database::prepare(const std::string& sql)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Engine.h"
-#include "Verses.h"
+#include "store/Sqlite.h"
+#include "store/Verses.h"
 #include <string>
 
 /// One database file, opened read-only and for good: what becomes of the file afterwards has no effect.

@@ -1,6 +1,6 @@
-#include "KeyIndex.h"
+#include "store/KeyIndex.h"
 
-#include "LetterCase.h"
+#include "store/LetterCase.h"
 #include <algorithm>
 #include <compare>
 

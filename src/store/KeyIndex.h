@@ -1,6 +1,6 @@
 #pragma once
 
-#include "VerseBlock.h"
+#include "store/VerseBlock.h"
 #include <span>
 
 /// The rows of a block in the order of their keys, letter case aside. The block must outlive it.

@@ -1,6 +1,6 @@
-#include "LetterCase.h"
+#include "store/LetterCase.h"
 
-#include "Utf8.h"
+#include "store/Utf8.h"
 #include <algorithm>
 #include <iterator>
 

@@ -1,8 +1,8 @@
-#include "LikeFunction.h"
+#include "store/LikeFunction.h"
 
-#include "Engine.h"
-#include "TextSearch.h"
-#include "Verses.h"
+#include "store/Sqlite.h"
+#include "store/TextSearch.h"
+#include "store/Verses.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
-#include "LikePattern.h"
+#include "store/LikePattern.h"
 
-#include "DataError.h"
-#include "LetterCase.h"
-#include "Utf8.h"
+#include "store/DataError.h"
+#include "store/LetterCase.h"
+#include "store/Utf8.h"
 #include <algorithm>
 
 namespace {

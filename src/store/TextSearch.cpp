@@ -1,7 +1,7 @@
-#include "TextSearch.h"
+#include "store/TextSearch.h"
 
-#include "LetterCase.h"
-#include "Utf8.h"
+#include "store/LetterCase.h"
+#include "store/Utf8.h"
 #include <algorithm>
 #include <cstring>
 #include <utility>

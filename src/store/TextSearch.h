@@ -1,7 +1,7 @@
 #pragma once
 
-#include "LikePattern.h"
-#include "VerseBlock.h"
+#include "store/LikePattern.h"
+#include "store/VerseBlock.h"
 
 /// Finds the rows of a block whose text matches a pattern, in order. The block must outlive it.
 ///

@@ -1,19 +1,19 @@
-#include "VerseBlock.h"
+#include "store/VerseBlock.h"
 
-#include "Engine.h"
+#include "store/Sqlite.h"
 #include <algorithm>
 
 namespace {
 
 /// More than any sound file can hold; less than offsets of 32 bits can count.
-constexpr std::size_t mostBytes = 64 << 20;
+constexpr std::size_t maxBytes = 64 << 20;
 constexpr std::size_t sampleEvery = 16;
 
 } // namespace
 
 VerseBlock::VerseBlock(sqlite3* connection, std::size_t expectedBytes)
 {
-    m_texts.reserve(std::min(expectedBytes, mostBytes));
+    m_texts.reserve(std::min(expectedBytes, maxBytes));
     // The file is built in order, which is quickest to read; any other is read again and sorted by the
     // engine.
     if (!read(connection, ""))
@@ -46,13 +46,13 @@ bool VerseBlock::read(sqlite3* connection, const char* order)
         m_numbers.push_back(number);
         m_keys += columnBytes(rows.get(), 0);
         m_texts.append(text.starts_with(' ') ? "" : " ").append(text);
-        if (m_keys.size() > mostBytes || m_texts.size() > mostBytes)
+        if (m_keys.size() > maxBytes || m_texts.size() > maxBytes)
             throw DataError(SQLITE_TOOBIG, sqlite3_errstr(SQLITE_TOOBIG));
         m_keyStarts.push_back(static_cast<std::uint32_t>(m_keys.size()));
         m_textStarts.push_back(static_cast<std::uint32_t>(m_texts.size()));
     }
     if (result != SQLITE_DONE)
-        throw engineError(connection);
+        throw sqliteError(connection);
     return true;
 }
 

@@ -1,6 +1,6 @@
-#include "VerseCursor.h"
+#include "store/VerseCursor.h"
 
-#include "LetterCase.h"
+#include "store/LetterCase.h"
 #include <algorithm>
 #include <bit>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "LikePattern.h"
-#include "TextSearch.h"
-#include "Verses.h"
+#include "store/LikePattern.h"
+#include "store/TextSearch.h"
+#include "store/Verses.h"
 #include <algorithm>
 
 /// A walk over the rows of a block that fulfil every condition given, in order.

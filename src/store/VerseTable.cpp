@@ -1,7 +1,7 @@
-#include "VerseTable.h"
+#include "store/VerseTable.h"
 
-#include "Engine.h"
-#include "VerseCursor.h"
+#include "store/Sqlite.h"
+#include "store/VerseCursor.h"
 
 namespace {
 

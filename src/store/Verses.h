@@ -1,7 +1,7 @@
 #pragma once
 
-#include "DataError.h"
-#include "KeyIndex.h"
+#include "store/DataError.h"
+#include "store/KeyIndex.h"
 #include <optional>
 
 /// What the verse table and LIKE work on: the block and its index, or why they could not be read.

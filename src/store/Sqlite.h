@@ -1,13 +1,13 @@
 #pragma once
 
-#include "DataError.h"
+#include "store/DataError.h"
 #include <memory>
 #include <sqlite3.h>
 #include <string>
 #include <string_view>
 
 /// The error that the engine met last on this connection.
-inline DataError engineError(sqlite3* connection)
+inline DataError sqliteError(sqlite3* connection)
 {
     return DataError(sqlite3_errcode(connection), sqlite3_errmsg(connection));
 }
@@ -42,6 +42,6 @@ inline Statement prepare(sqlite3* connection, const std::string& sql)
     sqlite3_stmt* statement = nullptr;
     if (sqlite3_prepare_v2(connection, sql.c_str(), static_cast<int>(sql.size()) + 1, &statement, nullptr) !=
         SQLITE_OK)
-        throw engineError(connection);
+        throw sqliteError(connection);
     return Statement(statement);
 }
