@@ -88,6 +88,8 @@ char32_t toOtherCase(char32_t c)
         return small;
     if (c < 0x80)
         return c >= 'a' && c <= 'z' ? c - 0x20 : c;
+    if (c < 0xFF)
+        return isLatin1Pair(c - 0x20) ? c - 0x20 : c;
     for (const Capitals& range : capitals) {
         if (range.contain(c - range.distance))
             return c - range.distance;

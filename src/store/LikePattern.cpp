@@ -4,8 +4,13 @@
 #include "store/LetterCase.h"
 #include "store/Utf8.h"
 #include <algorithm>
+#include <array>
 
 namespace {
+
+constexpr std::size_t wordBits = 64;
+constexpr char32_t tableSize =
+    0x100; // of Latin-1; other characters are rare enough to be looked at each time
 
 [[noreturn]] void refusePattern()
 {
@@ -35,6 +40,7 @@ LikePattern::LikePattern(std::string_view pattern)
             m_steps.push_back({Kind::AnyRun, 0});
     }
     findPieces();
+    layOut();
     m_isPieceAlone = foldCase(pattern) == '*' + m_piece + '*';
 }
 
@@ -43,7 +49,7 @@ void LikePattern::readClass(const char*& at, const char* end)
     const char* close = std::find(at, end, ']');
     if (close == end)
         refusePattern();
-    Class characters{close - at > 1 && *at == '!', {}, {}};
+    Class characters{close - at > 1 && *at == '!', {}};
     at += characters.negated;
     while (at != close) {
         const char32_t first = nextCharacter(at, close);
@@ -57,8 +63,6 @@ void LikePattern::readClass(const char*& at, const char* end)
     at = close + 1;
     if (characters.ranges.empty())
         return;
-    for (std::size_t c = 0; c < characters.ascii.size(); ++c)
-        characters.ascii[c] = characters.holds(static_cast<char32_t>(c));
     m_steps.push_back({Kind::Class, static_cast<char32_t>(m_classes.size())});
     m_classes.push_back(std::move(characters));
 }
@@ -81,60 +85,106 @@ void LikePattern::findPieces()
     }
 }
 
-bool LikePattern::Class::holds(char32_t character) const
-{
-    const auto listed = [this](char32_t c) {
-        return std::any_of(ranges.begin(), ranges.end(),
-                           [c](const Range& range) { return c >= range.first && c <= range.last; });
-    };
-    return (listed(character) || listed(toOtherCase(character))) != negated;
-}
-
-bool LikePattern::accepts(const Step& step, char32_t character) const
+bool LikePattern::accepts(const Step& step, char32_t character, char32_t otherCase) const
 {
     switch (step.kind) {
     case Kind::Letter:
-        return toSmallLetter(character) == step.value;
+        return character == step.value || otherCase == step.value;
     case Kind::Digit:
         return character >= '0' && character <= '9';
-    case Kind::Class:
-        return character < 0x80 ? m_classes[step.value].ascii[character]
-                                : m_classes[step.value].holds(character);
+    case Kind::Class: {
+        const Class& characters = m_classes[step.value];
+        const auto lists = [&](const Range& range) {
+            return (character >= range.first && character <= range.last) ||
+                   (otherCase >= range.first && otherCase <= range.last);
+        };
+        return std::any_of(characters.ranges.begin(), characters.ranges.end(), lists) != characters.negated;
+    }
     default:
         return true;
     }
 }
 
-bool LikePattern::matches(std::string_view text) const
+/// Sets the places whose next step accepts a character.
+void LikePattern::findAccepting(char32_t character, Places* places) const
 {
-    // When a step fails, only the last run passed needs to be made longer: an earlier one could give no more.
-    auto step = m_steps.begin();
-    auto afterRun = m_steps.end();
-    const char* at = text.data();
-    const char* const end = at + text.size();
-    const char* runEnd = nullptr;
-    for (;;) {
-        if (step != m_steps.end() && step->kind == Kind::AnyRun) {
-            if (++step == m_steps.end())
-                return true;
-            afterRun = step;
-            runEnd = at;
-        } else if (at == end) {
-            return step == m_steps.end();
-        } else {
-            const char* next = at;
-            const char32_t character = nextCharacter(next, end);
-            if (step != m_steps.end() && accepts(*step, character)) {
-                at = next;
-                ++step;
-            } else if (!runEnd) {
-                return false;
-            } else {
-                if (step != afterRun)
-                    nextCharacter(next = runEnd, end);
-                at = runEnd = next;
-                step = afterRun;
-            }
+    const char32_t otherCase = toOtherCase(character);
+    std::size_t place = 0;
+    for (const Step& step : m_steps) {
+        if (step.kind == Kind::AnyRun)
+            continue;
+        if (accepts(step, character, otherCase))
+            places[place / wordBits] |= Places{1} << place % wordBits;
+        ++place;
+    }
+}
+
+void LikePattern::layOut()
+{
+    const auto isNoRun = [](const Step& step) { return step.kind != Kind::AnyRun; };
+    const auto steps = std::count_if(m_steps.begin(), m_steps.end(), isNoRun);
+    const std::size_t words = static_cast<std::size_t>(steps) / wordBits + 1;
+    m_runs.assign(words, 0);
+    m_accepts.assign(tableSize * words, 0);
+    for (const Step& step : m_steps) {
+        const std::size_t word = m_end / wordBits;
+        const Places place = Places{1} << m_end % wordBits;
+        const auto accept = [&](char32_t character) {
+            if (character < tableSize)
+                m_accepts[character * words + word] |= place;
+        };
+        if (step.kind == Kind::AnyRun) {
+            m_runs[word] |= place;
+            continue;
+        }
+        ++m_end;
+        if (step.kind == Kind::Letter) {
+            accept(step.value);
+            accept(toOtherCase(step.value));
+            continue;
+        }
+        for (char32_t character = 0; character < tableSize; ++character) {
+            if (accepts(step, character, toOtherCase(character)))
+                accept(character);
         }
     }
+}
+
+bool LikePattern::matches(std::string_view text) const
+{
+    if (text.size() < m_end) // every step takes a byte at least
+        return false;
+    if (m_runs.size() == 1)
+        return matchesFrom(std::array<Places, 1>{1}, std::array<Places, 1>{}, text);
+    std::vector<Places> reached(m_runs.size(), 0);
+    reached[0] = 1;
+    return matchesFrom(std::move(reached), std::vector<Places>(m_runs.size()), text);
+}
+
+/// Follows all ways through the pattern at once: `reached` holds the places that the text so far leads to. A
+/// character leads from each on by one where the next step accepts it, and leaves those where a run stands.
+template <class Words>
+bool LikePattern::matchesFrom(Words reached, Words accepting, std::string_view text) const
+{
+    const std::size_t words = reached.size();
+    const Places end = Places{1} << m_end % wordBits;
+    for (const char *at = text.data(), *stop = at + text.size(); at != stop;) {
+        const char32_t character = nextCharacter(at, stop);
+        const Places* accepts = m_accepts.data() + character * words;
+        if (character >= tableSize) {
+            std::fill(accepting.begin(), accepting.end(), 0);
+            findAccepting(character, accepting.data());
+            accepts = accepting.data();
+        }
+        Places carry = 0;
+        for (std::size_t word = 0; word < words; ++word) {
+            const Places moved = reached[word] & accepts[word];
+            const Places stayed = reached[word] & m_runs[word];
+            reached[word] = moved << 1 | carry | stayed;
+            carry = moved >> (wordBits - 1);
+        }
+        if (reached[words - 1] & m_runs[words - 1] & end) // the rest is a run
+            return true;
+    }
+    return reached[words - 1] & end;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <bitset>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,7 +27,8 @@ public:
     /// Throws DataError 93, "Invalid pattern string".
     explicit LikePattern(std::string_view pattern);
 
-    /// Takes time in proportion to the lengths of text and pattern multiplied, at worst.
+    /// Takes time in proportion to the length of the text, whatever the pattern holds, as long as it has at
+    /// most 63 steps besides "*"; with more, that time for each further 64.
     bool matches(std::string_view text) const;
 
     /// What every match begins with, once folded by foldCase().
@@ -57,17 +58,23 @@ private:
     {
         bool negated;
         std::vector<Range> ranges;
-        std::bitset<128> ascii; ///< what holds() says of these, negation included
-
-        bool holds(char32_t character) const;
     };
+    /// Bits of places, the lowest first. Place n of a pattern is behind its first n steps, runs not counted.
+    using Places = std::uint64_t;
 
     void readClass(const char*& at, const char* end);
     void findPieces();
-    bool accepts(const Step& step, char32_t character) const;
+    void layOut();
+    bool accepts(const Step& step, char32_t character, char32_t otherCase) const;
+    void findAccepting(char32_t character, Places* places) const;
+    template <class Words>
+    bool matchesFrom(Words reached, Words accepting, std::string_view text) const;
 
     std::vector<Step> m_steps;
     std::vector<Class> m_classes;
+    std::size_t m_end = 0;         ///< the last place
+    std::vector<Places> m_runs;    ///< places that a run stands at
+    std::vector<Places> m_accepts; ///< for each character of Latin-1, places that the next step accepts it at
     std::string m_prefix;
     std::string m_piece;
     bool m_isPieceAlone = false;

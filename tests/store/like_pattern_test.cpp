@@ -144,6 +144,68 @@ TEST(LikePattern, AgreesWithTheWitnessOnRandomPatterns)
     EXPECT_GT(invalid, 1000);
 }
 
+TEST(LikePattern, AgreesWithTheWitnessOnLongPatternsMadeFromTheirTexts)
+{
+    const std::vector<std::string> letters = {"a", "B", "é", "Ã", " ", "5", "“", "σ", "\xFF"};
+    const std::vector<std::string> signs = {"?", "*", "*?", "[!q]", "[aeéãb]", "[]", "#", "x"};
+    std::mt19937 random(64);
+    const auto below = [&](std::size_t n) {
+        return std::uniform_int_distribution<std::size_t>(0, n - 1)(random);
+    };
+    int matching = 0;
+    for (int round = 0; round < 1000; ++round) {
+        // Around the lengths at which the pattern needs another word of bits.
+        const std::size_t length = 64 * (1 + below(3)) - 4 + below(8);
+        std::string pattern = below(2) ? "*" : "";
+        std::string text = below(2) ? "aé" : "";
+        for (std::size_t i = 0; i < length; ++i) {
+            const std::string& letter = letters[below(letters.size())];
+            text += letter;
+            const std::string sign = below(4) ? letter : signs[below(below(50) ? 4 : signs.size())];
+            pattern += below(100) ? sign : sign + "*";
+        }
+        pattern += below(2) ? "*" : "";
+        text += below(2) ? "Bé" : "";
+        const auto expected = slow_like::matches(pattern, text);
+        ASSERT_EQ(LikePattern(pattern).matches(text), expected) << pattern << " on " << text;
+        matching += *expected;
+    }
+    EXPECT_GT(matching, 100);
+    EXPECT_LT(matching, 900);
+}
+
+/// The least of some times, which is what the pattern itself takes.
+double secondsFor(const std::string& pattern, const std::string& text)
+{
+    const LikePattern like(pattern);
+    double least = 1e9;
+    for (int run = 0; run < 7; ++run) {
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_FALSE(like.matches(text)) << pattern;
+        least =
+            std::min(least, std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    }
+    return least;
+}
+
+TEST(LikePattern, TakesTheSameTimeWhateverItsStepsAre)
+{
+    std::string text;
+    while (text.size() < 200'000)
+        text += "E houve tarde e manhã, aaaaaaaaaaaaaa. ";
+    const auto times = [](int count, const std::string& part) {
+        std::string all;
+        for (int i = 0; i < count; ++i)
+            all += part;
+        return all;
+    };
+    const double shortest = secondsFor("*#*", text);
+    for (const std::string& pattern :
+         {"*e" + times(57, "?") + "#*", "*" + times(41, "?") + "#*", "*" + times(14, "[!q]") + "#*",
+          "*" + times(60, "[a-zã., ]") + "#*", "*" + times(14, "e*") + "#*", "*" + times(62, "a") + "*"})
+        EXPECT_LT(secondsFor(pattern, text), 4 * shortest) << pattern;
+}
+
 TEST(LikePattern, DoesNotBlowUpOnManyRuns)
 {
     std::string pattern;
