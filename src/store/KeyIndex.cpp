@@ -2,64 +2,37 @@
 
 #include "store/LetterCase.h"
 #include <algorithm>
-#include <compare>
-
-namespace {
-
-/// The first bytes of a folded key, as numbers that compare like it.
-struct Head
-{
-    std::uint64_t first;
-    std::uint64_t second;
-
-    auto operator<=>(const Head&) const = default;
-};
-
-/// A key and its row. The head decides nearly every comparison: sound keys are no longer.
-struct Entry
-{
-    Head head;
-    std::uint32_t row;
-};
-
-std::uint64_t bytesFrom(std::string_view text, std::size_t from)
-{
-    std::uint64_t bytes = 0;
-    for (std::size_t i = from; i < from + sizeof bytes; ++i)
-        bytes = bytes << 8 | (i < text.size() ? static_cast<unsigned char>(text[i]) : 0);
-    return bytes;
-}
-
-Head headOf(std::string_view folded)
-{
-    return {bytesFrom(folded, 0), bytesFrom(folded, sizeof(std::uint64_t))};
-}
-
-} // namespace
 
 KeyIndex::KeyIndex(const VerseBlock& block)
     : m_block(block)
 {
-    std::vector<Entry> entries;
-    entries.reserve(block.size());
-    for (std::uint32_t row = 0; row < block.size(); ++row)
-        entries.push_back({headOf(foldCase(block.key(row))), row});
-    std::sort(entries.begin(), entries.end(), [&block](const Entry& a, const Entry& b) {
-        return a.head != b.head ? a.head < b.head : foldCase(block.key(a.row)) < foldCase(block.key(b.row));
-    });
-    m_rows.reserve(entries.size());
-    for (const Entry& entry : entries)
-        m_rows.push_back(entry.row);
+    std::string_view last;
+    for (std::size_t row = 0; row < block.size(); ++row) {
+        const std::string_view head = block.key(row).substr(0, block.key(row).rfind(':') + 1);
+        if (row == 0 || head != last) {
+            m_starts.push_back(row);
+            m_heads.push_back(foldCase(head));
+        }
+        last = head;
+    }
+    m_starts.push_back(block.size());
 }
 
-std::span<const std::uint32_t> KeyIndex::rowsWithPrefix(std::string_view prefix) const
+std::size_t KeyIndex::next(std::string_view prefix, std::size_t row) const
 {
-    const auto start = [this, prefix](std::uint32_t row) {
-        return foldCase(m_block.key(row)).substr(0, prefix.size());
-    };
-    const auto first = std::partition_point(m_rows.begin(), m_rows.end(),
-                                            [&](std::uint32_t row) { return start(row) < prefix; });
-    const auto last =
-        std::partition_point(first, m_rows.end(), [&](std::uint32_t row) { return start(row) == prefix; });
-    return {first, last};
+    const auto after = std::upper_bound(m_starts.begin(), m_starts.end(), row);
+    for (auto chapter = static_cast<std::size_t>(after - m_starts.begin()); chapter <= m_heads.size();
+         ++chapter) {
+        const std::string_view head = m_heads[chapter - 1];
+        if (head.starts_with(prefix))
+            return row;
+        const std::size_t end = m_starts[chapter];
+        while (row < end && prefix.starts_with(head)) {
+            if (foldCase(m_block.key(row)).starts_with(prefix))
+                return row;
+            ++row;
+        }
+        row = end;
+    }
+    return row;
 }

@@ -2,13 +2,6 @@
 
 #include "store/LetterCase.h"
 #include <algorithm>
-#include <bit>
-
-namespace {
-
-constexpr std::size_t wordBits = 64;
-
-} // namespace
 
 VerseCursor::VerseCursor(const Verses& verses)
     : m_block(&*verses.block)
@@ -19,15 +12,16 @@ VerseCursor::VerseCursor(const Verses& verses)
 
 void VerseCursor::keepKey(std::string_view key)
 {
-    // All keys that begin so and, letter case aside, are as long; the engine compares them once more.
-    narrowToPrefix(foldCase(key));
+    // SQLite compares once more: of the keys that begin so, some are longer or differ in letter case.
+    if (m_prefix.empty())
+        m_prefix = foldCase(key);
 }
 
 void VerseCursor::keepKeysLike(std::string_view pattern)
 {
     m_keyPatterns.emplace_back(pattern);
-    if (const std::string& prefix = m_keyPatterns.back().prefix(); !prefix.empty())
-        narrowToPrefix(prefix);
+    if (m_prefix.empty())
+        m_prefix = m_keyPatterns.back().prefix();
 }
 
 void VerseCursor::keepTextsLike(std::string_view pattern)
@@ -35,29 +29,10 @@ void VerseCursor::keepTextsLike(std::string_view pattern)
     m_textSearches.emplace_back(*m_block, pattern);
 }
 
-void VerseCursor::narrowToPrefix(std::string_view folded)
-{
-    if (!m_candidates.empty())
-        return;
-    // The index gives rows by key; marking them brings them back into the order of their numbers.
-    m_candidates.resize(m_block->size() / wordBits + 1);
-    for (const std::uint32_t row : m_keys->rowsWithPrefix(folded))
-        m_candidates[row / wordBits] |= std::uint64_t{1} << row % wordBits;
-}
-
-std::size_t VerseCursor::nextCandidate(std::size_t row) const
-{
-    std::size_t word = row / wordBits;
-    std::uint64_t bits = m_candidates[word] & ~std::uint64_t{0} << row % wordBits;
-    while (!bits && ++word < m_candidates.size())
-        bits = m_candidates[word];
-    return bits ? word * wordBits + std::countr_zero(bits) : m_end;
-}
-
 void VerseCursor::seek()
 {
     for (; m_row < m_end; ++m_row) {
-        m_row = m_candidates.empty() ? nextTextMatch(m_row) : nextCandidate(m_row);
+        m_row = m_prefix.empty() ? nextTextMatch(m_row) : m_keys->next(m_prefix, m_row);
         if (m_row < m_end && fits(m_row))
             return;
     }
@@ -81,7 +56,6 @@ bool VerseCursor::fits(std::size_t row) const
 {
     return std::all_of(m_keyPatterns.begin(), m_keyPatterns.end(),
                        [&](const LikePattern& pattern) { return pattern.matches(m_block->key(row)); }) &&
-           (m_candidates.empty() ||
-            std::all_of(m_textSearches.begin(), m_textSearches.end(),
-                        [row](const TextSearch& search) { return search.matches(row); }));
+           (m_prefix.empty() || std::all_of(m_textSearches.begin(), m_textSearches.end(),
+                                            [row](const TextSearch& search) { return search.matches(row); }));
 }

@@ -30,18 +30,16 @@ public:
     std::size_t row() const { return m_row; }
 
 private:
-    bool takesAll() const { return m_candidates.empty() && m_keyPatterns.empty() && m_textSearches.empty(); }
+    bool takesAll() const { return m_prefix.empty() && m_keyPatterns.empty() && m_textSearches.empty(); }
     void seek();
     bool fits(std::size_t row) const;
-    std::size_t nextCandidate(std::size_t row) const;
     std::size_t nextTextMatch(std::size_t row) const;
-    void narrowToPrefix(std::string_view folded);
 
     const VerseBlock* m_block;
     const KeyIndex* m_keys;
     std::size_t m_row = 0;
     std::size_t m_end;
-    std::vector<std::uint64_t> m_candidates; ///< one bit a row; empty when the index was not asked
+    std::string m_prefix; ///< what the keys begin with, folded; empty when nothing is known of it
     std::vector<LikePattern> m_keyPatterns;
     std::vector<TextSearch> m_textSearches;
 };

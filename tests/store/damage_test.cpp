@@ -300,7 +300,6 @@ TEST_F(ForeignSchema, AnEmptyTableIsAnEmptyBible)
 
 TEST_F(ForeignSchema, AnyNumberOfRowsIsIndexed)
 {
-    // Around the width of the index's words.
     for (const int rows : {1, 63, 64, 65, 128}) {
         std::filesystem::remove(m_folder.file());
         make(verseTable + "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " +

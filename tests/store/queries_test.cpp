@@ -261,6 +261,26 @@ TEST(SmallBible, ComesInOrderHoweverItIsStored)
                 ElementsAre("Mt:2:1", "Gn:1:1"));
 }
 
+TEST(SmallBible, FindsKeysByAnyBeginningWhereverTheirColonsAre)
+{
+    const std::vector<std::string> all = {"Ab:1:1", "Ab:1:2", "ab:1:3", "Ab:10:1", "ab",  "AB:",   "Abc:1:1",
+                                          ":",      "::1",    "",       "É:1:1",   "é:1", "Ab:1:4"};
+    std::string rows;
+    for (std::size_t i = 0; i < all.size(); ++i)
+        rows += (i ? "," : "") + std::string("('") + all[i] + "'," + std::to_string(i + 1) + ",' x')";
+    const TestFolder folder;
+    makeDatabase(folder.file(), verseTable + "INSERT INTO NewTestament VALUES " + rows + ";");
+    for (const std::string prefix :
+         {"", "A", "ab", "aB:", "Ab:1", "ab:1:", "Ab:1:4", "Ab:1:44", "abc", ":", "::", "é", "É:1:", "x"}) {
+        std::vector<std::string> expected;
+        for (const std::string& key : all) {
+            if (like((prefix + "*").c_str(), key))
+                expected.push_back(key);
+        }
+        EXPECT_EQ(keys(folder.file(), " WHERE VerseId LIKE '" + prefix + "*'"), expected) << prefix;
+    }
+}
+
 TEST(SmallBible, GetsItsLeadingBlankWhereTheFileLacksIt)
 {
     const TestFolder folder;
