@@ -7,53 +7,77 @@ namespace {
 
 /// More than any sound file can hold; less than offsets of 32 bits can count.
 constexpr std::size_t maxBytes = 64 << 20;
-constexpr std::size_t sampleEvery = 16;
+constexpr std::size_t sampleEvery = 64;
+
+/// Takes the function away again, so that no other statement can call it.
+struct RemoveGather
+{
+    sqlite3* connection;
+    ~RemoveGather()
+    {
+        sqlite3_create_function(connection, "gather", 3, SQLITE_UTF8, nullptr, nullptr, nullptr, nullptr);
+    }
+};
 
 } // namespace
 
 VerseBlock::VerseBlock(sqlite3* connection, std::size_t expectedBytes)
 {
     m_texts.reserve(std::min(expectedBytes, maxBytes));
-    // The file is built in order, which is quickest to read; any other is read again and sorted by the
-    // engine.
-    if (!read(connection, ""))
-        read(connection, " ORDER BY VerseNumber");
+    // The file is built in order, which is quickest to read; any other is read again, sorted by SQLite.
+    if (!read(connection, "main.NewTestament"))
+        read(connection, "(SELECT * FROM main.NewTestament ORDER BY VerseNumber)");
     countBytes();
 }
 
 /// False, with part of the rows read, when they do not come in the order of their numbers.
-bool VerseBlock::read(sqlite3* connection, const char* order)
+bool VerseBlock::read(sqlite3* connection, const std::string& rows)
 {
     m_numbers.clear();
     m_keys.clear();
     m_texts.clear();
     m_keyStarts.assign(1, 0);
     m_textStarts.assign(1, 0);
-    const bool sorted = *order != '\0';
-    const auto rows = prepare(
-        connection, std::string("SELECT VerseId, VerseNumber, KJVerseText FROM main.NewTestament") + order);
-    int result;
-    while ((result = sqlite3_step(rows.get())) == SQLITE_ROW) {
-        if (sqlite3_column_type(rows.get(), 1) != SQLITE_INTEGER)
-            continue;
-        const std::int64_t number = sqlite3_column_int64(rows.get(), 1);
-        if (!m_numbers.empty() && number <= m_numbers.back()) {
-            if (!sorted)
-                return false;
-            continue;
-        }
-        const std::string_view text = columnBytes(rows.get(), 2);
-        m_numbers.push_back(number);
-        m_keys += columnBytes(rows.get(), 0);
-        m_texts.append(text.starts_with(' ') ? "" : " ").append(text);
-        if (m_keys.size() > maxBytes || m_texts.size() > maxBytes)
-            throw DataError(SQLITE_TOOBIG, sqlite3_errstr(SQLITE_TOOBIG));
-        m_keyStarts.push_back(static_cast<std::uint32_t>(m_keys.size()));
-        m_textStarts.push_back(static_cast<std::uint32_t>(m_texts.size()));
-    }
-    if (result != SQLITE_DONE)
+    // SQLite hands the rows to an aggregate function in two thirds of the time that a step and six calls for
+    // the columns of each row take.
+    const RemoveGather removed{connection};
+    if (sqlite3_create_function(connection, "gather", 3, SQLITE_UTF8 | SQLITE_DIRECTONLY, this, nullptr,
+                                gather, [](sqlite3_context*) {}) != SQLITE_OK)
         throw sqliteError(connection);
-    return true;
+    const Statement statement =
+        prepare(connection, "SELECT gather(VerseId, VerseNumber, KJVerseText) FROM " + rows);
+    const int result = sqlite3_step(statement.get());
+    if (result != SQLITE_ROW && result != SQLITE_ABORT)
+        throw sqliteError(connection);
+    return result == SQLITE_ROW;
+}
+
+/// Called by SQLite for each row. A row out of order ends the statement with SQLITE_ABORT.
+void VerseBlock::gather(sqlite3_context* context, int, sqlite3_value** columns)
+try {
+    auto& block = *static_cast<VerseBlock*>(sqlite3_user_data(context));
+    if (sqlite3_value_type(columns[1]) != SQLITE_INTEGER)
+        return;
+    const std::int64_t number = sqlite3_value_int64(columns[1]);
+    if (block.m_numbers.empty() || number > block.m_numbers.back())
+        block.append(number, valueBytes(columns[0]), valueBytes(columns[2]));
+    else if (number < block.m_numbers.back())
+        sqlite3_result_error_code(context, SQLITE_ABORT);
+} catch (const DataError& error) {
+    sqlite3_result_error_code(context, error.number());
+} catch (const std::bad_alloc&) {
+    sqlite3_result_error_nomem(context);
+}
+
+void VerseBlock::append(std::int64_t number, std::string_view key, std::string_view text)
+{
+    m_numbers.push_back(number);
+    m_keys += key;
+    m_texts.append(text.starts_with(' ') ? "" : " ").append(text);
+    if (m_keys.size() > maxBytes || m_texts.size() > maxBytes)
+        throw DataError(SQLITE_TOOBIG, sqlite3_errstr(SQLITE_TOOBIG));
+    m_keyStarts.push_back(static_cast<std::uint32_t>(m_keys.size()));
+    m_textStarts.push_back(static_cast<std::uint32_t>(m_texts.size()));
 }
 
 void VerseBlock::countBytes()

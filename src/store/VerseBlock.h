@@ -9,6 +9,8 @@
 #include <vector>
 
 struct sqlite3;
+struct sqlite3_context;
+struct sqlite3_value;
 
 /// The rows of `NewTestament`, read once and never changed: ascending by number, no number twice.
 ///
@@ -49,7 +51,9 @@ private:
     {
         return {all.data() + starts[row], starts[row + 1] - starts[row]};
     }
-    bool read(sqlite3* connection, const char* order);
+    bool read(sqlite3* connection, const std::string& rows);
+    static void gather(sqlite3_context* context, int, sqlite3_value** columns);
+    void append(std::int64_t number, std::string_view key, std::string_view text);
     void countBytes();
 
     std::vector<std::int64_t> m_numbers;
