@@ -1,14 +1,15 @@
 // What a reader waits for: opening the store, looking verses up, searching the whole Bible. Every query is a
 // fresh statement, as in the windows, and every row that is counted as read has had all its columns read.
 //
-// The database is named in KESTREL_DATABASE. bench/compare runs this and holds the figures against their
-// limits.
+// The database is named in KESTREL_DATABASE, a list of patterns to search for, one a line, in
+// KESTREL_PATTERNS. bench/compare runs this and holds the figures against their limits.
 
 #include "store/Database.h"
 #include "store/DataSource.h"
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <cstdlib>
+#include <fstream>
 #include <iostream>
 
 namespace {
@@ -113,6 +114,10 @@ void registerAll()
                       " WHERE (KJVerseText LIKE '*casa*' OR KJVerseText LIKE '*terra*')");
     RegisterBenchmark("commonest words with OR", search,
                       " WHERE (KJVerseText LIKE '*Deus*' OR KJVerseText LIKE '*Senhor*')");
+    RegisterBenchmark("letters everywhere with OR", search,
+                      " WHERE (KJVerseText LIKE '*a*' OR KJVerseText LIKE '*e*')");
+    RegisterBenchmark("wildcards with OR", search,
+                      " WHERE (KJVerseText LIKE '*?e?*' OR KJVerseText LIKE '*[aeiou]??*')");
     RegisterBenchmark("two words with AND", search,
                       " WHERE KJVerseText LIKE '*Deus*' AND KJVerseText LIKE '*Senhor*'");
     RegisterBenchmark("two words with NOT", search,
@@ -124,12 +129,22 @@ void registerAll()
     RegisterBenchmark("Psalm 119 by prefixes", psalm119);
 }
 
+void registerPatterns()
+{
+    const char* path = std::getenv("KESTREL_PATTERNS");
+    std::ifstream list(path ? path : "");
+    for (std::string pattern; std::getline(list, pattern);)
+        benchmark::RegisterBenchmark(("pattern " + pattern).c_str(), search,
+                                     " WHERE KJVerseText LIKE '*" + pattern + "*'");
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     benchmark::Initialize(&argc, argv);
     registerAll();
+    registerPatterns();
     try {
         benchmark::RunSpecifiedBenchmarks();
     } catch (const DataError& error) {

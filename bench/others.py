@@ -27,14 +27,14 @@ LIKE = "select count(*) from verses where text like '%amor%';\n"
 FULL_TEXT = "select count(*) from words where words match 'amor';\n"
 
 
-def time_process(command, clock, data=""):
+def time_process(command, clock, data="", errors=None):
     """Seconds that the whole process takes, its output read from a pipe by another process; and that output."""
     with tempfile.TemporaryFile("w+") as source:
         source.write(data)
         source.seek(0)
         used = resource.getrusage(resource.RUSAGE_CHILDREN)
         start = time.perf_counter()
-        process = subprocess.Popen(command, stdin=source, stdout=subprocess.PIPE)
+        process = subprocess.Popen(command, stdin=source, stdout=subprocess.PIPE, stderr=errors)
         cat = subprocess.Popen(["cat"], stdin=process.stdout, stdout=subprocess.PIPE, text=True)
         process.stdout.close()
         process.wait()
