@@ -16,6 +16,9 @@ public:
     {
         m_statement.reset();
         m_rowsReached = 0;
+        // SQLite would read the text only up to the NUL. No key and no verse holds one, so nothing matches.
+        if (sql.find('\0') != sql.npos)
+            return;
         m_statement = m_database->prepare(sql);
         // An empty text compiles to nothing.
         if (!m_statement)

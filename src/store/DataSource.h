@@ -22,11 +22,12 @@ public:
     /// The path of the database file. Changing it forgets the current result.
     void setDatabaseName(std::string path);
 
-    /// The SQL text. It takes effect with the next refresh().
+    /// The SQL text: one statement and nothing behind it. It takes effect with the next refresh().
     void setRecordSource(std::string sql);
     const std::string& recordSource() const;
 
-    /// Runs the SQL text and stands on its first row. After a throw there is no current row.
+    /// Runs the SQL text and stands on its first row; a text that holds a NUL finds none. After a throw there
+    /// is no current row.
     void refresh();
 
     /// The number of rows reached so far: 0 exactly when the result has no row.

@@ -1,6 +1,5 @@
 #include "store/Database.h"
 
-#include "store/Hardening.h"
 #include "store/LikeFunction.h"
 #include "store/VerseTable.h"
 #include <filesystem>
@@ -61,7 +60,7 @@ Database::Database(const std::string& path)
 
 void Database::setUp()
 {
-    limitSqlite(m_connection.get(), m_steps);
+    limitSqlite(m_connection.get(), m_work);
     if (registerLike(m_connection.get(), &m_verses) != SQLITE_OK ||
         registerVerseTable(m_connection.get(), &m_verses) != SQLITE_OK)
         throw sqliteError(m_connection.get());
@@ -103,6 +102,22 @@ void Database::execute(const char* sql)
 
 Statement Database::prepare(const std::string& sql)
 {
-    m_steps = 0;
-    return ::prepare(m_connection.get(), sql);
+    m_work = {};
+    Statement statement = ::prepare(m_connection.get(), sql);
+    // SQLite reads up to a ";" only, and over an open comment. Where it reads to the end, a stray token put
+    // there is an error.
+    if (compiles(sql + ")"))
+        throw DataError(SQLITE_ERROR, sqlite3_errstr(SQLITE_ERROR));
+    return statement;
+}
+
+bool Database::compiles(const std::string& sql) const
+{
+    try {
+        return ::prepare(m_connection.get(), sql) != nullptr;
+    } catch (const DataError& error) {
+        if (error.number() != SQLITE_ERROR)
+            throw;
+        return false;
+    }
 }

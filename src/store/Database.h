@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/Hardening.h"
 #include "store/Sqlite.h"
 #include "store/Verses.h"
 #include <string>
@@ -20,7 +21,8 @@ public:
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
 
-    /// Compiles the first statement of an SQL text. Throws DataError.
+    /// Compiles an SQL text of one statement. Throws DataError, also when anything follows the statement: a
+    /// ";" or a comment that is not closed.
     Statement prepare(const std::string& sql);
 
     /// The engine's connection, for error texts.
@@ -32,11 +34,12 @@ private:
         void operator()(sqlite3* connection) const { sqlite3_close(connection); }
     };
 
+    bool compiles(const std::string& sql) const;
     void execute(const char* sql);
     void setUp();
     void readVerses(std::size_t fileSize);
 
     Verses m_verses; // outlives the connection, which hands out its texts
-    int m_steps = 0;
+    Work m_work;     // the connection counts in it
     std::unique_ptr<sqlite3, CloseConnection> m_connection;
 };

@@ -1,18 +1,19 @@
 #include "store/Hardening.h"
 
+#include "store/Limits.h"
 #include <sqlite3.h>
 
 namespace {
 
-constexpr int maxValueBytes = 8 << 20;             // longer than the whole file
-constexpr int maxSqlBytes = 100'000;               // far more than any window builds
-constexpr sqlite3_int64 maxMemoryBytes = 64 << 20; // of the engine, in the whole process
-constexpr int stepsPerBatch = 1'000'000;
-constexpr int maxStepBatches = 30; // the busiest search takes less than one
+// Often enough that values of the greatest length, at every step, do not take long until the next check.
+constexpr int stepsPerCheck = 10'000;
 
-int countSteps(void* steps)
+/// Called by SQLite after so many steps; true ends the statement.
+int checkWork(void* argument)
 {
-    return ++*static_cast<int*>(steps) > maxStepBatches;
+    Work& work = *static_cast<Work*>(argument);
+    return ++work.checks > limits::maxSteps / stepsPerCheck ||
+           std::clock() - work.start > limits::maxSeconds * CLOCKS_PER_SEC;
 }
 
 int permit(void*, int action, const char*, const char*, const char*, const char*)
@@ -30,15 +31,15 @@ int permit(void*, int action, const char*, const char*, const char*, const char*
 
 } // namespace
 
-void limitSqlite(sqlite3* connection, int& steps)
+void limitSqlite(sqlite3* connection, Work& work)
 {
-    sqlite3_hard_heap_limit64(maxMemoryBytes);
-    sqlite3_limit(connection, SQLITE_LIMIT_LENGTH, maxValueBytes);
-    sqlite3_limit(connection, SQLITE_LIMIT_SQL_LENGTH, maxSqlBytes);
+    sqlite3_hard_heap_limit64(limits::maxMemoryBytes);
+    sqlite3_limit(connection, SQLITE_LIMIT_LENGTH, limits::maxValueBytes);
+    sqlite3_limit(connection, SQLITE_LIMIT_SQL_LENGTH, limits::maxSqlBytes);
     sqlite3_limit(connection, SQLITE_LIMIT_ATTACHED, 0);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-    sqlite3_progress_handler(connection, stepsPerBatch, countSteps, &steps);
+    sqlite3_progress_handler(connection, stepsPerCheck, checkWork, &work);
 }
 
 void allowReadingOnly(sqlite3* connection)

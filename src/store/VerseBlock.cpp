@@ -1,12 +1,11 @@
 #include "store/VerseBlock.h"
 
+#include "store/Limits.h"
 #include "store/Sqlite.h"
 #include <algorithm>
 
 namespace {
 
-/// More than any sound file can hold; less than offsets of 32 bits can count.
-constexpr std::size_t maxBytes = 64 << 20;
 constexpr std::size_t sampleEvery = 64;
 
 /// Takes the function away again, so that no other statement can call it.
@@ -23,7 +22,7 @@ struct RemoveGather
 
 VerseBlock::VerseBlock(sqlite3* connection, std::size_t expectedBytes)
 {
-    m_texts.reserve(std::min(expectedBytes, maxBytes));
+    m_texts.reserve(std::min(expectedBytes, limits::maxBlockBytes));
     // The file is built in order, which is quickest to read; any other is read again, sorted by SQLite.
     if (!read(connection, "main.NewTestament"))
         read(connection, "(SELECT * FROM main.NewTestament ORDER BY VerseNumber)");
@@ -71,10 +70,12 @@ try {
 
 void VerseBlock::append(std::int64_t number, std::string_view key, std::string_view text)
 {
+    if (key.size() > limits::maxKeyBytes || text.size() > limits::maxVerseBytes)
+        throw DataError(SQLITE_CORRUPT, sqlite3_errstr(SQLITE_CORRUPT));
     m_numbers.push_back(number);
     m_keys += key;
     m_texts.append(text.starts_with(' ') ? "" : " ").append(text);
-    if (m_keys.size() > maxBytes || m_texts.size() > maxBytes)
+    if (m_keys.size() > limits::maxBlockBytes || m_texts.size() > limits::maxBlockBytes)
         throw DataError(SQLITE_TOOBIG, sqlite3_errstr(SQLITE_TOOBIG));
     m_keyStarts.push_back(static_cast<std::uint32_t>(m_keys.size()));
     m_textStarts.push_back(static_cast<std::uint32_t>(m_texts.size()));

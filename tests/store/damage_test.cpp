@@ -1,8 +1,10 @@
 // Files that are not as they should be: each is read as far as it is sound or refused in the engine's own
 // words. No crash, no hang, and whatever comes is in order.
+#include "store/Database.h"
 #include "store/TestDatabase.h"
 #include <algorithm>
 #include <chrono>
+#include <ctime>
 #include <gmock/gmock.h>
 #include <random>
 
@@ -261,6 +263,22 @@ TEST_F(ForeignSchema, AViewWithoutEndIsInterrupted)
     }
 }
 
+TEST_F(ForeignSchema, AViewWithoutEndOfItsWorkIsInterruptedInTime)
+{
+    // Few steps, each of which handles half a megabyte.
+    make("CREATE VIEW NewTestament AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i "
+         "< 30000)"
+         "SELECT 'k' AS VerseId, i AS VerseNumber, substr(hex(zeroblob(500000 + i % 2)), i, 5) AS "
+         "KJVerseText FROM n;"
+         "CREATE VIEW NTMaps AS SELECT * FROM NewTestament;");
+    const auto kept = Database::open(m_folder.file()); // the first bounded statement
+    for (const char* sql : {"SELECT * FROM NewTestament", "SELECT * FROM NTMaps"}) {
+        const std::clock_t start = std::clock();
+        EXPECT_EQ(errorOf(m_folder.file(), sql).number(), SQLITE_INTERRUPT) << sql;
+        EXPECT_LT((std::clock() - start) / CLOCKS_PER_SEC, 10) << sql;
+    }
+}
+
 TEST_F(ForeignSchema, ASoundViewIsAsGoodAsATable)
 {
     make("CREATE TABLE Rows (i); INSERT INTO Rows VALUES (2), (1);"
@@ -277,10 +295,26 @@ TEST_F(ForeignSchema, ItsOwnTableOfTheNameOfOursIsNotTaken)
 
 TEST_F(ForeignSchema, HugeValuesAreTooBig)
 {
-    make(verseTable + "INSERT INTO NewTestament VALUES ('a', 1, zeroblob(20000000));");
+    make(verseTable + "INSERT INTO NewTestament VALUES ('a', 1, zeroblob(2000000));");
     const DataError error = errorOf(m_folder.file(), "SELECT * FROM NewTestament");
     EXPECT_EQ(error.number(), SQLITE_TOOBIG);
     EXPECT_EQ(error.description(), "string or blob too big");
+}
+
+TEST_F(ForeignSchema, WhatNoReaderCouldReadIsDamage)
+{
+    const auto refusal = [this](const std::string& key, const std::string& text) {
+        std::filesystem::remove(m_folder.file());
+        make(verseTable + "INSERT INTO NewTestament VALUES ('a', 1, ' x'), ('" + key + "', 2, '" + text +
+             "');");
+        return errorOf(m_folder.file(), "SELECT * FROM NewTestament WHERE VerseNumber = 1");
+    };
+    EXPECT_EQ(refusal(std::string(64, 'k'), std::string(8192, 't')).number(), 0);
+    for (const DataError& error :
+         {refusal(std::string(65, 'k'), "t"), refusal("k", std::string(8193, 't'))}) {
+        EXPECT_EQ(error.number(), SQLITE_CORRUPT);
+        EXPECT_EQ(error.description(), "database disk image is malformed");
+    }
 }
 
 TEST_F(ForeignSchema, TextsInAnotherEncodingAreRefused)

@@ -1,7 +1,7 @@
 // What a window can do with its data source, where the file may lie, and what nobody can do to it.
 #include "store/Database.h"
 #include "store/TestDatabase.h"
-#include <chrono>
+#include <functional>
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
@@ -205,6 +205,81 @@ TEST_F(SmallSource, RefusesAnSqlTextOfUnreasonableLength)
         errorOf("SELECT * FROM NewTestament WHERE KJVerseText LIKE '*" + std::string(200'000, 'a') + "*'");
     EXPECT_EQ(error.number(), SQLITE_TOOBIG);
 }
+
+TEST_F(SmallSource, RefusesAnythingBehindTheStatement)
+{
+    const std::string good = "SELECT * FROM NewTestament WHERE VerseId LIKE 'Gn:1:2'";
+    for (const std::string rest :
+         {";*'", ";", "; SELECT 1", "; --", "--*'", " -- ", "/**'", "/* ", " /* x * /"}) {
+        const DataError error = errorOf(good + rest);
+        EXPECT_EQ(error.number(), SQLITE_ERROR) << rest;
+        EXPECT_EQ(error.description(), "SQL logic error") << rest;
+    }
+    for (const std::string sound : {"", " ", "\n", " /* closed */", " -- closed\n", " AND 1 /* */"})
+        EXPECT_EQ(run(good + sound).field(1), "5") << sound;
+    EXPECT_EQ(run("SELECT * FROM NewTestament WHERE VerseId LIKE '--;/*'").recordCount(), 0);
+}
+
+TEST_F(SmallSource, FindsNothingForANul)
+{
+    using namespace std::string_literals;
+    for (const std::string& sql :
+         {"SELECT * FROM NewTestament WHERE VerseId LIKE 'Gn\0*'"s,
+          "SELECT * FROM NewTestament WHERE VerseId LIKE '\0Gn*'"s, "\0"s, "SELECT * FROM NewTestament\0"s}) {
+        run("SELECT * FROM NewTestament");
+        int changes = 0;
+        m_source.currentRowChanged = [&] { ++changes; };
+        run(sql);
+        EXPECT_EQ(m_source.recordCount(), 0) << sql;
+        EXPECT_TRUE(m_source.eof()) << sql;
+        EXPECT_EQ(changes, 1) << sql;
+        m_source.currentRowChanged = nullptr;
+    }
+}
+
+/// Ways in which another program can spoil the file's content while it is open.
+class SpoiltFile : public testing::TestWithParam<std::function<void(const std::string& path)>>
+{
+};
+
+TEST_P(SpoiltFile, KeepsTheVersesAndReportsTheRestAsDamage)
+{
+    const TestFolder folder;
+    makeDatabase(folder.file(), smallBible +
+                                    "WITH RECURSIVE n(i) AS (SELECT 2 UNION ALL SELECT i + 1 FROM n WHERE "
+                                    "i < 3000) INSERT INTO ClassifiedVerses SELECT i, 'Topic ' || i, "
+                                    "'Mt:1:1', 'Events' FROM n;");
+    DataSource verses;
+    DataSource topics;
+    openIn(verses, folder.file(), "SELECT * FROM NewTestament");
+    openIn(topics, folder.file(), "SELECT * FROM ClassifiedVerses");
+    GetParam()(folder.file());
+    verses.moveNext();
+    EXPECT_EQ(verses.field(0), "Mt:2:1");
+    const auto readAll = [&] {
+        while (!topics.eof())
+            topics.moveNext();
+    };
+    EXPECT_THROW(readAll(), DataError);
+    EXPECT_TRUE(topics.eof());
+    const DataError error = errorOf(folder.file(), "SELECT * FROM ClassifiedVerses WHERE Type = 'Events'");
+    EXPECT_NE(error.number(), 0);
+    EXPECT_NE(error.description(), "");
+    EXPECT_EQ(keys(folder.file(), " WHERE VerseId LIKE 'Gn:*'").size(), 3U);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    ways, SpoiltFile,
+    testing::Values([](const std::string& path) { std::filesystem::resize_file(path, 0); },
+                    [](const std::string& path) { std::filesystem::resize_file(path, 5000); },
+                    [](const std::string& path) {
+                        const auto size = std::filesystem::file_size(path);
+                        std::fstream(path, std::ios::in | std::ios::out) << std::string(size, 'x');
+                    },
+                    [](const std::string& path) {
+                        const auto size = std::filesystem::file_size(path);
+                        std::fstream(path, std::ios::in | std::ios::out) << std::string(size, '\0');
+                    }));
 
 class OddPath : public testing::TestWithParam<std::string>
 {
