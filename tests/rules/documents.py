@@ -1,0 +1,41 @@
+"""Documents name files and tests that are there."""
+import re
+
+from names import names_of_tests
+from tree import lines
+
+PATH = (r"(src|tests|tools|docs|data|bench|cmake|packaging|man|packages|\.github)/|[A-Z]+\.md$|"
+        r"(run|test|setup|package|dev|CMakeLists\.txt|CMakePresets\.json)$")
+
+
+def documents(top):
+    return [*top.glob("*.md"), *(top / "docs").rglob("*.md"), *(top / "data").rglob("README.md"),
+            *(top / ".github").rglob("*.md")]
+
+
+def dead_path(top, document, name):
+    path = name.removeprefix("./").split("#")[0]
+    if not re.match(PATH, path) and not path.startswith("0"):
+        return False
+    return not (top / path).exists() and not (document.parent / path).exists() and not any(top.glob(path))
+
+
+def dead_test(suites, name):
+    """A name in backticks that looks like a test's, `Suite.Test` or `Suite.*`, and is none."""
+    match = re.fullmatch(r"([A-Z][a-z]\w+)\.([A-Za-z]\w{4,}|\*)", name)
+    if not match:
+        return False
+    suite, test = match.groups()
+    return suite not in suites or (test != "*" and test not in suites[suite])
+
+
+def breaches(top):
+    found, suites = [], names_of_tests(top)
+    for document in documents(top):
+        for number, line in lines(document):
+            for name in re.findall(r"`([^`\s]+)`", line) + re.findall(r"\]\(([^):]+)\)", line):
+                if dead_path(top, document, name):
+                    found.append(f"{document}:{number}: there is no {name}")
+                if dead_test(suites, name):
+                    found.append(f"{document}:{number}: there is no test {name}; was it given another name?")
+    return found

@@ -1,0 +1,44 @@
+"""Names and lengths: tests named alike, scripts that can be run, files of one idea."""
+import os
+import re
+
+from tree import lines, scripts, sources
+
+LONGEST = {"src": 450, "tools": 300, "bench": 300, "tests": 700}  # lines of a file
+TEST = r"^TEST(?:_F|_P)?\(\s*(\w+),\s*(\w+)\)"
+
+
+def names_of_tests(top):
+    """The C++ tests: suites to their tests."""
+    suites = {}
+    for path in sources(top, "tests"):
+        for suite, test in re.findall(TEST, path.read_text(encoding="utf-8"), re.M):
+            suites.setdefault(suite, set()).add(test)
+    return suites
+
+
+def test_names(top):
+    found = []
+    for path in sources(top, "tests"):
+        text = path.read_text(encoding="utf-8")
+        if re.search(TEST, text, re.M) and not path.name.endswith("_test.cpp"):
+            found.append(f"{path}: a file of tests is named after what it tests, and _test.cpp")
+        for suite, test in re.findall(TEST, text, re.M):
+            if not (suite[0].isupper() and test[0].isupper()) or "_" in test:
+                found.append(f"{path}: {suite}.{test}: a test is named by a sentence in capitals: Reading.OpensOnTheFirstVerse")
+    return found
+
+
+def lengths(top):
+    found = []
+    for folder, most in LONGEST.items():
+        for path in sources(top, folder):
+            count = sum(1 for _ in lines(path))
+            if count > most:
+                found.append(f"{path}: {count} lines, more than {most}: part it by what it is about")
+    return found
+
+
+def breaches(top):
+    unrunnable = [path for path in scripts(top) if not os.access(path, os.X_OK)]
+    return test_names(top) + lengths(top) + [f"{path}: begins with #! but cannot be run: chmod +x" for path in unrunnable]

@@ -1,0 +1,106 @@
+"""Each rule is broken in a small house, and its message says what to do."""
+import pathlib
+import subprocess
+import sys
+
+import pytest
+
+sys.path.insert(0, str(pathlib.Path(__file__).parent))
+
+import documents  # noqa: E402
+import floors  # noqa: E402
+import formatting  # noqa: E402
+import names  # noqa: E402
+import subjects  # noqa: E402
+
+SOUND = {
+    "CMakeLists.txt": "kestrel_library(store LINK SQLite::SQLite3)\nkestrel_library(read QT LINK store)\n"
+                      "kestrel_library(search LINK store)\nkestrel_library(help_window FOLDER help QT LINK read)\n",
+    "tests/CMakeLists.txt": "".join(f"kestrel_test({folder} LINK app)\n" for folder in ("store", "read", "search", "help")),
+    "docs/architecture.md": "src/store/ src/read/ src/search/ src/help/\n",
+    "src/store/Verses.h": "#pragma once\n",
+    "src/store/Engine.h": '#pragma once\n\n#include "store/Verses.h"\n#include <sqlite3.h>\n',
+    "src/read/Chapter.h": '#pragma once\n\n#include "store/Verses.h"\n#include <QString>\n',
+    "src/search/Query.h": "#pragma once\n",
+    "src/help/Help.h": '#pragma once\n\n#include "read/Chapter.h"\n#include "store/Verses.h"\n',
+    "tests/read/chapter_test.cpp": "TEST(Chapter, IsGathered) {}\n",
+    "tools/make_data": "#!/bin/sh\n",
+    "tools/clip/Clip.h": "#pragma once\n",
+    "bench/compare": "#!/bin/sh\n",
+}
+
+
+@pytest.fixture
+def house(tmp_path):
+    for name, text in SOUND.items():
+        write(tmp_path, name, text)
+    for script in ("tools/make_data", "bench/compare"):
+        (tmp_path / script).chmod(0o755)
+    (tmp_path / ".clang-format").write_text("BasedOnStyle: LLVM\nIndentWidth: 4\n")
+    return tmp_path
+
+
+def write(top, name, text):
+    (top / name).parent.mkdir(parents=True, exist_ok=True)
+    (top / name).write_text(text)
+
+
+def told(rule, top):
+    return "\n".join(rule.breaches(top)).replace(f"{top}/", "")
+
+
+@pytest.mark.parametrize("rule", [documents, floors, formatting, names])
+def test_a_sound_house_keeps_them(house, rule):
+    assert told(rule, house) == ""
+
+
+@pytest.mark.parametrize("rule, name, text, says", [
+    (floors, "src/stats/Stats.h", "#pragma once\n", "src/stats/ has no line kestrel_library(stats ...) in CMakeLists.txt"),
+    (floors, "src/stats/Stats.h", "#pragma once\n", "src/stats/ is not in the picture of the house, docs/architecture.md"),
+    (floors, "src/stats/Stats.h", "#pragma once\n", "src/stats/ has no line kestrel_test(stats ...) in tests/CMakeLists.txt"),
+    (floors, "src/store/Up.h", '#include "read/Chapter.h"\n', "src/store/Up.h:1: store/ must not include read/"),
+    (floors, "src/search/Beside.h", '#include "read/Chapter.h"\n', "src/search/Beside.h:1: search/ must not include read/"),
+    (floors, "src/read/Sql.h", "#include <sqlite3.h>\n", "src/read/Sql.h:1: SQLite's header is included in store/ only"),
+    (formatting, "src/store/Crooked.h", "int  crooked ;\n", "src/store/Crooked.h:1: not formatted; tools/format mends it"),
+    (names, "tools/new_script", "#!/bin/sh\n", "tools/new_script: begins with #! but cannot be run: chmod +x"),
+    (names, "tests/read/more_test.cpp", "TEST(Chapter, isGathered)\n", "Chapter.isGathered: a test is named by a sentence"),
+    (names, "tests/read/ChapterTests.cpp", "TEST(Chapter, Is)\n", "tests/read/ChapterTests.cpp: a file of tests is named after"),
+    (names, "src/read/Long.h", "//\n" * 2000, "src/read/Long.h: 2000 lines, more than"),
+    (documents, "docs/new.md", "see `src/store/Gone.h`\n", "docs/new.md:1: there is no src/store/Gone.h"),
+    (documents, "docs/new.md", "see [it](0001-gone.md)\n", "docs/new.md:1: there is no 0001-gone.md"),
+    (documents, "docs/new.md", "`Chapter.IsLost`\n", "docs/new.md:1: there is no test Chapter.IsLost"),
+    (documents, "docs/new.md", "`Verses.*`\n", "docs/new.md:1: there is no test Verses.*"),
+])
+def test_a_breach_is_named_with_what_to_do(house, rule, name, text, says):
+    write(house, name, text)
+    assert says in told(rule, house)
+
+
+def test_a_document_may_name_what_is_there(house):
+    write(house, "README.md", "`src/read/Chapter.h`, `tools/make_data`, `Chapter.IsGathered`, `Chapter.*`, `KESTRPT.DAT`\n")
+    assert told(documents, house) == ""
+
+
+@pytest.mark.parametrize("subject, sound", [
+    ("read: Step over the seam", True),
+    ("docs, tests: Say which test holds what", True),
+    ("check_rules.py: Tell", True),
+    ("Step over the seam", False),
+    ("read: step over the seam", False),
+    ("read: " + "A" * 67, False),
+])
+def test_subjects_of_commits(subject, sound):
+    assert (subjects.breach(subject) is None) == sound
+
+
+def test_an_archive_without_history_has_no_subjects_to_judge(house):
+    assert subjects.breaches(house) == []
+
+
+def test_the_script_ends_with_a_fault_and_says_all_of_it(house):
+    write(house, "src/store/Up.h", '#include "read/Chapter.h"\nint  crooked ;\n')
+    (house / "compile_commands.json").write_text("[]")
+    script = pathlib.Path(__file__).with_name("check_rules.py")
+    answer = subprocess.run([sys.executable, script, house, house], capture_output=True, text=True, check=False)
+    assert answer.returncode == 1
+    assert "must not include read/" in answer.stdout and "not formatted" in answer.stdout
