@@ -11,15 +11,6 @@ if(CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
 endif()
 
-# How every test program runs: without a screen, and with what the sanitizers have to know. The runtime of clang 14 takes
-# a thread-local block at some addresses for one with a header of glibc 2.19 and ends while it looks for leaks, so that it
-# is told not to look at these blocks; what they hold counts as reachable all the same.
-set(KESTREL_TEST_ENVIRONMENT
-    QT_QPA_PLATFORM=offscreen
-    ASAN_OPTIONS=intercept_tls_get_addr=0
-    LSAN_OPTIONS=suppressions='${CMAKE_SOURCE_DIR}/tests/support/leaks.supp'
-    UBSAN_OPTIONS=print_stacktrace=1)
-
 # The program as the tests meet it: assembled by this build, over a text of the tests' own.
 set(KESTREL_TEST_DIR ${CMAKE_BINARY_DIR}/test/kestrel)
 
@@ -32,6 +23,9 @@ if(KESTREL_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
     add_compile_definitions(_GLIBCXX_ASSERTIONS)
+    # Linked into every program, so that none needs anything in its environment.
+    add_library(sanitizer_defaults OBJECT ${CMAKE_SOURCE_DIR}/tests/support/sanitizer_defaults.cpp)
+    link_libraries(sanitizer_defaults)
 else()
     # Hardening, as a program deserves that opens files it did not write.
     add_compile_options(-fstack-protector-strong -fstack-clash-protection
@@ -57,7 +51,8 @@ function(kestrel_library name)
 endfunction()
 
 # kestrel_test(NAME [QT] [LINK target...]): one test program of the sources in tests/NAME.
-# With QT it gets an application and runs without a screen.
+# With QT it gets an application that needs no screen, and prints values of Qt as text. ctest gives it nothing that it would
+# not have when run by hand.
 function(kestrel_test name)
     cmake_parse_arguments(ARG "QT" "" "LINK" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${name}/*.cpp)
@@ -69,9 +64,20 @@ function(kestrel_test name)
     add_dependencies(test_${name} test_data)
     # Test code is compiled for a quick build; what it tests is compiled as everywhere.
     target_compile_options(test_${name} PRIVATE -O0 -U_FORTIFY_SOURCE)
+    if(ARG_QT)
+        target_compile_options(test_${name} PRIVATE -include support/PrintQt.h)
+    endif()
     target_link_libraries(test_${name} PRIVATE ${ARG_LINK} GTest::gmock $<IF:$<BOOL:${ARG_QT}>,qt_test_main,GTest::gtest_main>)
     add_test(NAME ${name} COMMAND test_${name})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${KESTREL_TEST_ENVIRONMENT}")
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+endfunction()
+
+# kestrel_long_test(NAME FOLDER FILTER): what takes long of the tests of FOLDER is a test with a name of its own, and no part of
+# the test FOLDER. The program run by hand has all of them.
+function(kestrel_long_test name folder filter)
+    add_test(NAME ${name} COMMAND test_${folder} --gtest_filter=${filter})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+    set_tests_properties(${folder} PROPERTIES ENVIRONMENT "GTEST_FILTER=-${filter}")
 endfunction()
 
 # kestrel_script_test(NAME SCRIPT [argument...]): a script of tests/ that ends with 0 when all is well.

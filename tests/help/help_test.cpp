@@ -59,10 +59,14 @@ QString pageHtml(const QString& name)
 }
 
 /// Whether a page has a row of keys that says what this key does.
-bool hasKey(const QString& pageName, const QString& key, const QString& meaning)
+testing::AssertionResult hasKey(const QString& pageName, const QString& key, const QString& meaning)
 {
     const QString row = "<tr><td><kbd>" + key.toHtmlEscaped() + "</kbd></td><td>" + meaning;
-    return pageHtml(pageName).contains(row);
+    if (pageHtml(pageName).contains(row))
+        return testing::AssertionSuccess();
+    return testing::AssertionFailure() << "data/help/kestrel.html: the table of keys in <section id=\""
+                                       << pageName.toStdString() << "\"> has no row\n"
+                                       << row.toStdString() << "...</td></tr>";
 }
 
 bool mentionsKey(const QString& pageName, const QString& key)
@@ -529,10 +533,8 @@ TEST_F(HelpSession, ListsEveryShortcutOfItsOwn)
     HelpWindow& window = openHelp("HelpWindow");
     int shortcuts = 0;
     for (const QAction* action : window.actions()) {
-        EXPECT_TRUE(hasKey("HelpWindow", action->shortcut().toString(), action->text()))
-            << action->objectName().toStdString();
-        EXPECT_TRUE(hasKey("Keys", action->shortcut().toString(), action->text()))
-            << action->objectName().toStdString();
+        EXPECT_TRUE(hasKey("HelpWindow", action->shortcut().toString(), action->text()));
+        EXPECT_TRUE(hasKey("Keys", action->shortcut().toString(), action->text()));
         ++shortcuts;
     }
     EXPECT_EQ(shortcuts, 9);
@@ -551,8 +553,8 @@ protected:
                     continue;
                 const QString key = item->shortcut().toString();
                 const QString caption = QString(item->text()).remove('&');
-                EXPECT_TRUE(hasKey(page, key, caption)) << key.toStdString() << " on " << page.toStdString();
-                EXPECT_TRUE(hasKey("Keys", key, caption)) << key.toStdString();
+                EXPECT_TRUE(hasKey(page, key, caption));
+                EXPECT_TRUE(hasKey("Keys", key, caption));
                 ++keys;
             }
         EXPECT_GE(keys, 3);
@@ -569,7 +571,9 @@ protected:
         for (int number = 1; number <= 12; ++number) {
             const QString key = QString("F%1").arg(number);
             EXPECT_EQ(mentionsKey(page, key), known.contains(key))
-                << key.toStdString() << " " << page.toStdString();
+                << "data/help/kestrel.html, <section id=\"" << page.toStdString()
+                << "\">: " << key.toStdString()
+                << (known.contains(key) ? " is missing" : " is told, and the window's menus do not have it");
         }
     }
 };

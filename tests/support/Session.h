@@ -56,7 +56,7 @@ protected:
     {
         Window* window = open<Window>();
         if (!window)
-            throw std::runtime_error("the window is not open");
+            throw std::runtime_error(std::string(Window::staticMetaObject.className()) + " is not open");
         return *window;
     }
 
@@ -101,7 +101,8 @@ protected:
     void choose(const QString& name)
     {
         QAction* item = menuItem(name);
-        ASSERT_NE(item, nullptr) << name.toStdString() << " is not on the menu bar";
+        ASSERT_NE(item, nullptr) << name.toStdString() << " is on none of the menus "
+                                 << menuBarCaptions().join(", ").toStdString();
         item->trigger();
     }
 
