@@ -1,6 +1,7 @@
 # What is installed where, and the Debian package made of it.
 #
-# The data files come from KESTREL_INSTALL_DIR, where ./setup has assembled them: the text is no part of the tree.
+# The data files come from KESTREL_INSTALL_DIR, where ./setup has assembled them, and what is said of the text that they hold
+# from KESTREL_DATA_DIR: the text is no part of the tree.
 
 set(application io.github.kestrelreader.KestrelReader)
 set(made ${CMAKE_BINARY_DIR}/packaging)
@@ -30,7 +31,7 @@ foreach(side 16 22 24 32 48 64 128 256 512)
             RENAME ${application}.png)
 endforeach()
 install(FILES ${made}/kestrel-reader.1.gz DESTINATION share/man/man1)
-install(FILES packaging/copyright ${made}/changelog.gz DESTINATION ${doc_dir})
+install(FILES ${KESTREL_DATA_DIR}/copyright ${made}/changelog.gz DESTINATION ${doc_dir})
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_STRIP_FILES ON)
@@ -39,7 +40,9 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 set(CPACK_PACKAGE_CONTACT "The Kestrel Reader Project <project@kestrel-reader.example>")
 set(CPACK_PACKAGE_HOMEPAGE_URL "https://www.kestrel-reader.example/")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "reader for the whole Bible in Portuguese")
-set(CPACK_PACKAGE_DESCRIPTION_FILE ${CMAKE_SOURCE_DIR}/packaging/description.txt)
+# The description is read when a package is made; before that it may not be there yet.
+configure_file(cmake/PackageDescription.cmake.in PackageDescription.cmake @ONLY)
+set(CPACK_PROJECT_CONFIG_FILE ${CMAKE_BINARY_DIR}/PackageDescription.cmake)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION text)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)

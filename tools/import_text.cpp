@@ -1,4 +1,4 @@
-// Makes the text of the database from the published one: import_text PUBLISHED_LIST OUT
+// Makes the text of the database from the published one: import_text PUBLISHED_LIST OUT [CORRECTIONS]
 
 #include "importer/Files.h"
 #include "importer/Importer.h"
@@ -8,18 +8,15 @@
 
 int main(int argc, char** argv)
 {
-    if (argc != 3) {
-        std::cerr << "Usage: import_text PUBLISHED_LIST OUT\n";
+    if (argc != 3 && argc != 4) {
+        std::cerr << "Usage: import_text PUBLISHED_LIST OUT [CORRECTIONS]\n";
         return 2;
     }
     try {
-        const ImportedText text = importText(argv[1]);
+        const ImportedText text = importText(argv[1], argc == 4 ? argv[3] : "");
         writeFile(argv[2], writeVerseList(text.verses));
-        std::cout << "Imported " << text.verses.size() << " verses, ";
-        if (text.hasCorrections)
-            std::cout << text.corrections << " corrections, typography rules.\n";
-        else
-            std::cout << "typography rules alone: no corrections.tsv lies beside " << argv[1] << ".\n";
+        std::cout << "Imported " << text.verses.size() << " verses, " << text.corrections
+                  << " corrections, typography rules.\n";
     } catch (const std::exception& error) {
         std::cerr << "import_text: " << error.what() << "\n";
         return 1;

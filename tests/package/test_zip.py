@@ -21,7 +21,7 @@ def test_it_holds_these_files_and_no_others(unpack):
     folder = unpack("UTC")
     modes = {path.name: oct(path.stat().st_mode & 0o777) for path in folder.iterdir()}
     assert modes == {"kestrel-reader": "0o755", "KESTRPT.DAT": "0o644", "SEARCH.AVI": "0o644", "KESTREL.HLP": "0o644",
-                     "README.md": "0o644", "LICENSE": "0o644"}
+                     "README.md": "0o644", "LICENSE": "0o644", "COPYRIGHT": "0o644"}
     assert [path.name for path in folder.parent.iterdir()] == ["kestrel-reader"]
 
 

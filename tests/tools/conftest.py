@@ -3,24 +3,40 @@ import shutil
 from pathlib import Path
 
 import pytest
-from tools_support import SOURCE
+from tools_support import SOURCE, expect_sums, published_sum, sha256
 
-REFERENCE = SOURCE / "../shared/data"
+
+@pytest.fixture(scope="session")
+def text():
+    """The list of verses that the tests' program folder is made of, as it was before the importer."""
+    assembled = Path(os.environ.get("KESTREL_INSTALL_DIR", SOURCE / "build/release/test/kestrel"))
+    return assembled.resolve().parent / "text/scripture.tsv"
+
+
+@pytest.fixture(scope="session")
+def corrected(text):
+    """What the importer makes of it without corrections."""
+    return text.parent.parent / "data/scripture.tsv"
 
 
 @pytest.fixture
-def checkout(tmp_path):
-    """A checkout of its own, with nothing beside it."""
+def checkout(tmp_path, text):
+    """A checkout of its own, with nothing beside it. For it, the published text is that of the tests."""
     folder = tmp_path / "parent" / "checkout"
-    shutil.copytree(SOURCE / "tools", folder / "tools")
+    for part in ("tools", "data/text", "data/help", "packaging"):
+        shutil.copytree(SOURCE / part, folder / part)
+    expect_sums(folder, text)
     return folder
 
 
 @pytest.fixture
 def reference():
-    if not (REFERENCE / "scripture-pt.tsv").is_file():
-        pytest.skip("The reference text does not lie beside the checkout.")
-    return REFERENCE
+    """The real text as it was published."""
+    candidates = [os.environ.get("KESTREL_TEXT"), SOURCE / "../shared/data/scripture-pt.tsv"]
+    for path in map(Path, filter(None, candidates)):
+        if path.is_file() and sha256(path) == published_sum(SOURCE):
+            return path
+    pytest.skip("The published text is not here.")
 
 
 @pytest.fixture

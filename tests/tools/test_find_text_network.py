@@ -45,8 +45,8 @@ def server(tmp_path):
 
 
 @pytest.fixture
-def books(server, tmp_path, reference):
-    return publish(reference, tmp_path / "books")
+def books(server, tmp_path, text):
+    return publish(text, tmp_path / "books")
 
 
 @pytest.fixture
@@ -107,11 +107,11 @@ def drip(handler):
             handler.wfile.write(b" ")
 
 
-def test_the_whole_text_is_fetched_once_and_kept(find, server, books, tmp_path, reference):
+def test_the_whole_text_is_fetched_once_and_kept(find, server, books, tmp_path, text):
     answer = find(server.url)
     kept = tmp_path / "cache/published/scripture-pt.tsv"
     assert (answer.returncode, answer.stdout) == (0, f"{kept}\n")
-    assert kept.read_bytes() == (reference / "scripture-pt.tsv").read_bytes()
+    assert kept.read_bytes() == text.read_bytes()
     assert len(server.asked) == 66
     assert (server.asked[0], server.asked[39], server.asked[65]) == \
         ("/books/Gen.json", "/books/Matt.json", "/books/Rev.json")
@@ -122,7 +122,7 @@ def test_the_whole_text_is_fetched_once_and_kept(find, server, books, tmp_path, 
 
 def test_a_text_of_another_checksum_is_refused(find, server, books, tmp_path, stand_in):
     last = books / "Rev.json"
-    last.write_text(last.read_text().replace("Jesus", "jesus", 1))
+    last.write_text(last.read_text().replace("caderno", "livro", 1))
     answer = find(server.url)
     assert f"find_text: the text from {server.url}/ has the SHA-256" in answer.stderr
     assert_stand_in(answer, tmp_path)

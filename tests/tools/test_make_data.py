@@ -1,6 +1,5 @@
 """One command makes all data files, and does again only what has to be done."""
 
-import hashlib
 import os
 import shutil
 import sqlite3
@@ -9,19 +8,34 @@ from datetime import datetime
 from zoneinfo import ZoneInfo
 
 import pytest
-from tools_support import SOURCE, run
+from tools_support import SOURCE, expect_sums, run, sha256
 
 # Of the whole database, as one version of SQLite writes it; new after every change of its data.
-DATABASE_SHA256 = "4d75d0d0e0a20a845ffe1b076e862f047148d1549e56d175548a1683901d2fbb"
+DATABASE_SHA256 = "15074675321e2c2fa41c65203bfa1cd7f5fcdb1120d280f8cd00de4cfaddab9c"
 ENGINE = "3.40.1"
-CORRECTED_SHA256 = "977b2848297e2cca07927de47ebf0ea2ef69ac4b4527432151336dd400b0a3b9"
+HEADER = "book\tchapter\tverse\tbefore\tafter\twitness\n"
 
 
 @pytest.fixture
-def make(tmp_path, tools_folder):
-    def make_data(program=SOURCE / "tools/make_data", **environment):
-        return run(program, tools_folder, tmp_path / "out", tmp_path / "data", **environment)
+def make(tmp_path, tools_folder, checkout, text):
+    """Makes the data of the tests' text, or of the one that the environment names."""
+    def make_data(source=checkout, **environment):
+        return run(source / "tools/make_data", tools_folder, tmp_path / "out", tmp_path / "data",
+                   **{"KESTREL_TEXT": str(text), **environment})
     return make_data
+
+
+@pytest.fixture
+def unknown(tmp_path, text):
+    """Another text than the published one."""
+    path = tmp_path / "mine" / "list.tsv"
+    path.parent.mkdir()
+    path.write_text(text.read_text().replace("abril", "maio", 1))
+    return path
+
+
+def gn_1_1(tmp_path):
+    return (tmp_path / "data/scripture.tsv").read_text().splitlines()[0]
 
 
 def inodes(folder):
@@ -29,38 +43,46 @@ def inodes(folder):
     return {path.name: path.stat().st_ino for path in folder.iterdir()}
 
 
-def test_it_makes_the_data_files_of_the_reference_text(make, tmp_path, reference):
+def test_it_makes_the_data_files(make, tmp_path, checkout, text, corrected):
+    (checkout / "data/text/corrections.tsv").write_text(HEADER)
+    expect_sums(checkout, text, sha256(corrected))
     answer = make()
     assert answer.returncode == 0, answer.stderr
-    assert sorted(os.listdir(tmp_path / "out")) == ["KESTRPT.DAT", "SEARCH.AVI"]
-    text = (tmp_path / "data/scripture.tsv").read_bytes()
-    assert hashlib.sha256(text).hexdigest() == CORRECTED_SHA256
+    assert sorted(os.listdir(tmp_path / "out")) == ["KESTREL.HLP", "KESTRPT.DAT", "SEARCH.AVI"]
+    imported = (tmp_path / "data/scripture.tsv").read_text()
+    assert imported == corrected.read_text()
     assert (tmp_path / "out/KESTRPT.DAT").stat().st_size == 6834176
     with sqlite3.connect(f"file:{tmp_path}/out/KESTRPT.DAT?mode=ro", uri=True) as database:
         rows = database.execute("SELECT VerseId, KJVerseText FROM NewTestament ORDER BY VerseNumber").fetchall()
-    listed = [line.split("\t") for line in text.decode().splitlines()]
+    listed = [line.split("\t") for line in imported.splitlines()]
     expected = [(f"{b}:{c}:{v}", " " + t) for b, c, v, t in listed[23145:] + listed[:23145]]
     assert rows == expected
 
 
 @pytest.mark.skipif(sqlite3.sqlite_version != ENGINE, reason=f"these are the bytes of {ENGINE}")
-def test_the_database_is_the_same_on_every_machine(make, tmp_path, reference):
-    make()
-    assert hashlib.sha256((tmp_path / "out/KESTRPT.DAT").read_bytes()).hexdigest() == DATABASE_SHA256
+def test_the_database_of_the_published_text_is_the_same_on_every_machine(make, tmp_path, reference):
+    alone = tmp_path / "alone" / "published.tsv"  # with nothing beside it
+    alone.parent.mkdir()
+    shutil.copy(reference, alone)
+    answer = make(SOURCE, KESTREL_TEXT=str(alone))
+    assert answer.returncode == 0, answer.stderr
+    assert sha256(tmp_path / "out/KESTRPT.DAT") == DATABASE_SHA256
 
 
-def test_a_second_run_makes_nothing(make, tmp_path, reference):
-    make()
+def test_a_second_run_makes_nothing(make, tmp_path, unknown):
+    make(KESTREL_TEXT=str(unknown))
     before = inodes(tmp_path / "out"), inodes(tmp_path / "data")
     started = time.monotonic()
-    answer = make()
+    answer = make(KESTREL_TEXT=str(unknown))
     assert time.monotonic() - started < 5
     assert answer.returncode == 0
     assert (answer.stdout, answer.stderr) == ("", "")
     assert (inodes(tmp_path / "out"), inodes(tmp_path / "data")) == before
 
 
-def test_what_is_gone_or_changed_is_made_again(make, tmp_path, reference):
+def test_what_is_gone_or_changed_is_made_again(make, tmp_path, checkout, text, corrected):
+    (checkout / "data/text/corrections.tsv").write_text(HEADER)
+    expect_sums(checkout, text, sha256(corrected))
     make()
     whole = (tmp_path / "out/KESTRPT.DAT").read_bytes()
     shutil.rmtree(tmp_path / "out")
@@ -75,71 +97,121 @@ def test_what_is_gone_or_changed_is_made_again(make, tmp_path, reference):
 
 
 @pytest.mark.parametrize("zone", ["UTC", "Europe/Lisbon", "America/Sao_Paulo", "Asia/Kolkata", "Pacific/Auckland"])
-def test_the_database_gets_its_date_in_local_time_every_time(make, tmp_path, reference, zone):
-    make()
+def test_the_database_gets_its_date_in_local_time_every_time(make, tmp_path, unknown, zone):
+    make(KESTREL_TEXT=str(unknown))
     database = tmp_path / "out/KESTRPT.DAT"
     os.utime(database)
-    make(TZ=zone)
+    make(KESTREL_TEXT=str(unknown), TZ=zone)
     stamped = datetime.fromtimestamp(database.stat().st_mtime, ZoneInfo(zone))
     assert stamped.replace(tzinfo=None) == datetime(1998, 5, 5, 5, 0, 0)
 
 
-def test_a_changed_topic_makes_a_new_database(make, checkout, tmp_path, reference):
-    program = checkout / "tools/make_data"
+def test_a_changed_topic_makes_a_new_database(make, checkout, tmp_path, unknown):
     topics = checkout / "data/topics"
     topics.mkdir(parents=True)
     for name in ("miracles", "parables", "prophecy"):
         (topics / f"{name}.txt").write_text("")
-    named = {"KESTREL_TEXT": str(reference / "scripture-pt.tsv")}
+    named = {"KESTREL_TEXT": str(unknown)}
 
     def names():
         with sqlite3.connect(f"file:{tmp_path}/out/KESTRPT.DAT?mode=ro", uri=True) as database:
             return [row[0] for row in database.execute("SELECT Name FROM ClassifiedVerses")]
 
     (topics / "events.txt").write_text("First\tMt:1:1\n")
-    assert make(program, **named).returncode == 0
+    assert make(**named).returncode == 0
     assert names() == ["First"]
     (topics / "events.txt").write_text("Second\tMt:1:1\n")
-    assert make(program, **named).returncode == 0
+    assert make(**named).returncode == 0
     assert names() == ["Second"]
 
     (topics / "events.txt").write_text("Third\tMt:99:1\n")
-    answer = make(program, **named)
+    answer = make(**named)
     assert answer.returncode == 1
     assert "events.txt, line 1: there is no verse \"Mt:99:1\"" in answer.stderr
     assert "build_database failed" in answer.stderr
     assert names() == ["Second"]
 
 
-def test_without_corrections_beside_the_text_it_says_so(make, tmp_path, reference):
-    shutil.copy(reference / "scripture-pt.tsv", tmp_path / "alone.tsv")
-    answer = make(KESTREL_TEXT=str(tmp_path / "alone.tsv"))
-    assert answer.returncode == 0
-    assert "typography rules alone: no corrections.tsv lies beside" in answer.stderr
+def test_our_corrections_mend_the_published_text_wherever_it_lies(make, checkout, tmp_path, text):
+    (checkout / "data/text/corrections.tsv").write_text(HEADER + "Gn\t1\t1\tneve\tgeada\tspelling\n")
+    answer = make()
+    assert answer.returncode == 1
+    assert "the corrected text has the SHA-256" in answer.stderr and "sums.txt" in answer.stderr
+    expect_sums(checkout, text, sha256(tmp_path / "data/scripture.tsv"))
+    answer = make()
+    assert answer.returncode == 0, answer.stderr
+    assert "geada ainda cobria" in gn_1_1(tmp_path)
 
 
-def test_corrections_that_come_later_are_applied(make, tmp_path, reference):
-    shutil.copy(reference / "scripture-pt.tsv", tmp_path / "list.tsv")
-    make(KESTREL_TEXT=str(tmp_path / "list.tsv"))
-    shutil.copy(reference / "corrections.tsv", tmp_path / "corrections.tsv")
-    make(KESTREL_TEXT=str(tmp_path / "list.tsv"))
-    text = (tmp_path / "data/scripture.tsv").read_bytes()
-    assert hashlib.sha256(text).hexdigest() == CORRECTED_SHA256
+def test_another_text_is_not_corrected(make, tmp_path, unknown):
+    answer = make(KESTREL_TEXT=str(unknown))
+    assert answer.returncode == 0, answer.stderr
+    assert "31102 verses, 0 corrections, typography rules" in answer.stderr
+    assert "neve ainda cobria" in gn_1_1(tmp_path)
 
 
-def test_the_english_stand_in_makes_a_whole_database(make, checkout, tmp_path, stand_in):
-    answer = make(checkout / "tools/make_data")
+def test_a_list_beside_the_text_is_used_in_place_of_ours(make, checkout, tmp_path, text):
+    beside = tmp_path / "beside"
+    beside.mkdir()
+    shutil.copy(text, beside / "list.tsv")
+    (checkout / "data/text/corrections.tsv").write_text(HEADER + "Gn\t1\t1\tneve\tgeada\tspelling\n")
+    (beside / "corrections.tsv").write_text(HEADER + "Gn\t1\t1\tneve\tareia\tspelling\n")
+    answer = make(KESTREL_TEXT=str(beside / "list.tsv"))
+    assert answer.returncode == 0, answer.stderr
+    assert f"{beside}/corrections.tsv is used, which is not the same as data/text/corrections.tsv" in answer.stderr
+    assert "areia ainda cobria" in gn_1_1(tmp_path)
+
+
+def test_the_published_text_and_our_corrections_give_the_sum_that_is_kept(make, tmp_path, reference):
+    alone = tmp_path / "alone" / "published.tsv"
+    alone.parent.mkdir()
+    shutil.copy(reference, alone)
+    answer = make(SOURCE, KESTREL_TEXT=str(alone))
+    assert answer.returncode == 0, answer.stderr
+    assert "31102 verses, 515 corrections" in answer.stderr
+    assert sha256(tmp_path / "data/scripture.tsv") == (SOURCE / "data/text/sums.txt").read_text().split()[3]
+
+
+# --- What is said of the text that is built in ---
+
+def told(tmp_path):
+    """The help's credits, what the package says, its licences, and what ./run says."""
+    help_text = (tmp_path / "out/KESTREL.HLP").read_text()
+    credits = help_text[help_text.index("<h2>The text of the Bible</h2>"):help_text.index("<h2>The maps</h2>")]
+    return [credits, *((tmp_path / "data" / name).read_text() for name in ("description.txt", "copyright", "shown.txt"))]
+
+
+def test_of_the_published_text_its_credits_are_told(make, checkout, tmp_path, text, corrected):
+    (checkout / "data/text/corrections.tsv").write_text(HEADER)
+    expect_sums(checkout, text, sha256(corrected))
+    assert make().returncode == 0
+    assert all("Bíblia Livre" in part for part in told(tmp_path))
+    assert (tmp_path / "out/KESTREL.HLP").read_bytes() == (checkout / "data/help/kestrel.html").read_bytes()
+
+
+def test_of_another_text_nothing_is_told_that_is_not_known(make, tmp_path, unknown):
+    assert make(KESTREL_TEXT=str(unknown)).returncode == 0
+    credits, description, licences, _ = told(tmp_path)
+    assert "with a text that its builder chose" in credits and "Bíblia Livre" not in credits
+    assert "with a text that its builder chose" in description
+    assert "with a text that its builder chose" in licences and "CC-BY-3.0-BR" not in licences
+
+
+def test_the_english_stand_in_makes_a_whole_database_and_says_what_it_is(make, tmp_path, stand_in):
+    answer = make(KESTREL_TEXT="")
     assert answer.returncode == 0, answer.stderr
     assert "ENGLISH STAND-IN" in answer.stderr
     with sqlite3.connect(f"file:{tmp_path}/out/KESTRPT.DAT?mode=ro", uri=True) as database:
         rows = database.execute("SELECT count(*), max(VerseNumber) FROM NewTestament").fetchone()
     assert rows == (31102, 31102)
+    assert all("King James Version" in part for part in told(tmp_path))
+    assert "Bíblia Livre" not in told(tmp_path)[0]
 
 
-def test_without_tools_it_says_what_to_do(tmp_path):
+def test_without_tools_it_says_what_to_do(tmp_path, checkout):
     text = tmp_path / "text.tsv"
     text.write_text("")
-    answer = run(SOURCE / "tools/make_data", tmp_path, tmp_path / "out", tmp_path / "data", KESTREL_TEXT=str(text))
+    answer = run(checkout / "tools/make_data", tmp_path, tmp_path / "out", tmp_path / "data", KESTREL_TEXT=str(text))
     assert answer.returncode == 1
     assert "Build the tools first" in answer.stderr
 

@@ -1,5 +1,6 @@
 """What the tests of the tools' scripts share besides fixtures."""
 
+import hashlib
 import importlib.machinery
 import importlib.util
 import json
@@ -20,11 +21,24 @@ def run(*command, **environment):
                           env={**clean, **environment})
 
 
-def publish(reference, folder):
-    """Writes the reference text in the form in which it is published, one file a book."""
+def sha256(path):
+    return hashlib.sha256(path.read_bytes()).hexdigest()
+
+
+def published_sum(checkout):
+    return (checkout / "data/text/sums.txt").read_text().split()[1]
+
+
+def expect_sums(checkout, published, corrected="unknown"):
+    """Makes a text, and a sum of what its corrections give, the published ones of a checkout."""
+    (checkout / "data/text/sums.txt").write_text(f"published {sha256(published)}\ncorrected {corrected}\n")
+
+
+def publish(text, folder):
+    """Writes a list of verses in the form in which the real text is published, one file a book."""
     osis = read_books()
     books = {}
-    for line in (reference / "scripture-pt.tsv").read_text(encoding="utf-8").splitlines():
+    for line in text.read_text(encoding="utf-8").splitlines():
         book, chapter, verse, text = line.split("\t")
         chapters = books.setdefault(osis[book], {})
         chapters.setdefault(int(chapter), []).append({"number": int(verse), "text": text})

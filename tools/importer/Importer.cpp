@@ -5,17 +5,15 @@
 #include "importer/InputError.h"
 #include "importer/Typography.h"
 
-ImportedText importText(const std::filesystem::path& list)
+ImportedText importText(const std::filesystem::path& list, const std::filesystem::path& corrections)
 {
     ImportedText text;
     text.verses = readVerseList(readFile(list), list.string());
 
-    const std::filesystem::path beside = list.parent_path() / "corrections.tsv";
-    if (std::filesystem::exists(beside)) {
-        const auto corrections = readCorrections(readFile(beside), beside.string());
-        applyCorrections(text.verses, corrections, beside.string());
-        text.hasCorrections = true;
-        text.corrections = corrections.size();
+    if (!corrections.empty()) {
+        const auto read = readCorrections(readFile(corrections), corrections.string());
+        applyCorrections(text.verses, read, corrections.string());
+        text.corrections = read.size();
     }
     mendTypography(text.verses);
     return text;

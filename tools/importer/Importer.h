@@ -10,12 +10,11 @@ struct ImportedText
 {
     std::vector<Verse> verses;
     std::size_t corrections = 0; ///< how many were applied
-    bool hasCorrections = false; ///< whether a list of corrections lay beside the text
 };
 
-/// Imports the list at a path, mended by the "corrections.tsv" that lies beside it, if any. Throws
+/// Imports the list at a path, mended by a list of corrections; an empty path stands for none. Throws
 /// InputError.
-ImportedText importText(const std::filesystem::path& list);
+ImportedText importText(const std::filesystem::path& list, const std::filesystem::path& corrections);
 
 /// Puts every verse through the typography rules. Throws InputError naming a verse of which nothing is left.
 void mendTypography(std::vector<Verse>& verses);
