@@ -9,6 +9,7 @@
 #include "app/StartupChecks.h"
 #include "desktop/MsgBox.h"
 #include "desktop/Platform.h"
+#include "pictures/TextCredit.h"
 #include "widgets/Maker.h"
 #include "widgets/SoftBttn.h"
 #include "widgets/Twips.h"
@@ -52,6 +53,7 @@ frmStart::frmStart(Program& program, QWidget* owner)
     setAccessibleName("Kestrel Reader (PT)");
     Image1->setObjectName("Image1");
     Image1->setAccessibleName("Kestrel Reader (PT)");
+    Image1->setAccessibleDescription(textCredit);
     Image1->setPixmap(splashPicture(devicePixelRatioF()));
     Image1->move(toPixels(margin), toPixels(margin));
     Image1->adjustSize();

@@ -4,6 +4,7 @@
 #include "help/HelpWindow.h"
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLocale>
 
 namespace {
 
@@ -46,7 +47,7 @@ void Help::open()
             MsgBox::show("Couldn't find file 'KESTREL.HLP'. Please run Setup.", MsgIcon::Exclamation);
             return;
         }
-        m_window = new HelpWindow(pages);
+        m_window = new HelpWindow(pages, helpLanguage(QLocale().uiLanguages()));
     }
     m_window->showPage(page);
     m_window->standBeside(QApplication::activeModalWidget());

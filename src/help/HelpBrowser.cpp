@@ -24,15 +24,21 @@ QUrl addressOf(const QString& pageName)
 
 } // namespace
 
-HelpBrowser::HelpBrowser(const QList<HelpPage>& pages, QWidget* parent)
+HelpBrowser::HelpBrowser(QWidget* parent)
     : QTextBrowser(parent)
-    , m_pages(pages)
 {
     document()->setDefaultStyleSheet(
         "a { color: " + linkColor(palette(), QPalette::Base, QPalette::Text).name() + "; }");
     document()->setDocumentMargin(toPixels(180));
     setOpenLinks(false);
     connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::follow);
+}
+
+void HelpBrowser::setPages(const QList<HelpPage>& pages)
+{
+    m_pages = pages;
+    if (!source().isEmpty())
+        reload();
 }
 
 void HelpBrowser::showPage(const QString& name)

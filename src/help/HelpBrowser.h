@@ -10,7 +10,11 @@ class HelpBrowser : public QTextBrowser
     Q_OBJECT
 
 public:
-    HelpBrowser(const QList<HelpPage>& pages, QWidget* parent);
+    explicit HelpBrowser(QWidget* parent);
+
+    /// Takes these pages in place of those before, which may be in another language: the page that is shown
+    /// is shown anew, and the way back is kept. Their names are unique.
+    void setPages(const QList<HelpPage>& pages);
 
     /// Shows a page by its name.
     void showPage(const QString& name);
@@ -27,5 +31,5 @@ protected:
 private:
     void follow(const QUrl& link);
 
-    const QList<HelpPage> m_pages;
+    QList<HelpPage> m_pages;
 };

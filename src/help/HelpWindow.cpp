@@ -22,9 +22,16 @@ namespace {
 constexpr int smallestZoom = -3;
 constexpr int largestZoom = 20;
 
+/// Gives a command its text, and the tip that tells the key besides.
+void setTextOf(QAction& command, const QString& text)
+{
+    command.setText(text);
+    command.setToolTip(text + " (" + command.shortcut().toString(QKeySequence::NativeText) + ")");
+}
+
 } // namespace
 
-HelpWindow::HelpWindow(const QList<HelpPage>& pages)
+HelpWindow::HelpWindow(const QList<HelpPage>& pages, HelpLanguage language)
     : back(addCommand("back", "Back", {Qt::ALT | Qt::Key_Left}))
     , forward(addCommand("forward", "Forward", {Qt::ALT | Qt::Key_Right}))
     , copy(addCommand("copy", "Copy", {Qt::CTRL | Qt::Key_C}))
@@ -34,10 +41,12 @@ HelpWindow::HelpWindow(const QList<HelpPage>& pages)
     , find(addCommand("find", "Find", {Qt::CTRL | Qt::Key_F}))
     , findNext(addCommand("findNext", "Next", {Qt::Key_F3}))
     , findPrevious(addCommand("findPrevious", "Previous", {Qt::SHIFT | Qt::Key_F3}))
+    , otherLanguage(addCommand("otherLanguage", "Português", {Qt::CTRL | Qt::Key_L}))
     , searchText(new QLineEdit(this))
     , contents(new QListWidget(this))
-    , browser(new HelpBrowser(pages, this))
-    , m_pages(pages)
+    , browser(new HelpBrowser(this))
+    , m_allPages(pages)
+    , m_language(language)
 {
     setObjectName("HelpWindow");
     setAttribute(Qt::WA_DeleteOnClose);
@@ -48,8 +57,6 @@ HelpWindow::HelpWindow(const QList<HelpPage>& pages)
     searchText->setAccessibleName("Find:");
     contents->setObjectName("contents");
     contents->setAccessibleName("Contents");
-    for (const HelpPage& page : pages)
-        contents->addItem(page.title);
     browser->setObjectName("browser");
     browser->setFont(Fonts::tahomaOf(10));
     makeToolbar();
@@ -77,11 +84,15 @@ HelpWindow::HelpWindow(const QList<HelpPage>& pages)
     connect(find, &QAction::triggered, searchText, [this] { searchText->setFocus(); });
     connect(findNext, &QAction::triggered, this, [this] { search(false); });
     connect(findPrevious, &QAction::triggered, this, [this] { search(true); });
+    connect(otherLanguage, &QAction::triggered, this, [this] { setLanguage(otherThan(m_language)); });
     connect(searchText, &QLineEdit::returnPressed, this, [this] { search(false); });
     connect(contents, &QListWidget::currentRowChanged, this, &HelpWindow::contentsChosen);
     connect(browser, &QTextBrowser::historyChanged, this, &HelpWindow::pageChanged);
     for (QAction* unavailable : {back, forward, copy})
         unavailable->setEnabled(false);
+    const bool asWanted = !pagesIn(pages, language).isEmpty();
+    otherLanguage->setVisible(asWanted && !pagesIn(pages, otherThan(language)).isEmpty());
+    setLanguage(asWanted ? language : otherThan(language));
     browser->setFocus();
 }
 
@@ -136,12 +147,27 @@ void HelpWindow::zoom(int step)
     m_zoom = wanted;
 }
 
+void HelpWindow::setLanguage(HelpLanguage language)
+{
+    m_language = language;
+    m_pages = pagesIn(m_allPages, language);
+    setTextOf(*otherLanguage, language == HelpLanguage::English ? "Português" : "English");
+    {
+        const QSignalBlocker samePage(contents); // in other words
+        contents->clear();
+        for (const HelpPage& page : m_pages)
+            contents->addItem(page.title);
+    }
+    browser->setPages(m_pages);
+    pageChanged();
+}
+
 QAction* HelpWindow::addCommand(const QString& name, const QString& text, const QList<QKeySequence>& keys)
 {
-    auto* action = new QAction(text, this);
+    auto* action = new QAction(this);
     action->setObjectName(name);
     action->setShortcuts(keys);
-    action->setToolTip(text + " (" + keys.first().toString(QKeySequence::NativeText) + ")");
+    setTextOf(*action, text);
     addAction(action);
     return action;
 }
@@ -160,6 +186,8 @@ void HelpWindow::makeToolbar()
     toolbar->addActions({findNext, findPrevious});
     toolbar->addSeparator();
     toolbar->addActions({copy, larger, smaller, normalSize});
+    toolbar->addSeparator();
+    toolbar->addAction(otherLanguage);
     for (auto* button : toolbar->findChildren<QToolButton*>())
         button->setFocusPolicy(Qt::TabFocus);
     setContextMenuPolicy(Qt::NoContextMenu); // the toolbar cannot be hidden

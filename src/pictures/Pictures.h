@@ -49,5 +49,6 @@ QIcon picture(PictureId id);
 /// All of them in the order above, for tests and contact sheets.
 const QList<PictureId>& allPictures();
 
-/// The picture of the start window, 480 x 300 device-independent pixels.
+/// The picture of the start window, 480 x 376 device-independent pixels, with the credit of the text at its
+/// foot.
 QPixmap splashPicture(qreal devicePixelRatio);

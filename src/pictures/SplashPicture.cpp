@@ -1,25 +1,27 @@
 #include "pictures/Emblem.h"
 #include "pictures/Pictures.h"
+#include "pictures/TextCredit.h"
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
 
 namespace {
 
-constexpr QSize splashSize(480, 300);
+constexpr QRect scene(0, 0, 480, 300);
+constexpr QRect foot(0, 300, 480, 76);
 
 void paintSky(QPainter& painter)
 {
-    QLinearGradient sky(0, 0, 0, splashSize.height());
+    QLinearGradient sky(0, 0, 0, scene.height());
     sky.setColorAt(0, QColor(0xa9cbe2));
     sky.setColorAt(0.55, QColor(0xe3eef3));
     sky.setColorAt(0.85, QColor(0xf8f1e2));
-    painter.fillRect(QRect(QPoint(), splashSize), sky);
+    painter.fillRect(scene, sky);
 
     QRadialGradient dawn(QPointF(240, 236), 230);
     dawn.setColorAt(0, QColor(255, 246, 222, 230));
     dawn.setColorAt(1, QColor(255, 246, 222, 0));
-    painter.fillRect(QRect(QPoint(), splashSize), dawn);
+    painter.fillRect(scene, dawn);
 }
 
 void paintHill(QPainter& painter, double left, double middle, double right, const QColor& color)
@@ -59,11 +61,28 @@ void paintTitle(QPainter& painter)
     paintText(painter, subtitle, {35, 112}, 300, "Portuguese Version");
 }
 
+// In smaller letters where a system's font would need more lines than there is room for.
+void paintCredit(QPainter& painter)
+{
+    painter.fillRect(foot, QColor(0xf8f1e2));
+    const QRect room = foot.adjusted(14, 4, -14, -4);
+    QFont font;
+    font.setFamilies({"Tahoma", "Liberation Sans", "DejaVu Sans"});
+    for (int pixels = 11; pixels > 5; --pixels) {
+        font.setPixelSize(pixels);
+        if (room.contains(QFontMetrics(font).boundingRect(room, Qt::TextWordWrap, textCredit)))
+            break;
+    }
+    painter.setFont(font);
+    painter.setPen(QColor(0x26323e));
+    painter.drawText(room, Qt::AlignVCenter | Qt::TextWordWrap, textCredit);
+}
+
 } // namespace
 
 QPixmap splashPicture(qreal devicePixelRatio)
 {
-    QPixmap pixmap(splashSize * devicePixelRatio);
+    QPixmap pixmap((scene | foot).size() * devicePixelRatio);
     pixmap.setDevicePixelRatio(devicePixelRatio);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -86,5 +105,6 @@ QPixmap splashPicture(qreal devicePixelRatio)
     painter.restore();
 
     paintTitle(painter);
+    paintCredit(painter);
     return pixmap;
 }

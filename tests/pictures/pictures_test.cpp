@@ -90,7 +90,7 @@ TEST(Pictures, TheSplashHasItsSizeAtEveryDensity)
 {
     for (const qreal ratio : {1.0, 1.5, 2.0}) {
         const QPixmap splash = splashPicture(ratio);
-        EXPECT_EQ(splash.deviceIndependentSize(), QSizeF(480, 300));
+        EXPECT_EQ(splash.deviceIndependentSize(), QSizeF(480, 376));
         EXPECT_EQ(splash.devicePixelRatio(), ratio);
     }
 }
