@@ -11,7 +11,9 @@
 
 namespace {
 
-constexpr QSizeF extentOfNone(735, 735);
+constexpr QSizeF extentBeforeAny(735, 735);
+// High enough that the window, which fits itself around the picture, shows both its buttons whole.
+constexpr QSizeF extentOfEmpty(735, 990);
 constexpr int dragPreviewSize = 160;
 
 // What goes beyond these is damage, and would fill the memory.
@@ -48,7 +50,7 @@ bool declaresMoreThanItHas(const QByteArray& bytes)
 MapPicture::MapPicture(QWidget* parent)
     : QLabel(parent)
 {
-    takeNaturalSize();
+    setExtent(extentBeforeAny);
 }
 
 void MapPicture::setImage(const QImage& image)
@@ -76,7 +78,7 @@ void MapPicture::setExtent(QSizeF extent)
 
 void MapPicture::takeNaturalSize()
 {
-    setExtent(m_image.isNull() ? extentOfNone : naturalExtent(m_image));
+    setExtent(m_image.isNull() ? extentOfEmpty : naturalExtent(m_image));
 }
 
 // Always from the full image, so that nothing gets lost on the way and a dense screen shows all of it.

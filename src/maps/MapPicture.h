@@ -15,7 +15,7 @@ class MapPicture : public QLabel
 public:
     explicit MapPicture(QWidget* parent);
 
-    /// A null image is an empty picture, as large as the one before any image came.
+    /// A null image is an empty picture.
     void setImage(const QImage& image);
     const QImage& image() const { return m_image; }
 

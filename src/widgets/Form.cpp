@@ -1,6 +1,7 @@
 #include "widgets/Form.h"
 
 #include "widgets/Menus.h"
+#include "widgets/SpokenWindow.h"
 #include "widgets/Twips.h"
 #include <QAccessible>
 #include <QApplication>
@@ -49,10 +50,12 @@ Form::~Form() = default;
 
 void Form::loadInto(QMdiArea& area)
 {
+    speakOfWindows();
     QMdiSubWindow* window = area.addSubWindow(this);
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setObjectName(objectName() + "Window");
     giveKeys(*window);
+    window->installEventFilter(this);
     connect(window, &QMdiSubWindow::windowStateChanged, this, &Form::windowStateChanged);
     m_loaded = true;
     Form_Load();
@@ -182,8 +185,14 @@ void Form::makeMenus(const QList<QMenu*>& own, bool plainToolsItem)
 
 void Form::setOuterSize(int widthTwips, int heightTwips)
 {
-    if (subWindow() && state() == Normal)
-        subWindow()->resize(toPixels(widthTwips), toPixels(heightTwips));
+    if (!subWindow() || state() != Normal)
+        return;
+    // A drag of the left or top border moves that border alone, so the other one tells that the window must go
+    // back, too.
+    const QRect now = subWindow()->geometry();
+    const int left = now.right() == m_pressedAt.right() ? m_pressedAt.left() : now.left();
+    const int top = now.bottom() == m_pressedAt.bottom() ? m_pressedAt.top() : now.top();
+    subWindow()->setGeometry(left, top, toPixels(widthTwips), toPixels(heightTwips));
 }
 
 void Form::setOuterPosition(int leftTwips, int topTwips)
@@ -205,6 +214,8 @@ QSize Form::frameInnerSize() const
 
 bool Form::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == subWindow() && event->type() == QEvent::MouseButtonPress)
+        m_pressedAt = subWindow()->geometry();
     // Only the widget with the focus: a key that it leaves alone travels up through its parents and passes
     // here again.
     if (event->type() == QEvent::KeyPress && watched == QApplication::focusWidget()) {

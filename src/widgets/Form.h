@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QPointer>
+#include <QRect>
 #include <QWidget>
 
 class QKeyEvent;
@@ -94,6 +95,7 @@ private:
     Shell& m_shell;
     QList<QMenu*> m_menus;
     QPointer<QWidget> m_lastFocus;
+    QRect m_pressedAt; ///< the whole window when a mouse button last went down on its border
     bool m_loaded = false;
     bool m_active = false;
     bool m_maximized = false;

@@ -1,6 +1,7 @@
 """The desktop and the program for the end-to-end tests. All run on one virtual desktop, one after another."""
 import os
 import pathlib
+import subprocess
 
 import pytest
 from desktop import Desktop
@@ -69,3 +70,16 @@ def sitting(desktop, installed):
     desktop.wait_for_focus("Kestrel Reader: Portuguese Version")
     yield program
     assert program.end() == ""
+
+
+@pytest.fixture
+def drop_target(desktop):
+    """Another program's window, partly beside the frame on the right."""
+    program = os.environ.get("KESTREL_DROP_TARGET", TOP / "build" / "release" / "tests" / "drop_target")
+    process = subprocess.Popen([program], env=desktop.environment, stdout=subprocess.PIPE, text=True)
+    desktop.wait_for_window("^Drop target$")
+    window = desktop.run("xdotool", "search", "--onlyvisible", "--name", "^Drop target$").split()[0]
+    desktop.run("xdotool", "windowmove", "--sync", window, "940", "480")
+    yield process
+    process.terminate()
+    process.wait()

@@ -98,6 +98,14 @@ class Desktop:
     def click(self, x, y, button=1):
         self.run("xdotool", "mousemove", str(int(x)), str(int(y)), "click", str(button))
 
+    def drag(self, start, end):
+        """With the left button, in steps as a hand does it."""
+        self.run("xdotool", "mousemove", *map(str, start), "mousedown", "1")
+        for part in range(1, 21):
+            self.run("xdotool", "mousemove", *(str(a + (b - a) * part // 20) for a, b in zip(start, end)))
+            time.sleep(0.05)
+        self.run("xdotool", "mouseup", "1")
+
     def clipboard(self):
         """What is on the clipboard, to the byte."""
         result = subprocess.run(["xclip", "-selection", "clipboard", "-o"], env=self.environment, capture_output=True,

@@ -1,15 +1,9 @@
 """A whole chapter: opened, read by a screen reader, copied, and dragged into another program."""
 import json
-import os
-import pathlib
 import select
-import subprocess
-import time
 
 import pytest
 from phrases import PSALM_117
-
-TOP = pathlib.Path(__file__).resolve().parents[2]
 
 
 @pytest.fixture
@@ -19,30 +13,9 @@ def chapter_text(reader):
     return reader.find("text", "Chapter text", reader.open_chapter("Ps:117:"))
 
 
-@pytest.fixture
-def drop_target(desktop):
-    """Another program's window, partly beside the frame on the right."""
-    program = os.environ.get("KESTREL_DROP_TARGET", TOP / "build" / "release" / "tests" / "drop_target")
-    process = subprocess.Popen([program], env=desktop.environment, stdout=subprocess.PIPE, text=True)
-    desktop.wait_for_window("^Drop target$")
-    window = desktop.run("xdotool", "search", "--onlyvisible", "--name", "^Drop target$").split()[0]
-    desktop.run("xdotool", "windowmove", "--sync", window, "940", "480")
-    yield process
-    process.terminate()
-    process.wait()
-
-
 def selected(box):
     start, end = box.queryText().getSelection(0)
     return box.queryText().getText(start, end)
-
-
-def drag(desktop, start, end):
-    desktop.run("xdotool", "mousemove", *map(str, start), "mousedown", "1")
-    for part in range(1, 21):
-        desktop.run("xdotool", "mousemove", *(str(a + (b - a) * part // 20) for a, b in zip(start, end)))
-        time.sleep(0.05)
-    desktop.run("xdotool", "mouseup", "1")
 
 
 def test_a_screen_reader_reads_the_chapter_and_its_highlight(reader, chapter_text):
@@ -68,7 +41,7 @@ def test_selected_text_is_dropped_in_another_program_to_the_letter(reader, deskt
 
     import pyatspi
     x, y, width, height = chapter_text.queryText().getCharacterExtents(3, pyatspi.DESKTOP_COORDS)
-    drag(desktop, (x + width // 2, y + height // 2), (1200, 620))
+    desktop.drag((x + width // 2, y + height // 2), (1200, 620))
     assert select.select([drop_target.stdout], [], [], 20)[0], "nothing was dropped"
     dropped = json.loads(drop_target.stdout.readline())
 

@@ -66,11 +66,11 @@ TEST_F(MapPictureTest, CountsPixelsWhereTheResolutionIsAbsurd)
     EXPECT_EQ(picture.size(), QSize(30, 20));
 }
 
-TEST_F(MapPictureTest, EmptyPictureHasTheDesignedSizeAgain)
+TEST_F(MapPictureTest, EmptyPictureIsAsHighAsTheButtonsBesideItNeed)
 {
     picture.setImage(imageOf(400, 300, 192));
     picture.setImage({});
-    EXPECT_EQ(picture.extent(), QSizeF(735, 735));
+    EXPECT_EQ(picture.extent(), QSizeF(735, 990));
     EXPECT_TRUE(picture.pixmap().isNull());
 }
 

@@ -1,5 +1,6 @@
 #include "maps/MapsTest.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QLabel>
 #include <QScrollBar>
@@ -167,6 +168,27 @@ TEST_F(ChildMapDspTest, DraggedBorderIsUndoneAtOnce)
     expectFitted(map, {200, 150});
 }
 
+TEST_F(ChildMapDspTest, DragOfAnyBorderIsUndoneInPlace)
+{
+    QMdiSubWindow& window = outer(openMap(denseMap));
+    window.move(120, 90);
+    const QRect place = window.geometry();
+    const QPoint middle = window.rect().center();
+    const QPoint end = window.rect().bottomRight();
+    const QPoint grips[] = {
+        {1, middle.y()}, {middle.x(), 1},  {end.x() - 1, middle.y()}, {middle.x(), end.y() - 1},
+        {1, 1},          {end.x() - 1, 1}, {1, end.y() - 1},          end - QPoint(1, 1)};
+    for (const QPoint& grip : grips)
+        for (const QPoint& way : {QPoint(-30, -20), QPoint(25, 15)}) {
+            drag(&window, grip, grip + way);
+            EXPECT_EQ(window.geometry(), place) << grip.x() << " " << grip.y() << " by " << way.x();
+        }
+    drag(&window, {middle.x(), 12}, {middle.x() + 40, 42}); // its title bar
+    EXPECT_EQ(window.geometry(), place.translated(40, 30));
+    drag(&window, {1, middle.y()}, {-40, middle.y()});
+    EXPECT_EQ(window.geometry(), place.translated(40, 30));
+}
+
 TEST_F(ChildMapDspTest, MenusHaveCopyAndZoom)
 {
     ChildMapDsp& map = openMap(denseMap);
@@ -177,6 +199,7 @@ TEST_F(ChildMapDspTest, MenusHaveCopyAndZoom)
     EXPECT_EQ(copy->shortcut(), QKeySequence("Ctrl+C"));
     auto* zoom = map.findChild<QAction*>("mnuZoom");
     EXPECT_EQ(zoom->text(), "&Zoom In/Restore Normal Size");
+    EXPECT_TRUE(zoom->shortcuts().isEmpty());
     zoom->trigger();
     expectFitted(map, {240, 180});
 }
@@ -237,10 +260,26 @@ TEST_F(ChildMapDspTest, PictureThatCannotBeReadIsEmpty)
     for (int number : {damagedMap, endlessMap, emptyMap, cutMap}) {
         ChildMapDsp& map = openMap(number);
         EXPECT_TRUE(map.Image1->image().isNull()) << number;
-        EXPECT_EQ(map.Image1->size(), QSize(49, 49)) << number;
+        EXPECT_EQ(map.Image1->size(), QSize(49, 66)) << number;
         EXPECT_NE(map.caption(), "Map -- ") << number;
     }
     EXPECT_TRUE(boxes.shown.isEmpty());
+}
+
+TEST_F(ChildMapDspTest, EmptyPictureLeavesItsButtonsWhole)
+{
+    ChildMapDsp& map = openMap(emptyMap);
+    expectFitted(map, {49, 66});
+    for (QWidget* button : std::initializer_list<QWidget*>{map.cmdZoom, map.cmdPicCopy})
+        EXPECT_EQ(button->visibleRegion(), QRegion(button->rect())) << button->objectName().toStdString();
+    for (const QScrollBar* bar : map.findChildren<QScrollBar*>())
+        EXPECT_EQ(bar->maximum(), 0);
+    QApplication::clipboard()->setText("before");
+    const QPoint foot = map.cmdPicCopy->mapTo(&map, map.cmdPicCopy->rect().bottomLeft() + QPoint(3, -3));
+    QWidget* there = map.childAt(foot);
+    ASSERT_EQ(there, map.cmdPicCopy);
+    QTest::mouseClick(there, Qt::LeftButton, {}, there->mapFrom(&map, foot));
+    EXPECT_EQ(QApplication::clipboard()->text(), "");
 }
 
 TEST_F(ChildMapDspTest, AbsurdResolutionIsNotFollowed)
@@ -257,6 +296,25 @@ TEST_F(ChildMapDspTest, DragBringsPictureAndDescriptionBack)
     Q_EMIT map.Image1->dragCompleted();
     EXPECT_EQ(map.Image1->image().size(), QSize(400, 300));
     EXPECT_EQ(map.lblMapDesc->text(), "The Journeys of Abraham");
+}
+
+TEST_F(ChildMapDspTest, MapLargerThanTheFrameIsOnTheScreenForAScreenReader)
+{
+    ChildMapDsp& map = openMap(largeMap);
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&outer(map));
+    ASSERT_NE(spoken, nullptr);
+    EXPECT_FALSE(frame().area()->viewport()->rect().contains(outer(map).geometry()));
+    EXPECT_FALSE(spoken->state().offscreen);
+    EXPECT_FALSE(spoken->state().invisible);
+    EXPECT_EQ(spoken->role(), QAccessible::Window);
+    EXPECT_EQ(spoken->text(QAccessible::Name), map.caption());
+    ASSERT_EQ(spoken->childCount(), 1);
+    EXPECT_EQ(spoken->child(0)->object(), &map);
+    EXPECT_EQ(spoken->indexOfChild(spoken->child(0)), 0);
+    EXPECT_TRUE(spoken->state().focused);
+    EXPECT_TRUE(spoken->state().movable);
+    outer(map).move(5000, 0);
+    EXPECT_TRUE(spoken->state().offscreen) << "none of it shows";
 }
 
 TEST_F(ChildMapDspTest, MapLargerThanTheFrameCanBeScrolledByKeys)
@@ -321,7 +379,7 @@ TEST_F(ChildMapDspTest, TheListOfMapsKeepsTheFocusWhileMapsAreMaximised)
     choosePage(aids, 1);
     aids.lstMaps->setFocus();
     for (int row = 0; row < 3; ++row) {
-        aids.lstMaps->setCurrentRow(row);
+        aids.lstMaps->setCurrentIndex(aids.lstMaps->model()->index(row, 0));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         auto& map = get<ChildMapDsp>();
         ASSERT_EQ(activeForm(), &map);
