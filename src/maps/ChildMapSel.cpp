@@ -4,12 +4,13 @@
 #include "desktop/Platform.h"
 #include "maps/CaptionFrame.h"
 #include "maps/ChildMapDsp.h"
-#include "maps/ChoiceList.h"
 #include "maps/MapPicture.h"
 #include "maps/TabStrip.h"
 #include "maps/TopicText.h"
 #include "pictures/Pictures.h"
 #include "read/ChildRead.h"
+#include "widgets/ListBox.h"
+#include "widgets/ListLines.h"
 #include "widgets/Maker.h"
 #include "widgets/ProgramFlags.h"
 #include "widgets/Shell.h"
@@ -56,6 +57,14 @@ const QStringList mapNames = {
     "Paul's Journey to Rome",
 };
 
+ListLines linesOf(const QStringList& texts)
+{
+    ListLines lines;
+    for (const QString& text : texts)
+        lines.add(text.toStdString());
+    return lines;
+}
+
 CaptionFrame* makeFrame(QWidget* parent, const QString& name, const QString& caption, int top, int height)
 {
     auto* frame = new CaptionFrame(caption, parent);
@@ -84,12 +93,12 @@ ChildMapSel::ChildMapSel(Shell& shell)
     Data1.setRecordSource("ClassifiedVerses");
     connect(TabStrip1, &QTabBar::currentChanged, this, &ChildMapSel::TabStrip1_Click);
     connect(Combo2, &QComboBox::activated, this, &ChildMapSel::Combo2_Click);
-    connect(List1, &ChoiceList::keyDown, this, &ChildMapSel::List1_KeyDown);
-    connect(List1, &ChoiceList::entryClicked, this, &ChildMapSel::List1_Click);
-    connect(List1, &ChoiceList::choosingKeyPressed, this, &ChildMapSel::List1_KeyPress);
-    connect(lstMaps, &ChoiceList::keyDown, this, &ChildMapSel::lstMaps_KeyDown);
-    connect(lstMaps, &ChoiceList::entryClicked, this, &ChildMapSel::lstMaps_Click);
-    connect(lstMaps, &ChoiceList::choosingKeyPressed, this, &ChildMapSel::lstMaps_KeyPress);
+    connect(List1, &ListBox::keyDown, this, &ChildMapSel::List1_KeyDown);
+    connect(List1, &ListBox::lineClicked, this, &ChildMapSel::List1_Click);
+    connect(List1, &ListBox::choosingKeyPressed, this, &ChildMapSel::List1_KeyPress);
+    connect(lstMaps, &ListBox::keyDown, this, &ChildMapSel::lstMaps_KeyDown);
+    connect(lstMaps, &ListBox::lineClicked, this, &ChildMapSel::lstMaps_Click);
+    connect(lstMaps, &ListBox::choosingKeyPressed, this, &ChildMapSel::lstMaps_KeyPress);
     connect(Image1, &QAbstractButton::clicked, this, &ChildMapSel::Image1_Click);
     connect(cmdBibWeb, &QPushButton::clicked, this, &ChildMapSel::cmdBibWeb_Click);
 }
@@ -115,7 +124,8 @@ void ChildMapSel::makeVersesPage()
     Combo2 = new QComboBox(Frame2);
     Combo2->setObjectName("Combo2");
     Combo2->setAccessibleName("Topic");
-    List1 = new ChoiceList("List1", Frame2);
+    List1 = new ListBox(Frame2);
+    List1->setObjectName("List1");
     List1->setAccessibleName("Verse references");
     auto* contents = new QVBoxLayout(Frame2);
     contents->addWidget(Combo2);
@@ -125,7 +135,8 @@ void ChildMapSel::makeVersesPage()
 void ChildMapSel::makeMapsPage()
 {
     Frame3 = makeFrame(this, "Frame3", "Select a M&ap", pageTop, stripSize.height() - pageMargin - pageTop);
-    lstMaps = new ChoiceList("lstMaps", Frame3);
+    lstMaps = new ListBox(Frame3);
+    lstMaps->setObjectName("lstMaps");
     lstMaps->setAccessibleName("Maps");
     (new QVBoxLayout(Frame3))->addWidget(lstMaps);
 }
@@ -161,7 +172,7 @@ void ChildMapSel::makeDownloadPage()
 void ChildMapSel::Form_Load()
 {
     Data1.setDatabaseName(databasePath(shell().basePath()));
-    lstMaps->addItems(mapNames);
+    lstMaps->setLines(linesOf(mapNames));
     optEvents[0]->setChecked(true);
     fillTopics("Events");
     TabStrip1_Click();
@@ -207,13 +218,14 @@ void ChildMapSel::List1_Click()
 {
     if (SkipNextClick == 1)
         SkipNextClick = 0;
-    else if (const QListWidgetItem* entry = List1->currentItem())
-        openReference(referenceOf(entry->text()));
+    else if (List1->selected() >= 0)
+        openReference(referenceOf(List1->text(List1->selected())));
 }
 
 void ChildMapSel::List1_KeyPress()
 {
     SkipNextClick = 0;
+    List1->selectCurrentLine();
     List1_Click();
 }
 
@@ -226,13 +238,14 @@ void ChildMapSel::lstMaps_Click()
 {
     if (SkipNextClick == 1)
         SkipNextClick = 0;
-    else if (lstMaps->currentRow() >= 0)
-        openMap(lstMaps->currentRow() + 1);
+    else if (lstMaps->selected() >= 0)
+        openMap(lstMaps->selected() + 1);
 }
 
 void ChildMapSel::lstMaps_KeyPress()
 {
     SkipNextClick = 0;
+    lstMaps->selectCurrentLine();
     lstMaps_Click();
 }
 
@@ -266,8 +279,7 @@ void ChildMapSel::fillTopics(const QString& type)
 void ChildMapSel::fillReferences()
 {
     select("Name = '" + topicOf(Combo2->currentText()) + "'");
-    List1->clear();
-    List1->addItems(referenceEntries(toText(Data1.field(2))));
+    List1->setLines(linesOf(referenceEntries(toText(Data1.field(2)))));
 }
 
 void ChildMapSel::openReference(const QString& reference)

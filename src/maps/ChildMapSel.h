@@ -4,8 +4,8 @@
 #include "widgets/Form.h"
 #include <array>
 
-class ChoiceList;
 class CaptionFrame;
+class ListBox;
 class QAbstractButton;
 class QComboBox;
 class QLabel;
@@ -28,9 +28,9 @@ public:
     std::array<QRadioButton*, 4> optEvents;
     CaptionFrame* Frame2;
     QComboBox* Combo2;
-    ChoiceList* List1;
+    ListBox* List1;
     CaptionFrame* Frame3;
-    ChoiceList* lstMaps;
+    ListBox* lstMaps;
     CaptionFrame* Frame4;
     QLabel* Label1;
     QAbstractButton* Image1;

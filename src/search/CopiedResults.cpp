@@ -1,9 +1,9 @@
 #include "search/CopiedResults.h"
 
-#include "search/ResultLines.h"
+#include "widgets/ListLines.h"
 #include "widgets/Text.h"
 
-CopiedResults copiedResults(const ResultLines& lines)
+CopiedResults copiedResults(const ListLines& lines)
 {
     constexpr qsizetype limit = 30500;
     const QString lineBreak = "\r\n";

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-class ResultLines;
+class ListLines;
 
 /// The text of a results list for the clipboard, and how much of the list it holds.
 struct CopiedResults
@@ -14,4 +14,4 @@ struct CopiedResults
 
 /// A heading, the lines, and "(PT)". Ends after the line that brings heading and lines over 30,500
 /// characters, line breaks counted.
-CopiedResults copiedResults(const ResultLines& lines);
+CopiedResults copiedResults(const ListLines& lines);

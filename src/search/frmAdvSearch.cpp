@@ -8,13 +8,13 @@
 #include "read/ChildRead.h"
 #include "search/AccessKeys.h"
 #include "search/CopiedResults.h"
-#include "search/ResultLines.h"
-#include "search/ResultsList.h"
 #include "search/SearchRanges.h"
 #include "store/DataError.h"
 #include "widgets/EnterKey.h"
 #include "widgets/Fonts.h"
 #include "widgets/Hourglass.h"
+#include "widgets/ListBox.h"
+#include "widgets/ListLines.h"
 #include "widgets/Menus.h"
 #include "widgets/Shell.h"
 #include "widgets/SoftBttn.h"
@@ -35,14 +35,6 @@ constexpr int listWidth = 8355;
 constexpr int listHeight = 2130;
 
 const QString resultsTitle = "Search Results:";
-
-/// Looks the same when it is disabled.
-void keepColor(QLabel& label)
-{
-    QPalette palette = label.palette();
-    palette.setColor(QPalette::Disabled, QPalette::WindowText, palette.color(QPalette::WindowText));
-    label.setPalette(palette);
-}
 
 /// Paper while it takes input, grey while it does not.
 void setBackgrounds(QWidget& control)
@@ -76,7 +68,7 @@ frmAdvSearch::frmAdvSearch(Shell& shell, SearchMemory& memory)
     , cmdHideList(new SoftBttn("cmdHideList", PictureId::NewSearch, "New Search", this))
     , cmdCopySR(new SoftBttn("cmdCopySR", PictureId::CopyResults, "Copy Search Results to Clipboard", this))
     , Label2(new QLabel("Search &results:", this))
-    , List1(new ResultsList(this))
+    , List1(new ListBox(this))
     , m_memory(memory)
 {
     setCaption("Advanced Search");
@@ -94,8 +86,6 @@ frmAdvSearch::frmAdvSearch(Shell& shell, SearchMemory& memory)
 void frmAdvSearch::placeControls()
 {
     Line1->setFrameStyle(QFrame::HLine | QFrame::Sunken);
-    Label1->setBuddy(Text1);
-    keepColor(*Label1);
     for (QWidget* input : std::initializer_list<QWidget*>{Text1, Text2, Combo1, Combo2})
         setBackgrounds(*input);
     Label3->setBuddy(Combo2);
@@ -108,7 +98,7 @@ void frmAdvSearch::placeControls()
         const char* spokenName; ///< where the control has none of its own
         QRect twips;
     } designs[] = {
-        {Label1, "Label1", "", {120, 75, 7800, 240}},
+        {Label1, "Label1", "Search for verses containing the following text:", {120, 75, 7800, 240}},
         {Text1, "Text1", "Search for verses containing the following text:", {120, 330, 7800, 360}},
         {Combo1, "Combo1", "Connective", {120, 765, 2250, 360}},
         {Text2, "Text2", "Second word or phrase", {2430, 765, 5490, 360}},
@@ -147,10 +137,10 @@ void frmAdvSearch::connectControls()
     connect(cmdHelp, &SoftBttn::clicked, this, &frmAdvSearch::cmdHelp_Click);
     connect(cmdHideList, &SoftBttn::clicked, this, &frmAdvSearch::cmdHideList_Click);
     connect(cmdCopySR, &SoftBttn::clicked, this, &frmAdvSearch::cmdCopySR_Click);
-    connect(List1, &ResultsList::keyDown, this, &frmAdvSearch::List1_KeyDown);
-    connect(List1, &ResultsList::choosingKeyPressed, this, &frmAdvSearch::List1_KeyPress);
-    connect(List1, &ResultsList::lineClicked, this, &frmAdvSearch::List1_Click);
-    connect(List1, &ResultsList::pointerMoved, this, &frmAdvSearch::List1_MouseMove);
+    connect(List1, &ListBox::keyDown, this, &frmAdvSearch::List1_KeyDown);
+    connect(List1, &ListBox::choosingKeyPressed, this, &frmAdvSearch::List1_KeyPress);
+    connect(List1, &ListBox::lineClicked, this, &frmAdvSearch::List1_Click);
+    connect(List1, &ListBox::pointerMoved, this, &frmAdvSearch::List1_MouseMove);
 }
 
 void frmAdvSearch::Form_Load()
@@ -286,7 +276,7 @@ void frmAdvSearch::remember(const SearchInputs& inputs)
 void frmAdvSearch::fillList()
 {
     constexpr int linesPerTick = 256;
-    ResultLines lines;
+    ListLines lines;
     for (; !Data1.eof(); Data1.moveNext()) {
         lines.add(Data1.field(0), Data1.field(2));
         if (lines.count() % linesPerTick == 0)
@@ -354,7 +344,8 @@ void frmAdvSearch::enableInputs(bool enable)
 {
     for (QWidget* input : std::initializer_list<QWidget*>{Text1, Text2, Combo1, Combo2, chkWholeWrd})
         input->setEnabled(enable);
-    Label1->setEnabled(enable); // so that its Alt key is the Edit menu's while the inputs rest
+    Label1->setBuddy(enable ? Text1
+                            : nullptr); // while the text rests, their Alt key is the Edit menu's alone
 }
 
 void frmAdvSearch::enableResults(bool enable)
@@ -368,19 +359,20 @@ void frmAdvSearch::enableResults(bool enable)
 
 void frmAdvSearch::List1_KeyDown()
 {
-    ListKeyFlag = 1; // for every key, also one that selects nothing: the next click then only clears the flag
+    m_memory.ListKeyFlag =
+        1; // for every key, also one that selects nothing: the next click then only clears the flag
 }
 
 void frmAdvSearch::List1_KeyPress()
 {
-    ListKeyFlag = 0;
+    m_memory.ListKeyFlag = 0;
     List1_Click();
 }
 
 void frmAdvSearch::List1_Click()
 {
-    if (ListKeyFlag == 1) {
-        ListKeyFlag = 0;
+    if (m_memory.ListKeyFlag == 1) {
+        m_memory.ListKeyFlag = 0;
         return;
     }
     if (List1->selected() < 0)

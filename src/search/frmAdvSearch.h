@@ -11,7 +11,7 @@ class QComboBox;
 class QFrame;
 class QLabel;
 class QLineEdit;
-class ResultsList;
+class ListBox;
 class SoftBttn;
 
 /// The search window: verses with one or two words, in a part of the Bible. A search that finds some turns it
@@ -39,7 +39,7 @@ public:
     SoftBttn* cmdHideList;
     SoftBttn* cmdCopySR;
     QLabel* Label2;
-    ResultsList* List1;
+    ListBox* List1;
     QAction* mnuCopySR;
     DataSource Data1;
 
@@ -79,6 +79,4 @@ private:
     void enableResults(bool enable);
 
     SearchMemory& m_memory;
-    /// 1 after a key went down in the list: its next click was made by that key.
-    std::int16_t ListKeyFlag = 0;
 };

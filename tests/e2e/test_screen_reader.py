@@ -66,7 +66,7 @@ frame: Advanced Search
   push button: Help"""
 RESULTS = """\
 frame: Advanced Search
-  label: Search for verses containing the following text: (disabled)
+  label: Search for verses containing the following text:
   text: Search for verses containing the following text: (disabled)
   combo box: And containing (disabled)
   text: Second word or phrase (disabled)

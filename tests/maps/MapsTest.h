@@ -2,11 +2,12 @@
 
 #include "maps/ChildMapDsp.h"
 #include "maps/ChildMapSel.h"
-#include "maps/ChoiceList.h"
 #include "maps/MapPicture.h"
 #include "maps/TabStrip.h"
 #include "maps/TestDatabase.h"
 #include "support/Session.h"
+#include "widgets/ListBox.h"
+#include "widgets/ListLines.h"
 #include "widgets/SoftBttn.h"
 #include <QTemporaryDir>
 
@@ -42,11 +43,23 @@ protected:
         QTest::mouseClick(aids.TabStrip1, Qt::LeftButton, {}, aids.TabStrip1->tabRect(page).center());
     }
 
-    static void clickEntry(ChoiceList* list, int row)
+    static QPoint centerOf(const ListBox& list, int row)
     {
-        list->scrollToItem(list->item(row));
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                          list->visualItemRect(list->item(row)).center());
+        return list.visualRect(list.model()->index(row, 0)).center();
+    }
+
+    static void clickEntry(ListBox* list, int row)
+    {
+        list->scrollTo(list->model()->index(row, 0));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, centerOf(*list, row));
+    }
+
+    static void setEntries(ListBox* list, const QStringList& entries)
+    {
+        ListLines lines;
+        for (const QString& entry : entries)
+            lines.add(entry.toStdString());
+        list->setLines(std::move(lines));
     }
 
     ChildMapDsp& openMap(int number)

@@ -47,7 +47,7 @@ TEST_F(ShippedDatabaseTest, EveryReferenceOfEveryTopicShowsItsVerse)
             ASSERT_GT(aids.List1->count(), 0) << aids.Combo2->currentText().toStdString();
             for (int row = 0; row < aids.List1->count(); ++row) {
                 clickEntry(aids.List1, row);
-                ASSERT_EQ(get<ChildRead>().currentKey(), referenceOf(aids.List1->item(row)->text()));
+                ASSERT_EQ(get<ChildRead>().currentKey(), referenceOf(aids.List1->text(row)));
                 ++opened;
             }
         }

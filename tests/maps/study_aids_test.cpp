@@ -30,11 +30,11 @@ protected:
         return texts;
     }
 
-    static QStringList textsOf(const QListWidget& list)
+    static QStringList textsOf(const ListBox& list)
     {
         QStringList texts;
         for (int i = 0; i < list.count(); ++i)
-            texts += list.item(i)->text();
+            texts += list.text(i);
         return texts;
     }
 
@@ -160,6 +160,15 @@ TEST_F(ChildMapSelTest, GroupIsChosenByAccessKeyAndArrowToo)
     EXPECT_TRUE(QTest::qWaitFor([this] { return aids->Combo2->count() == topicsOf("parables").size(); }));
 }
 
+TEST_F(ChildMapSelTest, GroupThatIsChosenAlreadyBeginsWithItsFirstTopicAgain)
+{
+    QTest::keyClick(aids->Combo2, Qt::Key_End);
+    ASSERT_GT(aids->Combo2->currentIndex(), 0);
+    QTest::mouseClick(aids->optEvents[0], Qt::LeftButton, {}, {8, 8});
+    EXPECT_EQ(aids->Combo2->currentIndex(), 0);
+    EXPECT_EQ(textsOf(*aids->List1), entriesOf(topicsOf("events").first()));
+}
+
 TEST_F(ChildMapSelTest, TopicFillsItsReferences)
 {
     QTest::keyClick(aids->Combo2, Qt::Key_Down);
@@ -169,7 +178,7 @@ TEST_F(ChildMapSelTest, TopicFillsItsReferences)
 
 TEST_F(ChildMapSelTest, ClickOpensTheVerseBeforeTheHyphen)
 {
-    aids->List1->item(0)->setText(" Mt:5:3-12 ");
+    setEntries(aids->List1, {" Mt:5:3-12 "});
     clickEntry(aids->List1, 0);
     auto* reading = open<ChildRead>();
     ASSERT_TRUE(reading);
@@ -198,14 +207,53 @@ TEST_F(ChildMapSelTest, EveryClickOpensAlsoOnTheChosenEntry)
 
 TEST_F(ChildMapSelTest, MouseLetGoOnAnotherEntryOpensThatOne)
 {
-    aids->List1->addItem(" Mt:5:3-12 ");
-    QWidget* viewport = aids->List1->viewport();
-    const auto centerOf = [this](int row) {
-        return aids->List1->visualItemRect(aids->List1->item(row)).center();
-    };
-    drag(viewport, centerOf(0), centerOf(1));
+    setEntries(aids->List1, {" Jn:1:1 ", " Mt:5:3-12 "});
+    drag(aids->List1->viewport(), centerOf(*aids->List1, 0), centerOf(*aids->List1, 1));
     ASSERT_TRUE(open<ChildRead>());
     EXPECT_EQ(recordSource(), "SELECT * FROM NewTestament WHERE VerseId LIKE 'Mt:5:3*'");
+}
+
+TEST_F(ChildMapSelTest, EachClickOfADoubleClickOpens)
+{
+    QWidget* viewport = aids->List1->viewport();
+    const QPoint entry = centerOf(*aids->List1, 0);
+    EXPECT_TRUE(opensVerse([this] { clickEntry(aids->List1, 0); }));
+    EXPECT_TRUE(opensVerse([&] {
+        QTest::mouseDClick(viewport, Qt::LeftButton, {}, entry);
+        QTest::mouseRelease(viewport, Qt::LeftButton, {}, entry);
+    }));
+}
+
+TEST_F(ChildMapSelTest, ChosenEntryOpensWhileCtrlOrShiftIsHeld)
+{
+    const QPoint entry = centerOf(*aids->List1, 0);
+    EXPECT_TRUE(opensVerse([this] { clickEntry(aids->List1, 0); }));
+    for (Qt::KeyboardModifier modifier : {Qt::ControlModifier, Qt::ShiftModifier})
+        EXPECT_TRUE(
+            opensVerse([&] { QTest::mouseClick(aids->List1->viewport(), Qt::LeftButton, modifier, entry); }));
+}
+
+TEST_F(ChildMapSelTest, EveryClickOnAMapOpensItWhateverIsHeld)
+{
+    choosePage(*aids, 1);
+    QWidget* viewport = aids->lstMaps->viewport();
+    const QPoint entry = centerOf(*aids->lstMaps, 4);
+    const auto opensMap = [this](const std::function<void()>& doing) {
+        doing();
+        auto* map = open<ChildMapDsp>();
+        if (!map)
+            return false;
+        closeWindow(*map);
+        return true;
+    };
+    for (auto modifiers : {Qt::KeyboardModifiers(), Qt::KeyboardModifiers(Qt::ControlModifier),
+                           Qt::KeyboardModifiers(Qt::ShiftModifier)})
+        EXPECT_TRUE(opensMap([&] { QTest::mouseClick(viewport, Qt::LeftButton, modifiers, entry); }));
+    EXPECT_TRUE(opensMap([&] {
+        QTest::mouseDClick(viewport, Qt::LeftButton, {}, entry);
+        QTest::mouseRelease(viewport, Qt::LeftButton, {}, entry);
+    }));
+    EXPECT_FALSE(opensMap([&] { QTest::mouseClick(viewport, Qt::RightButton, {}, entry); }));
 }
 
 TEST_F(ChildMapSelTest, ClickBesideTheEntriesOpensNothing)
@@ -226,8 +274,7 @@ TEST_F(ChildMapSelTest, OtherMouseButtonsOpenNothing)
 TEST_F(ChildMapSelTest, FirstArrowKeyChoosesTheFirstEntry)
 {
     EXPECT_FALSE(opensVerse([this] { QTest::keyClick(aids->List1, Qt::Key_Down); }));
-    EXPECT_EQ(aids->List1->currentRow(), 0);
-    EXPECT_TRUE(aids->List1->item(0)->isSelected());
+    EXPECT_EQ(aids->List1->selected(), 0);
 }
 
 TEST_F(ChildMapSelTest, FirstJumpInAListOfOneChoosesItsEntry)
@@ -237,21 +284,21 @@ TEST_F(ChildMapSelTest, FirstJumpInAListOfOneChoosesItsEntry)
         aids->List1->setFocus();
         aids->List1->clearSelection();
         EXPECT_FALSE(opensVerse([this, key] { QTest::keyClick(aids->List1, key); }));
-        EXPECT_TRUE(aids->List1->item(0)->isSelected()) << key;
+        EXPECT_EQ(aids->List1->selected(), 0) << key;
     }
 }
 
 TEST_F(ChildMapSelTest, ArrowKeyMovesAndOpensNothing)
 {
-    aids->List1->addItem(" Mt:5:3-12 ");
+    setEntries(aids->List1, {" Jn:1:1 ", " Mt:5:3-12 "});
     QTest::keyClick(aids->List1, Qt::Key_Down);
     EXPECT_FALSE(opensVerse([this] { QTest::keyClick(aids->List1, Qt::Key_Down); }));
-    EXPECT_EQ(aids->List1->currentRow(), 1);
+    EXPECT_EQ(aids->List1->selected(), 1);
 }
 
 TEST_F(ChildMapSelTest, EnterOrSpaceOpensTheChosenEntry)
 {
-    aids->List1->addItem(" Mt:5:3-12 ");
+    setEntries(aids->List1, {" Jn:1:1 ", " Mt:5:3-12 "});
     for (Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
         aids->List1->setFocus();
         QTest::keyClick(aids->List1, Qt::Key_Home);
@@ -325,7 +372,7 @@ TEST_F(ChildMapSelTest, KeysMoveThroughTheMapsAndEnterOpensOne)
     QTest::keyClick(aids->lstMaps, Qt::Key_Down);
     QTest::keyClick(aids->lstMaps, Qt::Key_End);
     QTest::keyClick(aids->lstMaps, 'D'); // typing goes to the next name that begins so
-    EXPECT_EQ(aids->lstMaps->currentRow(), 4);
+    EXPECT_EQ(aids->lstMaps->selected(), 4);
     QTest::keyClick(aids->lstMaps, Qt::Key_End);
     EXPECT_FALSE(open<ChildMapDsp>());
     QTest::keyClick(aids->lstMaps, Qt::Key_Return);
@@ -420,6 +467,29 @@ TEST_F(ChildMapSelTest, DraggedBorderSnapsBack)
     EXPECT_EQ(window->size(), size);
     drag(window, corner, corner - QPoint(90, 30));
     EXPECT_EQ(window->size(), size);
+}
+
+TEST_F(ChildMapSelTest, DragOfTheLeftOrTopBorderIsUndoneInPlace)
+{
+    QMdiSubWindow& window = outer(*aids);
+    const QRect place = window.geometry();
+    const QPoint middle = window.rect().center();
+    for (const QPoint& grip : {QPoint(1, middle.y()), QPoint(middle.x(), 1), QPoint(1, 1)}) {
+        drag(&window, grip, grip - QPoint(30, 20));
+        EXPECT_EQ(window.geometry(), place);
+    }
+}
+
+TEST_F(ChildMapSelTest, OpensMaximisedBesideAMaximisedWindowAndComesBackToItsPlace)
+{
+    const QRect place = outer(*aids).geometry();
+    closeWindow(*aids);
+    frame().openSelection();
+    outer(*activeForm()).showMaximized();
+    aids = &openStudyAids();
+    EXPECT_EQ(aids->state(), Form::Maximized);
+    aids->setState(Form::Normal);
+    EXPECT_EQ(outer(*aids).geometry(), place);
 }
 
 TEST_F(ChildMapSelTest, KeepsItsSizeThroughMinimisedAndMaximised)

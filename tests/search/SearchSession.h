@@ -3,8 +3,8 @@
 #include "clip/AnimationPlayer.h"
 #include "read/ChildRead.h"
 #include "search/frmAdvSearch.h"
-#include "search/ResultsList.h"
 #include "support/Session.h"
+#include "widgets/ListBox.h"
 #include "widgets/SoftBttn.h"
 #include <QCheckBox>
 #include <QComboBox>
@@ -21,7 +21,7 @@ protected:
     }
 
     frmAdvSearch& window() { return get<frmAdvSearch>(); }
-    ResultsList& list() { return *window().List1; }
+    ListBox& list() { return *window().List1; }
 
     /// Sets the inputs and clicks the button; the place of the range is that in `Combo2`.
     void search(const QString& text1, int range = 47, const QString& text2 = {}, int connective = 0,

@@ -1,6 +1,6 @@
 // The text that is copied from a results list, and where it is cut.
 #include "search/CopiedResults.h"
-#include "search/ResultLines.h"
+#include "widgets/ListLines.h"
 #include <gtest/gtest.h>
 
 namespace {
@@ -8,9 +8,9 @@ namespace {
 constexpr int header = 15; // "Search Results:"
 
 /// A list whose text, heading included, becomes exactly this long with its first line; more lines may follow.
-ResultLines listOfLength(int characters, int moreLines)
+ListLines listOfLength(int characters, int moreLines)
 {
-    ResultLines lines;
+    ListLines lines;
     lines.add("Mt:1:1", " " + std::string(static_cast<std::size_t>(characters - header - 2 - 7), 'x'));
     for (int i = 0; i < moreLines; ++i)
         lines.add("Mt:1:2", " y");
@@ -21,7 +21,7 @@ ResultLines listOfLength(int characters, int moreLines)
 
 TEST(CopiedResults, FrameOneLine)
 {
-    ResultLines lines;
+    ListLines lines;
     lines.add("Gn:1:3", " Abre a porta.");
     const CopiedResults copied = copiedResults(lines);
     EXPECT_EQ(copied.text, "Search Results:\r\nGn:1:3 Abre a porta.\r\n(PT)");
@@ -31,7 +31,7 @@ TEST(CopiedResults, FrameOneLine)
 
 TEST(CopiedResults, KeepTheOrderOfTheLines)
 {
-    ResultLines lines;
+    ListLines lines;
     lines.add("Gn:1:1", " a");
     lines.add("Gn:1:2", " b");
     EXPECT_EQ(copiedResults(lines).text, "Search Results:\r\nGn:1:1 a\r\nGn:1:2 b\r\n(PT)");
@@ -62,7 +62,7 @@ TEST(CopiedResults, AreWholeWhenTheLastLineCrossesTheLimit)
 
 TEST(CopiedResults, AreCountedInCharactersNotBytes)
 {
-    ResultLines lines;
+    ListLines lines;
     for (int i = 0; i < 2; ++i) {
         std::string text = " ";
         for (int letter = 0; letter < 15000; ++letter)

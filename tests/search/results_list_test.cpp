@@ -1,8 +1,8 @@
 // The results list by events: opening verses by mouse and keys, the tip, copying.
-#include "search/ResultLines.h"
 #include "search/SearchSession.h"
 #include "text/Phrases.h"
 #include "widgets/DataControl.h"
+#include "widgets/ListLines.h"
 #include "widgets/SoftBttn.h"
 #include <QAccessible>
 #include <QClipboard>
@@ -25,6 +25,12 @@ protected:
     QString shownVerse() { return open<ChildRead>() ? get<ChildRead>().currentKey() : "none"; }
     void back() { window().activate(), list().setFocus(); }
     void pointAt(const QPoint& point) { QTest::mouseMove(list().viewport(), point); }
+    /// The second click of a double click, which Qt gives another name.
+    void clickOnceMore(int place)
+    {
+        QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, pointOf(place));
+        QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, pointOf(place));
+    }
 };
 
 } // namespace
@@ -56,6 +62,68 @@ TEST_F(SearchResults, OpenTheSameLineAgain)
     back();
     clickLine(1);
     EXPECT_EQ(shownVerse(), key(1));
+}
+
+TEST_F(SearchResults, OpenByEachClickOfADoubleClick)
+{
+    clickLine(1);
+    ASSERT_EQ(shownVerse(), key(1));
+    back();
+    clickOnceMore(1);
+    EXPECT_EQ(activeForm(), open<ChildRead>());
+    EXPECT_EQ(shownVerse(), key(1));
+}
+
+TEST_F(SearchResults, OpenAtTheSecondOfTwoQuickClicksAfterAKey)
+{
+    press(Qt::Key_Shift);
+    clickLine(1);
+    EXPECT_EQ(shownVerse(), "none");
+    clickOnceMore(1);
+    EXPECT_EQ(shownVerse(), key(1));
+}
+
+TEST_F(SearchResults, OpenTheSelectedLineWhileCtrlOrShiftIsHeld)
+{
+    clickLine(1);
+    for (Qt::KeyboardModifier modifier : {Qt::ControlModifier, Qt::ShiftModifier}) {
+        press(Qt::Key_F12);
+        ASSERT_NE(shownVerse(), key(1));
+        QTest::mouseClick(list().viewport(), Qt::LeftButton, modifier, pointOf(1));
+        EXPECT_EQ(shownVerse(), key(1));
+    }
+}
+
+TEST_F(SearchResults, OpenTheLineThatADragEndsOn)
+{
+    QTest::mousePress(list().viewport(), Qt::LeftButton, {}, pointOf(1));
+    QMouseEvent move(QEvent::MouseMove, pointOf(4), list().viewport()->mapToGlobal(pointOf(4)), Qt::NoButton,
+                     Qt::LeftButton, {});
+    QApplication::sendEvent(list().viewport(), &move);
+    EXPECT_EQ(shownVerse(), "none");
+    QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, pointOf(4));
+    EXPECT_EQ(shownVerse(), key(4));
+}
+
+TEST_F(SearchResults, DoNothingForARightClick)
+{
+    press(Qt::Key_Down);
+    QTest::mouseClick(list().viewport(), Qt::RightButton, {}, pointOf(3));
+    EXPECT_EQ(list().selected(), 0);
+    EXPECT_EQ(shownVerse(), "none");
+}
+
+TEST_F(SearchResults, RememberAKeyInTheListWhenTheWindowIsClosed)
+{
+    press(Qt::Key_Shift);
+    click(*window().cmdCancel);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    frame().openSearch();
+    search("amor", 47);
+    clickLine(2);
+    EXPECT_EQ(shownVerse(), "none") << "the click only clears the flag";
+    clickLine(2);
+    EXPECT_EQ(shownVerse(), key(2));
 }
 
 TEST_F(SearchResults, AreNotOpenedByMovingThroughThemWithKeys)
@@ -170,7 +238,7 @@ TEST_F(SearchResults, ShowNoVerseForALineWithoutABlank)
 {
     clickLine(0);
     back();
-    ResultLines lines;
+    ListLines lines;
     lines.add("Mt:1:1", "");
     list().setLines(std::move(lines));
     clickLine(0);
@@ -192,7 +260,7 @@ TEST_F(SearchResults, ShowTheWholeLineInATip)
 
 TEST_F(SearchResults, ShowNoTipBelowTheLastLine)
 {
-    ResultLines lines;
+    ListLines lines;
     lines.add("Mt:1:1", " a");
     lines.add("Mt:1:2", " b");
     list().setLines(std::move(lines));

@@ -148,6 +148,62 @@ TEST_F(SearchWindow, ComesBackToItsSizeAfterBeingMaximised)
     EXPECT_EQ(outer(window()).size(), QSize(width, toPixels(5325)));
 }
 
+TEST_F(SearchWindow, BeginsANewSearchAndRepeatsTheLastWhileItIsMaximised)
+{
+    const int width = outer(window()).width();
+    outer(window()).showMaximized();
+    const QSize room = outer(window()).size();
+    search("amor");
+    const int count = list().count();
+    newSearch();
+    EXPECT_FALSE(isInResultsMode());
+    EXPECT_TRUE(outer(window()).isMaximized());
+    EXPECT_EQ(outer(window()).size(), room);
+    boxes.shown.clear();
+    window().Data1.setRecordSource("untouched");
+    click(*window().cmdOK);
+    EXPECT_EQ(sql(), "untouched");
+    EXPECT_EQ(box(), found(count));
+    EXPECT_TRUE(isInResultsMode());
+    EXPECT_TRUE(outer(window()).isMaximized());
+    EXPECT_EQ(outer(window()).size(), room);
+    EXPECT_TRUE(list().hasFocus());
+    newSearch();
+    outer(window()).showNormal();
+    EXPECT_EQ(outer(window()).size(), QSize(width, toPixels(2920)));
+}
+
+TEST_F(SearchWindow, SearchesByEnterWhileItIsMinimised)
+{
+    const int width = outer(window()).width();
+    window().Text1->setText("amor");
+    outer(window()).showMinimized();
+    frame().activateWindow();
+    QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &outer(window()),
+                    Qt::Key_Return);
+    EXPECT_EQ(box(), found(list().count()));
+    EXPECT_GT(list().count(), 0);
+    EXPECT_TRUE(outer(window()).isMinimized());
+    frame().openSearch();
+    EXPECT_TRUE(isInResultsMode());
+    EXPECT_EQ(outer(window()).size(), QSize(width, toPixels(5325)));
+    EXPECT_TRUE(list().hasFocus());
+}
+
+TEST_F(SearchWindow, OpensMaximisedBesideAMaximisedWindowAndComesBackToItsSize)
+{
+    click(*window().cmdCancel);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    frame().openSelection();
+    outer(*activeForm()).showMaximized();
+    frame().openSearch();
+    EXPECT_TRUE(outer(window()).isMaximized());
+    EXPECT_TRUE(window().Text1->hasFocus());
+    outer(window()).showNormal();
+    const int width = toTwips(window().cmdOK->geometry().right() + 1) + 160;
+    EXPECT_EQ(outer(window()).geometry(), QRect(0, 0, toPixels(width), toPixels(2920)));
+}
+
 TEST_F(SearchWindow, CutsAndOverlapsNothingInEitherLayout)
 {
     for (bool tall : {false, true}) {
@@ -260,6 +316,8 @@ TEST_F(SearchWindow, TurnsIntoResultsModeAndBack)
     }
     EXPECT_FALSE(window().chkWholeWrd->isEnabled());
     EXPECT_FALSE(window().cmdOK->isEnabled());
+    for (const QWidget* label : {window().Label1, window().Label2, window().Label3})
+        EXPECT_TRUE(label->isEnabled()) << label->objectName().toStdString();
     for (QWidget* shown : std::initializer_list<QWidget*>{window().List1, window().Label2, window().cmdCopySR,
                                                           window().cmdHideList}) {
         EXPECT_TRUE(shown->isVisible());
@@ -325,6 +383,27 @@ TEST_F(SearchWindow, EmptiesTheListWhenALaterQueryFails)
     search("amor[");
     EXPECT_EQ(box(), failedTitle + "Error 93: Invalid pattern string" + aborted);
     EXPECT_EQ(list().count(), 0);
+}
+
+TEST_F(SearchWindow, ReportsAFailureAfterTheFirstRow)
+{
+    search("*", -1);
+    const QString firstWords = list().text(0).section(' ', 1, 3);
+    newSearch();
+    search(firstWords, -1);
+    ASSERT_EQ(list().selected(), -1);
+    ASSERT_LT(list().count(), 100) << "the second pattern is looked at once the first does not match";
+    newSearch();
+    boxes.shown.clear();
+    search(firstWords, -1, "[", 2);
+    EXPECT_EQ(box(), failedTitle + "Error 93: Invalid pattern string" + aborted);
+    EXPECT_EQ(list().count(), 0);
+    EXPECT_EQ(sql(), allVerses);
+    EXPECT_FALSE(isInResultsMode());
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_FALSE(window().Animation1->isVisible());
+    search(firstWords, -1, "[", 2);
+    EXPECT_EQ(box(), failedTitle + "Error 0: " + aborted);
 }
 
 TEST_F(SearchWindow, RepeatsAFailureWithoutRunningItAndWithoutAnError)
@@ -604,9 +683,16 @@ TEST_F(SearchWindow, LeavesTheMenusReachable)
     edit->close();
 
     search("amor"); // the text rests now, so that its key is the menu's alone
+    for (int time = 0; time < 2; ++time) {
+        press(Qt::Key_E, Qt::AltModifier);
+        EXPECT_TRUE(edit->isVisible());
+        edit->close();
+    }
+    newSearch();
+    window().Combo2->setFocus();
     press(Qt::Key_E, Qt::AltModifier);
-    EXPECT_TRUE(edit->isVisible());
-    edit->close();
+    EXPECT_FALSE(edit->isVisible());
+    EXPECT_TRUE(window().Text1->hasFocus());
 }
 
 TEST_F(SearchWindow, PlaysItsClipWhileTheQueryRuns)

@@ -1,5 +1,5 @@
 // Long use at a fast clock: ten thousand turns of the verses by the timer, a thousand searches.
-#include "search/ResultsList.h"
+#include "widgets/ListBox.h"
 #include "support/Session.h"
 #include "widgets/SoftBttn.h"
 #include <chrono>

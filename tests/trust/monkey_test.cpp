@@ -4,8 +4,8 @@
 #include "clip/AnimationPlayer.h"
 #include "help/Help.h"
 #include "help/HelpWindow.h"
-#include "search/ResultsList.h"
 #include "support/Session.h"
+#include "widgets/ListBox.h"
 #include "widgets/SoftBttn.h"
 #include "widgets/Twips.h"
 #include <chrono>

@@ -1,12 +1,13 @@
-#include "search/ResultsList.h"
+#include "widgets/ListBox.h"
 
-#include "search/ResultsModel.h"
 #include "widgets/EnterKey.h"
+#include "widgets/ListModel.h"
 #include "widgets/Text.h"
 #include <QAccessible>
 #include <QHelpEvent>
 #include <QStyledItemDelegate>
 #include <QToolTip>
+#include <utility>
 
 namespace {
 
@@ -29,9 +30,9 @@ bool isMove(int key)
 
 } // namespace
 
-ResultsList::ResultsList(QWidget* parent)
+ListBox::ListBox(QWidget* parent)
     : QListView(parent)
-    , m_model(new ResultsModel(this))
+    , m_model(new ListModel(this))
 {
     setModel(m_model);
     setItemDelegate(new LineDelegate(this));
@@ -39,83 +40,115 @@ ResultsList::ResultsList(QWidget* parent)
     setEditTriggers(NoEditTriggers);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setMouseTracking(true);
-    connect(this, &QListView::clicked, this, &ResultsList::lineClicked);
 }
 
-const ResultLines& ResultsList::lines() const
+const ListLines& ListBox::lines() const
 {
     return m_model->lines();
 }
 
-void ResultsList::setLines(ResultLines lines)
+void ListBox::setLines(ListLines lines)
 {
     m_model->setLines(std::move(lines));
 }
 
-void ResultsList::clear()
+void ListBox::clear()
 {
     setLines({});
 }
 
-int ResultsList::count() const
+int ListBox::count() const
 {
     return lines().count();
 }
 
-QString ResultsList::text(int place) const
+QString ListBox::text(int place) const
 {
     return place >= 0 && place < count() ? toText(lines().line(place)) : QString();
 }
 
-int ResultsList::selected() const
+int ListBox::selected() const
 {
     const QModelIndexList selection = selectionModel()->selectedIndexes();
     return selection.isEmpty() ? -1 : selection.first().row();
 }
 
-int ResultsList::lineAt(const QPoint& point) const
+int ListBox::lineAt(const QPoint& point) const
 {
     return indexAt(point).row();
 }
 
-void ResultsList::keyPressEvent(QKeyEvent* event)
+void ListBox::selectCurrentLine()
+{
+    const QModelIndex line = currentIndex().isValid() ? currentIndex() : m_model->index(0);
+    if (selected() >= 0 || !line.isValid())
+        return;
+    setCurrentIndex(line);
+    QAccessibleEvent reached(this, QAccessible::Focus); // QListView does not tell it where nothing moved
+    reached.setChild(line.row());
+    QAccessible::updateAccessibility(&reached);
+}
+
+void ListBox::keyPressEvent(QKeyEvent* event)
 {
     Q_EMIT keyDown();
     if (isEnter(*event) || event->key() == Qt::Key_Space)
         Q_EMIT choosingKeyPressed();
-    else if (!event->matches(QKeySequence::Copy)) // the view would copy the line
+    else if (!event->matches(QKeySequence::Copy)) // QListView would copy the line
         moveByKey(event);
 }
 
-void ResultsList::moveByKey(QKeyEvent* event)
+void ListBox::moveByKey(QKeyEvent* event)
 {
     const int before = selected();
     const bool isArrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
     if (!isArrow || before >= 0)
         QListView::keyPressEvent(event);
     // The first arrow key selects the line it stands on, as does a jump to the line that is current already.
-    if (isMove(event->key()) && selected() < 0 && currentIndex().isValid())
-        selectLineItStandsOn();
+    if (isMove(event->key()))
+        selectCurrentLine();
     if (selected() != before)
         Q_EMIT lineClicked();
 }
 
-void ResultsList::selectLineItStandsOn()
+void ListBox::mousePressEvent(QMouseEvent* event)
 {
-    setCurrentIndex(currentIndex());
-    QAccessibleEvent reached(this, QAccessible::Focus); // which the view does not tell, for nothing moved
-    reached.setChild(currentIndex().row());
-    QAccessible::updateAccessibility(&reached);
+    if (event->button() != Qt::LeftButton)
+        return; // QListView would select the line
+    m_pressed = true;
+    QListView::mousePressEvent(event);
 }
 
-void ResultsList::mouseMoveEvent(QMouseEvent* event)
+void ListBox::mouseMoveEvent(QMouseEvent* event)
 {
     if (event->buttons() == Qt::NoButton)
         Q_EMIT pointerMoved(event->position().toPoint());
     QListView::mouseMoveEvent(event);
 }
 
-bool ResultsList::viewportEvent(QEvent* event)
+void ListBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    QListView::mouseReleaseEvent(event);
+    const bool wasPressedHere = std::exchange(m_pressed, false);
+    if (wasPressedHere && viewport()->rect().contains(event->position().toPoint()) && selected() >= 0)
+        Q_EMIT lineClicked();
+}
+
+void ListBox::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    mousePressEvent(event); // a double click is two clicks
+}
+
+QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex& index, const QEvent*) const
+{
+    // One line is selected, and stays so: Ctrl does not take the selection back, and beside the lines nothing
+    // happens.
+    return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+}
+
+bool ListBox::viewportEvent(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)
         return QListView::viewportEvent(event);
@@ -124,7 +157,7 @@ bool ResultsList::viewportEvent(QEvent* event)
     return true;
 }
 
-void ResultsList::showTip(const QPoint& point, const QPoint& globalPoint)
+void ListBox::showTip(const QPoint& point, const QPoint& globalPoint)
 {
     // As rich text the tip is broken into lines; a verse in one line is wider than any screen.
     const QString tip = toolTip().isEmpty() ? QString() : "<p>" + toolTip().toHtmlEscaped() + "</p>";

@@ -1,22 +1,22 @@
 #pragma once
 
-#include "search/ResultLines.h"
+#include "widgets/ListLines.h"
 #include <QAbstractListModel>
 
-/// Hands the lines to the view, which asks only for those it shows.
-class ResultsModel : public QAbstractListModel
+/// Hands the lines of a list box to its view, which asks only for those it shows.
+class ListModel : public QAbstractListModel
 {
     Q_OBJECT
 
 public:
     using QAbstractListModel::QAbstractListModel;
 
-    const ResultLines& lines() const { return m_lines; }
-    void setLines(ResultLines lines);
+    const ListLines& lines() const { return m_lines; }
+    void setLines(ListLines lines);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
 private:
-    ResultLines m_lines;
+    ListLines m_lines;
 };

@@ -1,13 +1,13 @@
-#include "search/ResultLines.h"
+#include "widgets/ListLines.h"
 
-void ResultLines::add(std::string_view key, std::string_view text)
+void ListLines::add(std::string_view first, std::string_view second)
 {
-    m_text += key;
-    m_text += text;
+    m_text += first;
+    m_text += second;
     m_ends.push_back(static_cast<std::uint32_t>(m_text.size()));
 }
 
-std::string_view ResultLines::line(int place) const
+std::string_view ListLines::line(int place) const
 {
     const auto at = static_cast<std::size_t>(place);
     const std::size_t start = at == 0 ? 0 : m_ends[at - 1];

@@ -1,0 +1,207 @@
+// The list box by mouse and keys: what counts as a click, and which line is selected then.
+#include "widgets/ListBox.h"
+#include "widgets/ListLines.h"
+#include <gtest/gtest.h>
+#include <QApplication>
+#include <QClipboard>
+#include <QTest>
+
+namespace {
+
+class ListBoxTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        setLines(5);
+        list.resize(200, 160);
+        list.show();
+        QApplication::setActiveWindow(&list);
+        list.setFocus();
+        QObject::connect(&list, &ListBox::lineClicked, [this] { clicks << list.selected(); });
+    }
+
+    void setLines(int count)
+    {
+        ListLines lines;
+        for (int i = 0; i < count; ++i)
+            lines.add("line ", std::to_string(i));
+        list.setLines(std::move(lines));
+    }
+
+    QPoint pointOf(int line) { return list.visualRect(list.model()->index(line, 0)).center(); }
+    QPoint pointBelow() { return {20, list.viewport()->height() - 3}; }
+
+    void send(QEvent::Type type, QPoint point, Qt::MouseButton button, Qt::MouseButtons held,
+              Qt::KeyboardModifiers modifiers = {})
+    {
+        QMouseEvent event(type, point, list.viewport()->mapToGlobal(point), button, held, modifiers);
+        QApplication::sendEvent(list.viewport(), &event);
+    }
+    void press(QPoint point, Qt::KeyboardModifiers modifiers = {})
+    {
+        send(QEvent::MouseButtonPress, point, Qt::LeftButton, Qt::LeftButton, modifiers);
+    }
+    void moveTo(QPoint point) { send(QEvent::MouseMove, point, Qt::NoButton, Qt::LeftButton); }
+    void release(QPoint point, Qt::KeyboardModifiers modifiers = {})
+    {
+        send(QEvent::MouseButtonRelease, point, Qt::LeftButton, Qt::NoButton, modifiers);
+    }
+    void click(QPoint point, Qt::KeyboardModifiers modifiers = {})
+    {
+        press(point, modifiers);
+        release(point, modifiers);
+    }
+
+    ListBox list{nullptr};
+    QList<int> clicks; ///< the line that was selected at each
+};
+
+} // namespace
+
+TEST_F(ListBoxTest, CountsAPressAndAReleaseAsOneClickOnTheSelectedLine)
+{
+    press(pointOf(2));
+    EXPECT_EQ(list.selected(), 2);
+    EXPECT_TRUE(clicks.isEmpty());
+    release(pointOf(2));
+    EXPECT_EQ(clicks, QList<int>({2}));
+}
+
+TEST_F(ListBoxTest, CountsAClickOnTheSelectedLineAgain)
+{
+    click(pointOf(2));
+    click(pointOf(2));
+    EXPECT_EQ(clicks, QList<int>({2, 2}));
+}
+
+TEST_F(ListBoxTest, CountsEachClickOfADoubleClick)
+{
+    click(pointOf(1));
+    send(QEvent::MouseButtonDblClick, pointOf(1), Qt::LeftButton, Qt::LeftButton);
+    release(pointOf(1));
+    EXPECT_EQ(clicks, QList<int>({1, 1}));
+}
+
+TEST_F(ListBoxTest, CountsADoubleClickOverTwoLinesOnEachOfThem)
+{
+    click(pointOf(1));
+    send(QEvent::MouseButtonDblClick, pointOf(2), Qt::LeftButton, Qt::LeftButton);
+    release(pointOf(2));
+    EXPECT_EQ(clicks, QList<int>({1, 2}));
+}
+
+TEST_F(ListBoxTest, ClicksTheSameWhateverModifierIsHeld)
+{
+    for (const auto modifiers :
+         {Qt::KeyboardModifiers(Qt::ControlModifier), Qt::KeyboardModifiers(Qt::ShiftModifier),
+          Qt::ControlModifier | Qt::ShiftModifier}) {
+        clicks.clear();
+        click(pointOf(3));
+        click(pointOf(3), modifiers);
+        click(pointOf(0), modifiers);
+        EXPECT_EQ(clicks, QList<int>({3, 3, 0}));
+    }
+}
+
+TEST_F(ListBoxTest, ClicksTheLineThatADragEndsOn)
+{
+    press(pointOf(0));
+    moveTo(pointOf(2));
+    moveTo(pointOf(3));
+    EXPECT_EQ(list.selected(), 3);
+    release(pointOf(3));
+    EXPECT_EQ(clicks, QList<int>({3}));
+}
+
+TEST_F(ListBoxTest, ClicksTheSelectedLineBesideTheLinesToo)
+{
+    click(pointBelow());
+    EXPECT_TRUE(clicks.isEmpty()) << "none is selected";
+    click(pointOf(1));
+    click(pointBelow());
+    EXPECT_EQ(list.selected(), 1);
+    EXPECT_EQ(clicks, QList<int>({1, 1}));
+}
+
+TEST_F(ListBoxTest, IsNotClickedWhenTheButtonGoesUpOutsideOrWentDownThere)
+{
+    press(pointOf(1));
+    release({20, -30});
+    EXPECT_TRUE(clicks.isEmpty());
+    release(pointOf(2));
+    EXPECT_TRUE(clicks.isEmpty());
+}
+
+TEST_F(ListBoxTest, DoesNothingForOtherButtons)
+{
+    click(pointOf(1));
+    clicks.clear();
+    for (Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+        send(QEvent::MouseButtonPress, pointOf(3), button, button);
+        send(QEvent::MouseButtonRelease, pointOf(3), button, Qt::NoButton);
+        send(QEvent::MouseButtonDblClick, pointOf(3), button, button);
+        send(QEvent::MouseButtonRelease, pointOf(3), button, Qt::NoButton);
+    }
+    EXPECT_EQ(list.selected(), 1);
+    EXPECT_TRUE(clicks.isEmpty());
+}
+
+TEST_F(ListBoxTest, KeepsAClickOfTheLeftButtonWhileAnotherGoesDownAndUp)
+{
+    press(pointOf(1));
+    send(QEvent::MouseButtonPress, pointOf(1), Qt::RightButton, Qt::LeftButton | Qt::RightButton);
+    send(QEvent::MouseButtonRelease, pointOf(1), Qt::RightButton, Qt::LeftButton);
+    EXPECT_TRUE(clicks.isEmpty());
+    release(pointOf(1));
+    EXPECT_EQ(clicks, QList<int>({1}));
+}
+
+TEST_F(ListBoxTest, TellsOfAKeyThenOfTheMoveThenOfTheChoice)
+{
+    QStringList told;
+    QObject::connect(&list, &ListBox::keyDown, [&] { told << QString("key on %1").arg(list.selected()); });
+    QObject::connect(&list, &ListBox::lineClicked,
+                     [&] { told << QString("click on %1").arg(list.selected()); });
+    QObject::connect(&list, &ListBox::choosingKeyPressed, [&] { told << "choice"; });
+    QTest::keyClick(&list, Qt::Key_Down);
+    QTest::keyClick(&list, Qt::Key_Down);
+    QTest::keyClick(&list, Qt::Key_Return);
+    QTest::keyClick(&list, Qt::Key_Shift);
+    EXPECT_EQ(told, QStringList({"key on -1", "click on 0", "key on 0", "click on 1", "key on 1", "choice",
+                                 "key on 1"}));
+}
+
+TEST_F(ListBoxTest, MovesWithCtrlAsWithoutIt)
+{
+    QTest::keyClick(&list, Qt::Key_Down, Qt::ControlModifier);
+    QTest::keyClick(&list, Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(list.selected(), 1);
+}
+
+TEST_F(ListBoxTest, SelectsTheFirstLineByAKeyAfterItsLinesWereReplaced)
+{
+    QTest::keyClick(&list, Qt::Key_End);
+    setLines(3);
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(list.selected(), 0);
+}
+
+TEST_F(ListBoxTest, StaysEmptyWithoutLines)
+{
+    list.clear();
+    for (Qt::Key key : {Qt::Key_Down, Qt::Key_Home, Qt::Key_End, Qt::Key_PageUp})
+        QTest::keyClick(&list, key);
+    list.selectCurrentLine();
+    click({20, 20});
+    EXPECT_EQ(list.selected(), -1);
+    EXPECT_TRUE(clicks.isEmpty());
+}
+
+TEST_F(ListBoxTest, DoesNotCopyItsLine)
+{
+    QApplication::clipboard()->setText("before");
+    QTest::keyClick(&list, Qt::Key_Down);
+    QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "before");
+}
