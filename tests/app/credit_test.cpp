@@ -3,6 +3,7 @@
 #include "pictures/TextCredit.h"
 #include "support/OnceModal.h"
 #include "support/Session.h"
+#include "widgets/SoftBttn.h"
 
 class Credit : public Session
 {

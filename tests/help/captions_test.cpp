@@ -4,7 +4,7 @@
 #include "help/HelpWindow.h"
 #include "help/ShippedHelp.h"
 #include "maps/ChildMapSel.h"
-#include "maps/ChoiceList.h"
+#include "widgets/ListBox.h"
 #include "support/OnceModal.h"
 #include "support/Session.h"
 #include "widgets/SoftBttn.h"
