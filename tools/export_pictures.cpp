@@ -23,7 +23,7 @@ bool exportIcon(const QDir& folder)
 {
     bool written = true;
     for (const int side : {16, 22, 24, 32, 48, 64, 128, 256, 512}) {
-        const QImage image = picture(PictureId::Application).pixmap(QSize(side, side), 1.0).toImage();
+        const QImage image = iconOf(PictureId::Application).pixmap(QSize(side, side), 1.0).toImage();
         written = write(image, folder.filePath(QString("kestrel-reader-%1.png").arg(side))) && written;
     }
     return written;

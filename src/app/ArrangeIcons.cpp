@@ -3,7 +3,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
-void arrangeIcons(QMdiArea& area)
+void lineUpIcons(QMdiArea& area)
 {
     const QRect room = area.viewport()->rect();
     int left = 0;

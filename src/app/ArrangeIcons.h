@@ -3,4 +3,4 @@
 class QMdiArea;
 
 /// Sets the minimised windows side by side along the bottom of the area, from the left, further rows above.
-void arrangeIcons(QMdiArea& area);
+void lineUpIcons(QMdiArea& area);

@@ -114,7 +114,7 @@ QIcon FrameStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
 {
     switch (which) {
     case SP_TitleBarMenuButton:
-        return picture(PictureId::Application);
+        return iconOf(PictureId::Application);
     case SP_TitleBarMinButton:
     case SP_TitleBarMaxButton:
     case SP_TitleBarNormalButton:

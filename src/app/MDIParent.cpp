@@ -30,7 +30,7 @@ MDIParent::MDIParent(Program& program)
 {
     setObjectName("MDIParent");
     setWindowTitle("Kestrel Reader: Portuguese Version - Freeware");
-    setWindowIcon(picture(PictureId::Application));
+    setWindowIcon(iconOf(PictureId::Application));
     m_area->setAccessibleName("Windows");
     m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder);
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded); // a map can be larger than the frame
@@ -111,7 +111,7 @@ void MDIParent::openStudyAids()
 
 void MDIParent::launchNotepad()
 {
-    ::launchNotepad(flags());
+    startNotepad(flags());
 }
 
 void MDIParent::about()
@@ -130,9 +130,9 @@ void MDIParent::exit()
     close();
 }
 
-void MDIParent::arrangeIcons()
+void MDIParentlineUpIcons()
 {
-    ::arrangeIcons(*m_area);
+    lineUpIcons(*m_area);
 }
 
 ChildRead& MDIParent::readingWindow()

@@ -61,7 +61,7 @@ QString textEditor()
     return {};
 }
 
-void launchNotepad(ProgramFlags& flags)
+void startNotepad(ProgramFlags& flags)
 {
     if (flags.NotepadLaunched == launchedBefore && !userWantsAnother())
         return;

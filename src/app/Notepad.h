@@ -15,4 +15,4 @@ QString textEditor();
 
 /// The shared command "Launch Notepad": starts the text editor and remembers that it did; asks first when it
 /// has done so before.
-void launchNotepad(ProgramFlags& flags);
+void startNotepad(ProgramFlags& flags);

@@ -8,7 +8,7 @@
 #include <QTimer>
 
 Program::Program(const QString& directory)
-    : basePath(::basePath(directory))
+    : basePath(withSeparator(directory))
 {
 }
 

@@ -2,7 +2,7 @@
 
 #include <QDir>
 
-QString basePath(QString directory)
+QString withSeparator(QString directory)
 {
     directory = QDir::toNativeSeparators(directory);
     if (!directory.endsWith(QDir::separator()))

@@ -3,7 +3,7 @@
 #include <QString>
 
 /// A directory with one separator at its end: added unless it is there already, as it is at a drive's root.
-QString basePath(QString directory);
+QString withSeparator(QString directory);
 
 /// The names of the installed files, all in the program's directory.
 inline const QString databaseFileName = QStringLiteral("KESTRPT.DAT");

@@ -52,7 +52,7 @@ HelpWindow::HelpWindow(const QList<HelpPage>& pages, HelpLanguage language)
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowTitle("Kestrel Reader Help");
-    setWindowIcon(picture(PictureId::Application));
+    setWindowIcon(iconOf(PictureId::Application));
     searchText->setObjectName("searchText");
     searchText->setAccessibleName("Find:");
     contents->setObjectName("contents");

@@ -153,7 +153,7 @@ void ChildMapSel::makeDownloadPage()
     auto* image = new QToolButton(Frame4);
     image->setObjectName("Image1");
     image->setAccessibleName("Web site");
-    image->setIcon(picture(PictureId::Web));
+    image->setIcon(iconOf(PictureId::Web));
     image->setIconSize(QSize(toPixels(960), toPixels(960)));
     image->setAutoRaise(true);
     image->setFocusPolicy(Qt::NoFocus); // the button does the same by keyboard

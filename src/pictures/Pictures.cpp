@@ -48,7 +48,7 @@ private:
 
 } // namespace
 
-QIcon picture(PictureId id)
+QIcon iconOf(PictureId id)
 {
     const PictureDrawing& drawing = pictureDrawings()[static_cast<std::size_t>(id)];
     Q_ASSERT(drawing.id == id);

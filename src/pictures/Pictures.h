@@ -44,7 +44,7 @@ enum class PictureId {
 
 /// A scalable icon. Painted, it takes the ink that suits the painter's background brush; asked for a pixmap,
 /// the ink that suits the application's button face.
-QIcon picture(PictureId id);
+QIcon iconOf(PictureId id);
 
 /// All of them in the order above, for tests and contact sheets.
 const QList<PictureId>& allPictures();

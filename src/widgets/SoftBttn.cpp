@@ -35,7 +35,7 @@ SoftBttn::SoftBttn(QWidget* parent)
 SoftBttn::SoftBttn(PictureId id, const QString& toolTip, QWidget* parent)
     : SoftBttn(parent)
 {
-    setPicture(::picture(id));
+    setPicture(iconOf(id));
     setToolTip(toolTip);
 }
 

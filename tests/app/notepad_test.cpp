@@ -115,7 +115,7 @@ protected:
 TEST_F(Notepad, FirstUseStartsTheEditorWithoutAQuestion)
 {
     putEditor("notepad.exe");
-    launchNotepad(flags);
+    startNotepad(flags);
     EXPECT_EQ(started(1).size(), 1);
     EXPECT_TRUE(boxes.shown.isEmpty());
     EXPECT_EQ(flags.NotepadLaunched, 3);
@@ -124,10 +124,10 @@ TEST_F(Notepad, FirstUseStartsTheEditorWithoutAQuestion)
 TEST_F(Notepad, SecondUseAsksAndNoStartsNothing)
 {
     putEditor("notepad.exe");
-    launchNotepad(flags);
+    startNotepad(flags);
     ASSERT_EQ(started(1).size(), 1);
     boxes.answer = MsgAnswer::No;
-    launchNotepad(flags);
+    startNotepad(flags);
     ASSERT_EQ(boxes.shown.size(), 1);
     expectQuestion(boxes.shown.first());
     QTest::qWait(300);
@@ -138,9 +138,9 @@ TEST_F(Notepad, SecondUseAsksAndNoStartsNothing)
 TEST_F(Notepad, SecondUseAsksAndYesStartsASecondCopy)
 {
     putEditor("notepad.exe");
-    launchNotepad(flags);
+    startNotepad(flags);
     boxes.answer = MsgAnswer::Yes;
-    launchNotepad(flags);
+    startNotepad(flags);
     ASSERT_EQ(boxes.shown.size(), 1);
     EXPECT_EQ(started(2).size(), 2);
     EXPECT_EQ(flags.NotepadLaunched, 3);
@@ -151,7 +151,7 @@ TEST_F(Notepad, AnyAnswerButYesStartsNothing)
     putEditor("notepad.exe");
     flags.NotepadLaunched = 3;
     boxes.answer = MsgAnswer::Ok;
-    launchNotepad(flags);
+    startNotepad(flags);
     QTest::qWait(300);
     EXPECT_TRUE(started(0).isEmpty());
 }
@@ -159,9 +159,9 @@ TEST_F(Notepad, AnyAnswerButYesStartsNothing)
 TEST_F(Notepad, AsksEvenWhenTheFirstCopyWasClosed)
 {
     putFile("notepad.exe", "#!/bin/sh\nexit 0\n");
-    launchNotepad(flags);
+    startNotepad(flags);
     QTest::qWait(200);
-    launchNotepad(flags);
+    startNotepad(flags);
     EXPECT_EQ(boxes.shown.size(), 1);
 }
 
@@ -169,7 +169,7 @@ TEST_F(Notepad, AsksOnlyWhenTheFlagIsThree)
 {
     putEditor("notepad.exe");
     flags.NotepadLaunched = 1;
-    launchNotepad(flags);
+    startNotepad(flags);
     EXPECT_TRUE(boxes.shown.isEmpty());
     EXPECT_EQ(started(1).size(), 1);
     EXPECT_EQ(flags.NotepadLaunched, 3);
@@ -177,11 +177,11 @@ TEST_F(Notepad, AsksOnlyWhenTheFlagIsThree)
 
 TEST_F(Notepad, NoEditorOnThePathIsReportedAndTheFlagStays)
 {
-    launchNotepad(flags);
+    startNotepad(flags);
     ASSERT_EQ(boxes.shown.size(), 1);
     expectFailure(boxes.shown.first());
     EXPECT_EQ(flags.NotepadLaunched, 0);
-    launchNotepad(flags); // does not ask
+    startNotepad(flags); // does not ask
     ASSERT_EQ(boxes.shown.size(), 2);
     expectFailure(boxes.shown.last());
 }
@@ -194,7 +194,7 @@ TEST_F(Notepad, EditorThatCannotBeExecutedIsReportedAndTheFlagStays)
     for (const QByteArray& content : broken) {
         boxes.shown.clear();
         putFile("notepad.exe", content);
-        launchNotepad(flags);
+        startNotepad(flags);
         ASSERT_EQ(boxes.shown.size(), 1) << content.constData();
         expectFailure(boxes.shown.first());
         EXPECT_EQ(flags.NotepadLaunched, 0);
@@ -206,7 +206,7 @@ TEST_F(Notepad, FailureAfterYesLeavesTheFlagSoThatTheNextUseAsks)
 {
     flags.NotepadLaunched = 3;
     boxes.answer = MsgAnswer::Yes;
-    launchNotepad(flags);
+    startNotepad(flags);
     ASSERT_EQ(boxes.shown.size(), 2);
     expectQuestion(boxes.shown.first());
     expectFailure(boxes.shown.last());
@@ -247,7 +247,7 @@ TEST_F(Notepad, FileWithoutExecutePermissionIsNoEditor)
 TEST_F(Notepad, EditorRunsInASessionOfItsOwnAndIsNotOurChild)
 {
     putEditor("notepad.exe");
-    launchNotepad(flags);
+    startNotepad(flags);
     const QList<QStringList> lines = started(1);
     ASSERT_EQ(lines.size(), 1);
     EXPECT_NE(lines[0][1].toInt(), getsid(0)) << "the editor would end with our session";
@@ -259,7 +259,7 @@ TEST_F(Notepad, EditorHoldsNothingOfOursOpen)
 {
     ASSERT_EQ(dup2(STDIN_FILENO, 77), 77); // a descriptor as it might be inherited: open across exec
     putEditor("notepad.exe");
-    launchNotepad(flags);
+    startNotepad(flags);
     close(77);
     const QList<QStringList> lines = started(1);
     ASSERT_EQ(lines.size(), 1);
@@ -273,7 +273,7 @@ TEST_F(Notepad, EditorIsNotWaitedForAndOutlivesTheReader)
     const pid_t reader = fork();
     if (reader == 0) {
         ProgramFlags own;
-        launchNotepad(own);
+        startNotepad(own);
         _exit(own.NotepadLaunched);
     }
     int status = 0;

@@ -205,7 +205,7 @@ TEST_F(StartUp, EscapeOnTheSplashClosesItAndNoFrameFollows)
 
 TEST(BasePath, HasOneSeparatorAtItsEnd)
 {
-    EXPECT_EQ(basePath("/opt/kestrel"), "/opt/kestrel/");
-    EXPECT_EQ(basePath("/opt/kestrel/"), "/opt/kestrel/");
-    EXPECT_EQ(basePath("/"), "/");
+    EXPECT_EQ(withSeparator("/opt/kestrel"), "/opt/kestrel/");
+    EXPECT_EQ(withSeparator("/opt/kestrel/"), "/opt/kestrel/");
+    EXPECT_EQ(withSeparator("/"), "/");
 }

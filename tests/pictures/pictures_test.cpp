@@ -11,7 +11,7 @@ QImage painted(PictureId id, int side, const QColor& face, QIcon::Mode mode = QI
     image.fill(face);
     QPainter painter(&image);
     painter.setBackground(face);
-    picture(id).paint(&painter, image.rect(), Qt::AlignCenter, mode);
+    iconOf(id).paint(&painter, image.rect(), Qt::AlignCenter, mode);
     return image;
 }
 
@@ -81,7 +81,7 @@ TEST(Pictures, KeepTheButtonsEdgeFree)
 
 TEST(Pictures, ArePaintedAtTheSizeAskedFor)
 {
-    const QPixmap pixmap = picture(PictureId::Application).pixmap(QSize(48, 48), 2.0);
+    const QPixmap pixmap = iconOf(PictureId::Application).pixmap(QSize(48, 48), 2.0);
     EXPECT_EQ(pixmap.size(), QSize(96, 96));
     EXPECT_EQ(pixmap.devicePixelRatio(), 2.0);
 }
