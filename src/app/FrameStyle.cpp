@@ -4,6 +4,7 @@
 #include "pictures/Pictures.h"
 #include <algorithm>
 #include <QApplication>
+#include <QComboBox>
 #include <QMenu>
 #include <QPainter>
 #include <QStyleOption>
@@ -99,6 +100,15 @@ QColor outlineOn(const QPalette& palette)
 
 } // namespace
 
+// The wheel chooses in the combo box that has the focus. It does not give the focus to one that the pointer
+// happens to pass, as it would to a QComboBox, and chooses nothing there.
+void FrameStyle::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    if (qobject_cast<QComboBox*>(widget))
+        widget->setFocusPolicy(Qt::StrongFocus);
+}
+
 int FrameStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     if (metric == PM_TitleBarHeight)
@@ -110,6 +120,14 @@ int FrameStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
 
 // The marks of title bars are drawn: reading Qt's pictures of them loads every picture format that
 // the desktop knows into memory.
+int FrameStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                          QStyleHintReturn* returned) const
+{
+    if (hint == SH_ComboBox_AllowWheelScrolling)
+        return widget && widget->hasFocus();
+    return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
 QIcon FrameStyle::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const
 {
     switch (which) {

@@ -1,13 +1,13 @@
 #include "app/TextWindow.h"
 
 #include "widgets/Fonts.h"
+#include "widgets/PlainText.h"
 #include "widgets/Twips.h"
-#include <QPlainTextEdit>
 #include <QVBoxLayout>
 
 TextWindow::TextWindow(const QString& name, const QString& caption, const QString& text, QWidget* owner)
     : QDialog(owner)
-    , Text1(new QPlainTextEdit(this))
+    , Text1(new PlainText(this))
 {
     setObjectName(name);
     setAttribute(Qt::WA_DeleteOnClose);

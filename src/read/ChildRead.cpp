@@ -47,7 +47,7 @@ ChildRead::ChildRead(Shell& shell)
     layOut({
         {VerseText, "VerseText", "", {60, 60, 6735, 4290}},
         {lblSerial, "lblSerial", "", {6840, 3360, 975, 375}},
-        {lblVerseId, "lblVerseId", "", {6840, 3840, 585, 375}},
+        {lblVerseId, "lblVerseId", "", {6840, 3840, 855, 375}},
         {cmdNext, "cmdNext", "", {5985, 4450, 795, 400}}, // the focus starts where readers press most
         {cmdPrev, "cmdPrev", "", {5190, 4450, 795, 400}},
         {chkAuto, "chkAuto", "AutoJump to next verse after", {60, 4570, 2820, 300}},

@@ -1,6 +1,7 @@
 #include "read/TextBox.h"
 
 #include "read/ReadingSurface.h"
+#include "read/TextBoxReader.h"
 #include <algorithm>
 #include <QMimeData>
 #include <QScrollBar>
@@ -19,8 +20,9 @@ QPalette withClearSelection(QPalette palette)
 } // namespace
 
 TextBox::TextBox(QWidget* parent)
-    : QPlainTextEdit(parent)
+    : PlainText(parent)
 {
+    TextBoxReader::install();
     setPalette(withClearSelection(readingSurface(palette())));
     verticalScrollBar()->setPalette(parent->palette());
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);

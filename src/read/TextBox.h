@@ -1,13 +1,13 @@
 #pragma once
 
+#include "widgets/PlainText.h"
 #include <QList>
-#include <QPlainTextEdit>
 
 /// A box of many lines to read, to select from by mouse or keyboard, and to drag the selection out of.
 ///
 /// The editor underneath drops carriage returns and turns no-break blanks into blanks. The box keeps its text
 /// itself: text(), the offsets of a selection, and what is copied or dragged are exact to the letter.
-class TextBox : public QPlainTextEdit
+class TextBox : public PlainText
 {
     Q_OBJECT
 

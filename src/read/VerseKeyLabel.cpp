@@ -2,10 +2,22 @@
 
 #include <QPainter>
 
+QRect VerseKeyLabel::visiblePart() const
+{
+    return rect() & parentWidget()->rect().translated(-pos());
+}
+
+QString VerseKeyLabel::drawnKey() const
+{
+    QString key = text();
+    if (fontMetrics().horizontalAdvance(key) > visiblePart().width())
+        key.insert(key.indexOf(':') + 1, '\n');
+    return key;
+}
+
 void VerseKeyLabel::paintEvent(QPaintEvent*)
 {
-    const qsizetype colon = text().indexOf(':');
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(rect(), Qt::AlignCenter, text().left(colon) + "\n" + text().mid(colon + 1));
+    painter.drawText(visiblePart(), Qt::AlignCenter, drawnKey());
 }

@@ -7,10 +7,32 @@
 #include "support/Session.h"
 #include "widgets/DataControl.h"
 #include "widgets/SoftBttn.h"
+#include <QAccessible>
 #include <QClipboard>
 #include <QMimeData>
+#include <QScrollBar>
 
 namespace {
+
+/// Tells of the events of whatever it is installed on.
+class Watcher : public QObject
+{
+public:
+    explicit Watcher(std::function<void(QEvent::Type)> seen)
+        : m_seen(std::move(seen))
+    {
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        m_seen(event->type());
+        return false;
+    }
+
+private:
+    std::function<void(QEvent::Type)> m_seen;
+};
 
 class ChapterWindow : public Session
 {
@@ -281,6 +303,141 @@ TEST_F(ChapterWindow, TheTypeGrowsBySixPointsAndFallsBackFrom24To12)
         EXPECT_EQ(textOf(window).font().pointSize(), size);
     }
     EXPECT_EQ(textOf(window).selText(), currentVerse());
+}
+
+TEST_F(ChapterWindow, TheWheelWithCtrlChangesNothing)
+{
+    ChapRead& window = openChapterOf("Ps:119:1");
+    TextBox& box = textOf(window);
+    turnWheel(*box.viewport(), Qt::ControlModifier);
+    turnWheel(*box.viewport(), Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(box.font().pointSize(), 12);
+    EXPECT_EQ(box.verticalScrollBar()->value(), 0);
+    turnWheel(*box.viewport());
+    EXPECT_GT(box.verticalScrollBar()->value(), 0);
+    click(control<SoftBttn>(window, "cmdFont"));
+    EXPECT_EQ(box.font().pointSize(), 18);
+}
+
+TEST_F(ChapterWindow, AScreenReaderLearnsWhereTheCharactersStand)
+{
+    TextBox& box = textOf(openChapterOf("Ps:119:176"));
+    ASSERT_GT(box.verticalScrollBar()->value(), 0);
+    QAccessibleTextInterface* text = QAccessible::queryAccessibleInterface(&box)->textInterface();
+    ASSERT_NE(text, nullptr);
+    const QRect seen(box.viewport()->mapToGlobal(QPoint()), box.viewport()->size());
+    const int start = box.textCursor().selectionStart();
+    for (const int offset : {start, start + 5, start + 40}) {
+        const QRect place = text->characterRect(offset);
+        EXPECT_TRUE(seen.contains(place)) << offset;
+        EXPECT_EQ(text->offsetAtPoint(place.center() - QPoint(1, 0)), offset);
+        QTextCursor cursor(box.document());
+        cursor.setPosition(offset);
+        EXPECT_EQ(place.top(), box.viewport()->mapToGlobal(box.cursorRect(cursor).topLeft()).y());
+    }
+    EXPECT_LT(text->characterRect(0).bottom(), seen.top());
+    EXPECT_EQ(text->offsetAtPoint(seen.topLeft() - QPoint(5, 5)), -1);
+    text->scrollToSubstring(0, 5);
+    EXPECT_TRUE(seen.contains(text->characterRect(0)));
+    EXPECT_EQ(box.textCursor().selectionStart(), start);
+}
+
+TEST_F(ChapterWindow, AScreenReaderReadsTheTextInWordsAndLines)
+{
+    TextBox& box = textOf(openChapterOf("Ps:117:2"));
+    QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&box);
+    QAccessibleTextInterface* text = reader->textInterface();
+    EXPECT_EQ(reader->role(), QAccessible::EditableText);
+    EXPECT_EQ(reader->text(QAccessible::Name), "Chapter text");
+    EXPECT_EQ(reader->text(QAccessible::Value), box.toPlainText());
+    EXPECT_TRUE(reader->state().readOnly && reader->state().multiLine && reader->state().focused);
+    EXPECT_EQ(text->text(0, text->characterCount()), box.toPlainText());
+    int start = -1;
+    int end = -1;
+    EXPECT_TRUE(text->attributes(3, &start, &end).contains("font-size:12pt"));
+    EXPECT_EQ(text->textAtOffset(1, QAccessible::WordBoundary, &start, &end), "Ps");
+    EXPECT_EQ(start, 0);
+    EXPECT_EQ(text->textAtOffset(2, QAccessible::ParagraphBoundary, &start, &end).left(9), "Ps:117:1 ");
+    EXPECT_EQ(text->textAfterOffset(2, QAccessible::ParagraphBoundary, &start, &end).left(9), "Ps:117:2 ");
+    EXPECT_EQ(text->textBeforeOffset(start, QAccessible::ParagraphBoundary, &start, &end).left(9),
+              "Ps:117:1 ");
+    EXPECT_EQ(text->textBeforeOffset(0, QAccessible::LineBoundary, &start, &end), "");
+    EXPECT_EQ(start, -1);
+    EXPECT_EQ(text->textAfterOffset(text->characterCount(), QAccessible::LineBoundary, &start, &end), "");
+    EXPECT_EQ(text->selectionCount(), 1);
+    text->selection(0, &start, &end);
+    EXPECT_EQ(text->text(start, end), box.selText());
+    text->setSelection(0, 0, 2);
+    EXPECT_EQ(box.selText(), "Ps");
+    text->removeSelection(0);
+    EXPECT_EQ(text->selectionCount(), 0);
+    EXPECT_EQ(text->cursorPosition(), 2);
+    text->addSelection(3, 6);
+    EXPECT_EQ(box.selText(), "117");
+    text->setCursorPosition(100'000);
+    EXPECT_EQ(text->cursorPosition(), text->characterCount());
+}
+
+TEST_F(ChapterWindow, TypeSizeAndFaceStayOverTheNextGathering)
+{
+    ChapRead& window = openChapterOf("Mt:24:43");
+    click(control<SoftBttn>(window, "cmdFont"));
+    click(control<SoftBttn>(window, "cmdFntFace"));
+    openChapterOf("Mt:25:1");
+    EXPECT_EQ(textOf(window).text(), chapter("Mt:25:"));
+    EXPECT_EQ(textOf(window).font().pointSize(), 18);
+    EXPECT_EQ(textOf(window).font().family(), "Times New Roman");
+}
+
+TEST_F(ChapterWindow, CopyingWithoutAChapterCopiesTheMarkUnderAnEmptyReference)
+{
+    click(control<SoftBttn>(openChapterOf("no such verse"), "cmdChapCopy"));
+    EXPECT_EQ(clipboard(), "\r\n(PT)");
+    EXPECT_TRUE(boxes.shown.isEmpty());
+}
+
+TEST_F(ChapterWindow, TheDesignerGivesTheDataControlItsRecordSource)
+{
+    ChapRead fresh(frame());
+    EXPECT_EQ(control<DataControl>(fresh, "DataCtrl").recordSource(), "NewTestament");
+}
+
+TEST_F(ChapterWindow, TakesItsStepsInTheirOrder)
+{
+    ChapRead& window = openChapterOf("Ps:117:1");
+    TextBox& box = textOf(window);
+    QStringList steps;
+    QObject here; // nothing is noted after this test
+    const auto note = [&](const QString& step) {
+        if (QApplication::overrideCursor())
+            steps << step;
+        else
+            steps << step + " without the hourglass";
+    };
+    QObject::connect(frame().area(), &QMdiArea::subWindowActivated, &here, [&] { note("active"); });
+    QObject::connect(&window, &QWidget::windowTitleChanged, &here,
+                     [&](const QString& title) { note(title); });
+    QObject::connect(&box, &QPlainTextEdit::textChanged, &here,
+                     [&] { note(box.toPlainText().isEmpty() ? "empty" : "text"); });
+    QObject::connect(&box, &QPlainTextEdit::selectionChanged, &here, [&] {
+        if (!box.selText().isEmpty())
+            note("highlight");
+    });
+    Watcher watcher([&](QEvent::Type type) {
+        if (type == QEvent::Hide)
+            note("hidden");
+        if (type == QEvent::Show)
+            note("shown");
+    });
+    box.installEventFilter(&watcher);
+    control<DataControl>(window, "DataCtrl").currentRowChanged = [&] { note("query"); };
+    read("Ps:134:3");
+    steps.clear();
+    press(Qt::Key_F9);
+    steps.removeDuplicates();
+    EXPECT_EQ(steps, QStringList({"active", "Please wait...", "hidden", "empty", "query", "text",
+                                  "Chapter Window -- Ps:134:", "shown", "highlight"}));
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(ChapterWindow, TheFirstPressOfFontFaceGivesTimesNewRoman)

@@ -9,6 +9,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QMimeData>
+#include <QPainter>
 #include <QScrollBar>
 #include <QTimer>
 
@@ -88,6 +89,7 @@ TEST_F(Reading, NamesAndTooltipsAreTheContract)
     EXPECT_EQ(seconds().accessibleName(), "seconds");
     EXPECT_EQ(autoJump().font().family(), "Tahoma");
     EXPECT_EQ(seconds().font().family(), "Tahoma");
+    EXPECT_EQ(label("Label2").font().family(), "Tahoma");
     EXPECT_TRUE(verse().accessibleName().isEmpty());
     EXPECT_TRUE(label("lblVerseId").accessibleName().isEmpty());
     EXPECT_FALSE(label("lblSerial").isVisible());
@@ -397,6 +399,74 @@ TEST_F(Reading, AVerseLongerThanTheWindowCanBeScrolledToItsEnd)
     EXPECT_EQ(bar->value(), 0);
     hand("VerseId = 'Jn:11:35'");
     EXPECT_FALSE(bar->isVisible());
+}
+
+TEST_F(Reading, TheWheelScrollsALongVerse)
+{
+    hand("VerseId = 'Est:8:9'");
+    auto* bar = verse().findChild<QScrollBar*>();
+    turnWheel(verse());
+    EXPECT_GT(bar->value(), 0);
+    hand("VerseId = 'Jn:11:35'");
+    turnWheel(verse());
+    EXPECT_EQ(bar->value(), 0);
+    EXPECT_EQ(verse().font().pointSize(), 18);
+}
+
+TEST_F(Reading, TheWheelOverTheSecondsWithoutTheFocusChangesNothing)
+{
+    button("cmdNext").setFocus();
+    turnWheel(seconds());
+    EXPECT_EQ(seconds().currentText(), "4");
+    EXPECT_EQ(timer().interval(), 4000);
+    seconds().setFocus();
+    turnWheel(seconds());
+    EXPECT_EQ(seconds().currentText(), "5");
+    EXPECT_EQ(timer().interval(), 5000);
+}
+
+TEST_F(Reading, CopyingWithoutACurrentVerseCopiesTheMarkAlone)
+{
+    hand("VerseNumber = 0");
+    click(button("cmdCopy"));
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "\r\n (PT)");
+    EXPECT_TRUE(boxes.shown.isEmpty());
+}
+
+TEST_F(Reading, TheDesignerGivesTheDataControlItsRecordSource)
+{
+    ChildRead fresh(frame());
+    EXPECT_EQ(control<DataControl>(fresh, "DataCtl").recordSource(), "NewTestament");
+}
+
+TEST_F(Reading, TheKeyStandsWhereItWasDesignedAndMovesWithTheText)
+{
+    EXPECT_EQ(label("lblVerseId").geometry(), QRect(456, 256, 57, 25)); // 6840, 3840, 855 x 375 twips
+    outer(*window).resize(800, 500);
+    EXPECT_EQ(label("lblVerseId").geometry(), QRect(qRound((800 * 15 - 840 + 120) / 15.0), 256, 57, 25));
+}
+
+// In the part of the label that the window shows, because the window is narrower than its design.
+TEST_F(Reading, TheKeyIsDrawnWholeInOneLineOrInTwoWhereOneDoesNotFit)
+{
+    for (const auto& [id, shown] : QList<std::pair<QString, QString>>{
+             {"Mt:1:1", "Mt:1:1"}, {"1Thes:5:28", "1Thes:\n5:28"}, {"Ps:119:176", "Ps:\n119:176"}}) {
+        hand(("VerseId = '" + id + "'").toStdString());
+        QLabel& place = label("lblVerseId");
+        const QRect visible = place.geometry() & window->rect();
+        EXPECT_GE(visible.width(), 40);
+        QImage expected = window->grab().toImage();
+        QPainter painter(&expected);
+        painter.fillRect(visible, window->palette().color(QPalette::Window));
+        painter.setFont(place.font());
+        painter.setPen(place.palette().color(QPalette::WindowText));
+        painter.drawText(visible, Qt::AlignCenter, shown);
+        painter.end();
+        EXPECT_EQ(window->grab().toImage(), expected) << id.toStdString();
+        const QSize size = QFontMetrics(place.font()).boundingRect(visible, Qt::AlignCenter, shown).size();
+        EXPECT_LE(size.width(), visible.width()) << id.toStdString();
+        EXPECT_LE(size.height(), visible.height()) << id.toStdString();
+    }
 }
 
 TEST_F(Reading, TheReadingSurfaceIsPaleYellowWithDarkText)

@@ -15,6 +15,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
+#include <QWheelEvent>
 
 /// The running program under test: the real frame and its real windows over the assembled database, driven by
 /// events. Message boxes are recorded and answered, services recorded.
@@ -120,6 +121,25 @@ protected:
         while (QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents))
             if (enough.hasExpired())
                 break;
+    }
+
+    /// One step of the wheel, towards the reader, over the middle of a control.
+    static void turnWheel(QWidget& control, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        const QPointF place = control.rect().center();
+        QWheelEvent step(place, control.mapToGlobal(place), {}, QPoint(0, -120), Qt::NoButton, modifiers,
+                         Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&step); // such a one may give the focus
+        qApp->notify(&control, &step);
+    }
+
+    /// Another program comes to the front, and this one again.
+    void switchProgramsAndBack()
+    {
+        QApplication::setActiveWindow(nullptr);
+        settle();
+        QApplication::setActiveWindow(&frame());
+        settle();
     }
 
     static void click(QWidget& control) { QTest::mouseClick(&control, Qt::LeftButton); }

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QPlainTextEdit>
+#include <QWheelEvent>
+
+/// A text of many lines to read. Its type has the size that its window gives it: the wheel with Ctrl, by
+/// which QPlainTextEdit::wheelEvent would zoom, does nothing.
+class PlainText : public QPlainTextEdit
+{
+    Q_OBJECT
+
+public:
+    using QPlainTextEdit::QPlainTextEdit;
+
+protected:
+    void wheelEvent(QWheelEvent* event) override
+    {
+        if (event->modifiers() & Qt::ControlModifier)
+            event->accept();
+        else
+            QPlainTextEdit::wheelEvent(event);
+    }
+};
