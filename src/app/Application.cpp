@@ -3,6 +3,7 @@
 #include "app/FrameStyle.h"
 #include "desktop/MsgBox.h"
 #include "widgets/Fonts.h"
+#include "widgets/Hourglass.h"
 #include <cstdlib>
 #include <exception>
 #include <QLoggingCategory>
@@ -59,8 +60,7 @@ void Application::endWith(const QString& message)
     if (m_ending)
         return;
     m_ending = true;
-    while (overrideCursor())
-        restoreOverrideCursor();
+    Hourglass::restoreAll();
     MsgBox::show(message, MsgIcon::Stop);
     exit(1);
 }

@@ -1,21 +1,22 @@
 #include "app/ArrangeIcons.h"
 
+#include "widgets/Form.h"
 #include <QMdiArea>
-#include <QMdiSubWindow>
 
 void lineUpIcons(QMdiArea& area)
 {
     const QRect room = area.viewport()->rect();
     int left = 0;
     int bottom = room.height();
-    for (QMdiSubWindow* window : area.subWindowList()) {
-        if (!window->isMinimized())
+    for (const Form* form : Form::allIn(area)) {
+        if (form->state() != Form::Minimized)
             continue;
-        if (left > 0 && left + window->width() > room.width()) {
+        QWidget* icon = form->parentWidget(); // the whole window, as small as it is now
+        if (left > 0 && left + icon->width() > room.width()) {
             left = 0;
-            bottom -= window->height();
+            bottom -= icon->height();
         }
-        window->move(left, bottom - window->height());
-        left += window->width();
+        icon->move(left, bottom - icon->height());
+        left += icon->width();
     }
 }

@@ -2,16 +2,14 @@
 
 #include "app/MDIParent.h"
 #include "widgets/Form.h"
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QMessageBox>
 
 QString helpPageOf(const QWidget* widget)
 {
     for (; widget; widget = widget->parentWidget()) {
         if (const auto* frame = qobject_cast<const MDIParent*>(widget)) {
-            const QMdiSubWindow* active = frame->area()->currentSubWindow();
-            return active && active->widget() ? active->widget()->objectName() : frame->objectName();
+            const Form* active = Form::activeIn(*frame->area());
+            return active ? active->objectName() : frame->objectName();
         }
         if (qobject_cast<const QMessageBox*>(widget))
             continue;

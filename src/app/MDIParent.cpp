@@ -2,17 +2,19 @@
 
 #include "app/ArrangeIcons.h"
 #include "app/HelpPage.h"
+#include "app/KeyPreview.h"
 #include "app/Notepad.h"
 #include "app/Program.h"
 #include "desktop/BasePath.h"
 #include "help/Help.h"
+#include "widgets/Hourglass.h"
 #include "widgets/Menus.h"
 #include "widgets/SoftBttn.h"
 #include "widgets/Twips.h"
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMdiArea>
-#include <QMdiSubWindow>
+#include <QMdiSubWindow> // complete, for QMdiArea::subWindowActivated
 #include <QMenuBar>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -27,6 +29,7 @@ MDIParent::MDIParent(Program& program)
     , m_program(program)
     , m_area(new QMdiArea(this))
     , m_help(std::make_unique<Help>(program.basePath + helpFileName, helpPageOf))
+    , m_keys(std::make_unique<KeyPreview>(*m_help))
 {
     setObjectName("MDIParent");
     setWindowTitle("Kestrel Reader: Portuguese Version - Freeware");
@@ -96,7 +99,7 @@ Window& MDIParent::single(QPointer<Window>& window, Arguments&... arguments)
 
 void MDIParent::openSelection()
 {
-    single(m_select).restoreAndActivate();
+    single(m_select).askForReference();
 }
 
 void MDIParent::openSearch()
@@ -130,7 +133,7 @@ void MDIParent::exit()
     close();
 }
 
-void MDIParentlineUpIcons()
+void MDIParent::arrangeIcons()
 {
     lineUpIcons(*m_area);
 }
@@ -148,6 +151,11 @@ ChapRead& MDIParent::chapterWindow()
 ChildMapDsp& MDIParent::mapWindow()
 {
     return single(m_mapDsp);
+}
+
+QList<Form*> MDIParent::windows() const
+{
+    return Form::allIn(*m_area);
 }
 
 ProgramFlags& MDIParent::flags()
@@ -168,8 +176,7 @@ void MDIParent::MDIForm_Load()
 void MDIParent::MDIForm_Activate()
 {
     m_program.unloadStartWindow();
-    while (QApplication::overrideCursor())
-        QApplication::restoreOverrideCursor();
+    Hourglass::restoreAll();
 }
 
 void MDIParent::MDIForm_Unload()
@@ -192,11 +199,10 @@ void MDIParent::closeEvent(QCloseEvent* event)
     MDIForm_Unload();
 }
 
-void MDIParent::childActivated(QMdiSubWindow*)
+void MDIParent::childActivated()
 {
     // Asks the area, because subWindowActivated() carries nullptr while another application is active.
-    QMdiSubWindow* window = m_area->currentSubWindow();
-    Form* form = window ? qobject_cast<Form*>(window->widget()) : nullptr;
+    Form* form = Form::activeIn(*m_area);
     if (form == m_activeForm && form)
         return;
     if (m_activeForm)

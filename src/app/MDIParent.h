@@ -13,9 +13,9 @@
 
 class Form;
 class Help;
+class KeyPreview;
 class Program;
 class QMdiArea;
-class QMdiSubWindow;
 class QMenu;
 class SoftBttn;
 
@@ -49,6 +49,7 @@ public:
     ChildRead& readingWindow() override;
     ChapRead& chapterWindow() override;
     ChildMapDsp& mapWindow() override;
+    QList<Form*> windows() const override;
     ProgramFlags& flags() override;
     QString basePath() const override;
 
@@ -67,12 +68,13 @@ private:
     void makeToolbar();
     template <class Window, class... Arguments>
     Window& single(QPointer<Window>& window, Arguments&... arguments);
-    void childActivated(QMdiSubWindow* window);
+    void childActivated();
     void showMenus(const QList<QMenu*>& menus);
 
     Program& m_program;
     QMdiArea* m_area;
     std::unique_ptr<Help> m_help;
+    std::unique_ptr<KeyPreview> m_keys;
     QList<QMenu*> m_menus;
     QPointer<Form> m_activeForm;
     QPointer<ChildSelect> m_select;

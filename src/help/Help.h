@@ -8,8 +8,7 @@
 class HelpWindow;
 class QWidget;
 
-/// The way to the help: F1 anywhere in the program, also while a box or the About window is open, shows the
-/// page of the active window.
+/// The way to the help: it shows the page of the active window, also while a box or the About window is open.
 class Help : public QObject
 {
     Q_OBJECT
@@ -27,9 +26,6 @@ public:
 
     /// The open help window; nullptr when there is none.
     HelpWindow* window() const;
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     const QString m_path;

@@ -10,17 +10,6 @@ bool isLastQuery(const SearchInputs& inputs, const SearchMemory& memory)
     return firstHalf && same(inputs.text2, memory.LastText2) && inputs.connective == memory.LastConnective;
 }
 
-QString trimBlanks(const QString& text)
-{
-    qsizetype first = 0;
-    qsizetype end = text.size();
-    while (first < end && text[first] == ' ')
-        ++first;
-    while (end > first && text[end - 1] == ' ')
-        --end;
-    return text.mid(first, end - first);
-}
-
 QString escapeQuotes(QString word)
 {
     return word.replace('\'', '?');

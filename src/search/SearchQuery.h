@@ -19,9 +19,6 @@ struct SearchInputs
 /// connective while there is no second word.
 bool isLastQuery(const SearchInputs& inputs, const SearchMemory& memory);
 
-/// Leading and trailing blanks cut off, no other white space.
-QString trimBlanks(const QString& text);
-
 /// Each apostrophe replaced by "?", any one character. Nothing else is escaped: wildcards keep their meaning.
 QString escapeQuotes(QString word);
 

@@ -6,7 +6,6 @@
 #include "desktop/ErrorText.h"
 #include "desktop/MsgBox.h"
 #include "read/ChildRead.h"
-#include "search/AccessKeys.h"
 #include "search/CopiedResults.h"
 #include "search/SearchRanges.h"
 #include "store/DataError.h"
@@ -18,6 +17,7 @@
 #include "widgets/Menus.h"
 #include "widgets/Shell.h"
 #include "widgets/SoftBttn.h"
+#include "widgets/Text.h"
 #include "widgets/Twips.h"
 #include <QApplication>
 #include <QCheckBox>
@@ -76,10 +76,9 @@ frmAdvSearch::frmAdvSearch(Shell& shell, SearchMemory& memory)
     placeControls();
 
     QMenu* edit = Menus::make(*this, "mnuEdit", "&Edit");
-    Menus::addItem(edit, "mnuCopySR", "&Copy Search Results to Clipboard", {}, [this] { cmdCopySR_Click(); });
-    mnuCopySR = edit->actions().constFirst();
+    mnuCopySR = Menus::addItem(edit, "mnuCopySR", "&Copy Search Results to Clipboard", {},
+                               [this] { cmdCopySR_Click(); });
     makeMenus({edit});
-    new AccessKeys(*this);
     connectControls();
 }
 

@@ -48,6 +48,7 @@ protected:
     void Form_Resize() override;
     void Form_Unload() override;
     bool Form_KeyDown(QKeyEvent& event) override;
+    bool hasAccessKeys() const override { return true; }
 
 private:
     void Text1_Change();

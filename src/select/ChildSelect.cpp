@@ -9,6 +9,7 @@
 #include "widgets/Layout.h"
 #include "widgets/Shell.h"
 #include "widgets/SoftBttn.h"
+#include "widgets/Text.h"
 #include "widgets/Twips.h"
 #include <QComboBox>
 #include <QHeaderView>
@@ -53,6 +54,12 @@ void ChildSelect::Form_Load()
     Combo1->setEditText("Mt");
     setOuterPosition(0, 0);
     setOuterSize(6135 + 260, 3135 + 555 + 460);
+}
+
+void ChildSelect::askForReference()
+{
+    restoreAndActivate();
+    Form_Activate(); // the focus may stand elsewhere in a window that is active already
 }
 
 void ChildSelect::Form_Activate()
@@ -128,5 +135,5 @@ void ChildSelect::cmdExamples_Click()
 
 QString ChildSelect::reference() const
 {
-    return Combo1->currentText().trimmed();
+    return trimBlanks(Combo1->currentText());
 }

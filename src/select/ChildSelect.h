@@ -14,6 +14,9 @@ class ChildSelect : public Form
 public:
     explicit ChildSelect(Shell& shell);
 
+    /// Shows the window with the focus in the reference box and its text selected.
+    void askForReference();
+
 protected:
     void Form_Load() override;
     void Form_Activate() override;

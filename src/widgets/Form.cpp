@@ -1,5 +1,6 @@
 #include "widgets/Form.h"
 
+#include "widgets/AccessKeys.h"
 #include "widgets/Menus.h"
 #include "widgets/SpokenWindow.h"
 #include "widgets/Twips.h"
@@ -37,7 +38,6 @@ Form::Form(Shell& shell, const QString& name)
     : m_shell(shell)
 {
     setObjectName(name);
-    qApp->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         // Kept here because QMdiSubWindow forgets it when another window becomes active. A hidden control is
         // left out: QMdiSubWindow hides its widget while the state changes, which moves the focus on.
@@ -59,6 +59,42 @@ void Form::loadInto(QMdiArea& area)
     connect(window, &QMdiSubWindow::windowStateChanged, this, &Form::windowStateChanged);
     m_loaded = true;
     Form_Load();
+    showBehind(area.currentSubWindow());
+}
+
+void Form::showBehind(QMdiSubWindow* active)
+{
+    QMdiSubWindow* const window = subWindow();
+    window->setEnabled(false); // or QMdiSubWindow::showEvent would make it the active one
+    window->show();
+    window->setEnabled(true);
+    if (active)
+        window->stackUnder(active);
+}
+
+QList<Form*> Form::allIn(const QMdiArea& area)
+{
+    QList<Form*> forms;
+    for (const QMdiSubWindow* window : area.subWindowList())
+        if (auto* form = qobject_cast<Form*>(window->widget()))
+            forms << form;
+    return forms;
+}
+
+Form* Form::activeIn(const QMdiArea& area)
+{
+    const QMdiSubWindow* window = area.currentSubWindow();
+    return window ? qobject_cast<Form*>(window->widget()) : nullptr;
+}
+
+Form* Form::of(QWidget* widget)
+{
+    for (; widget && !widget->isWindow(); widget = widget->parentWidget()) {
+        const auto* window = qobject_cast<QMdiSubWindow*>(widget);
+        if (auto* form = qobject_cast<Form*>(window ? window->widget() : widget))
+            return form;
+    }
+    return nullptr;
 }
 
 QString Form::caption() const
@@ -167,12 +203,30 @@ void Form::becomeActive(bool active)
     if (active == m_active)
         return;
     m_active = active;
-    if (active) {
-        takeFocus();
-        Form_Activate();
-    } else {
+    if (!active) {
         Form_Deactivate();
+        return;
     }
+    takeFocus();
+    Form_Activate();
+    if (m_clicked)
+        m_clicked->setFocus(Qt::MouseFocusReason);
+    m_clicked.clear();
+}
+
+bool Form::preview(QKeyEvent& event)
+{
+    if (mouseGrabber() && mouseGrabber() == subWindow())
+        return false; // QMdiSubWindow grabs the mouse while it is moved or sized by keyboard
+    if (hasAccessKeys() && pressAccessKey(*this, event))
+        return true;
+    return event.type() == QEvent::KeyPress && Form_KeyDown(event);
+}
+
+void Form::focusedByMouse(QWidget& control)
+{
+    if (!m_active && isAncestorOf(&control))
+        m_clicked = &control;
 }
 
 void Form::makeMenus(const QList<QMenu*>& own, bool plainToolsItem)
@@ -216,13 +270,6 @@ bool Form::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == subWindow() && event->type() == QEvent::MouseButtonPress)
         m_pressedAt = subWindow()->geometry();
-    // Only the widget with the focus: a key that it leaves alone travels up through its parents and passes
-    // here again.
-    if (event->type() == QEvent::KeyPress && watched == QApplication::focusWidget()) {
-        auto* widget = static_cast<QWidget*>(watched);
-        if (widget == this || isAncestorOf(widget) || widget == subWindow())
-            return Form_KeyDown(static_cast<QKeyEvent&>(*event));
-    }
     return QWidget::eventFilter(watched, event);
 }
 

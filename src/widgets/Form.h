@@ -26,9 +26,16 @@ public:
 
     ~Form() override;
 
-    /// Puts the window into the area and runs Form_Load. It is not shown yet, so that whoever loads it can
-    /// hand something to it before Form_Activate.
+    /// Puts the window into the area, runs Form_Load and shows the window behind the active one, so that
+    /// whoever loads it can hand something to it before Form_Activate.
     void loadInto(QMdiArea& area);
+
+    /// The windows of an area in the order in which they were loaded; and the active one, nullptr when there
+    /// is none. It stays the active one while another program is in front.
+    static QList<Form*> allIn(const QMdiArea& area);
+    static Form* activeIn(const QMdiArea& area);
+    /// The window that a widget belongs to: itself, one of its controls, its title bar; else nullptr.
+    static Form* of(QWidget* widget);
 
     QString caption() const;
     void setCaption(const QString& caption);
@@ -51,6 +58,13 @@ public:
 
     /// The frame tells the window that it became the active one, or that another did.
     void becomeActive(bool active);
+    bool isActive() const { return m_active; }
+    /// The frame tells the window of a key that is about to go to its control with the focus; true keeps the
+    /// key from it. Nothing happens while the window is moved or sized by keyboard.
+    bool preview(QKeyEvent& event);
+    /// The frame tells the window that the mouse gave the focus to one of its controls. If that activates the
+    /// window, the focus stays there whatever Form_Activate does with it.
+    void focusedByMouse(QWidget& control);
 
 Q_SIGNALS:
     /// The window was closed; the next reference loads a fresh one.
@@ -68,6 +82,8 @@ protected:
     /// A key goes down anywhere in the window, before the control with the focus sees it. The control sees it
     /// all the same, unless this returns true.
     virtual bool Form_KeyDown(QKeyEvent&) { return false; }
+    /// Whether the Alt keys of this window's controls win over those of menus.
+    virtual bool hasAccessKeys() const { return false; }
 
     /// Sets the window's menu bar: the shared menus with the window's own between File and Search.
     void makeMenus(const QList<QMenu*>& own, bool plainToolsItem = false);
@@ -81,6 +97,7 @@ protected:
 
     Shell& shell() const { return m_shell; }
 
+    /// Of the window in the area alone.
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -89,12 +106,14 @@ private:
     QMdiSubWindow* subWindow() const;
     /// Gives the focus to the control that had it last, else to the first that can have it.
     void takeFocus();
+    void showBehind(QMdiSubWindow* active);
     void scrollIntoView();
     void windowStateChanged(Qt::WindowStates oldState, Qt::WindowStates newState);
 
     Shell& m_shell;
     QList<QMenu*> m_menus;
     QPointer<QWidget> m_lastFocus;
+    QPointer<QWidget> m_clicked; ///< has the focus by the mouse, and the window is about to become active
     QRect m_pressedAt; ///< the whole window when a mouse button last went down on its border
     bool m_loaded = false;
     bool m_active = false;

@@ -21,6 +21,13 @@ public:
         m_shown = false;
     }
 
+    /// Brings the default pointer back whoever still shows another.
+    static void restoreAll()
+    {
+        while (QGuiApplication::overrideCursor())
+            QGuiApplication::restoreOverrideCursor();
+    }
+
 private:
     bool m_shown = true;
 };

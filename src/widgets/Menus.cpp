@@ -2,37 +2,23 @@
 
 #include "widgets/Form.h"
 #include "widgets/Shell.h"
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QMenu>
 
 namespace {
 
-QMdiArea* areaOf(const Form& form)
-{
-    const auto* window = qobject_cast<QMdiSubWindow*>(form.parentWidget());
-    return window ? window->mdiArea() : nullptr;
-}
-
 // Everything below the separator after "Arrange Icons" is the list of windows, made anew each time.
-void listWindows(QMenu& menu, const Form& form)
+void listWindows(QMenu& menu, const Shell& shell)
 {
     for (QAction* entry : menu.actions())
         if (entry->objectName().isEmpty())
             delete entry;
-    const QMdiArea* area = areaOf(form);
-    if (!area)
-        return;
     int number = 0;
-    for (QMdiSubWindow* window : area->subWindowList()) {
-        const QString caption = QString(window->windowTitle()).replace("&", "&&");
+    for (Form* window : shell.windows()) {
+        const QString caption = window->caption().replace("&", "&&");
         QAction* entry = menu.addAction(QString("&%1 %2").arg(++number).arg(caption));
         entry->setCheckable(true);
-        entry->setChecked(window == area->currentSubWindow());
-        QObject::connect(entry, &QAction::triggered, window, [window] {
-            if (auto* chosen = qobject_cast<Form*>(window->widget()))
-                chosen->restoreAndActivate();
-        });
+        entry->setChecked(window->isActive());
+        QObject::connect(entry, &QAction::triggered, window, &Form::restoreAndActivate);
     }
 }
 
@@ -45,13 +31,14 @@ QMenu* Menus::make(QWidget& owner, const QString& name, const QString& caption)
     return menu;
 }
 
-void Menus::addItem(QMenu* menu, const QString& name, const QString& caption, const QKeySequence& shortcut,
-                    std::function<void()> command)
+QAction* Menus::addItem(QMenu* menu, const QString& name, const QString& caption,
+                        const QKeySequence& shortcut, std::function<void()> command)
 {
     QAction* item = menu->addAction(caption);
     item->setObjectName(name);
     item->setShortcut(shortcut);
     QObject::connect(item, &QAction::triggered, menu, std::move(command));
+    return item;
 }
 
 void Menus::addSeparator(QMenu* menu, const QString& name)
@@ -85,12 +72,12 @@ QMenu* Menus::tools(QWidget& owner, Shell& shell, bool plainItem)
     return menu;
 }
 
-QMenu* Menus::window(Form& owner, Shell& shell)
+QMenu* Menus::window(QWidget& owner, Shell& shell)
 {
     QMenu* menu = make(owner, "mnuWindow", "&Window");
     addItem(menu, "mnuArrangeIco", "&Arrange Icons", {}, [&shell] { shell.arrangeIcons(); });
     addSeparator(menu, "mnuSepWindows");
-    QObject::connect(menu, &QMenu::aboutToShow, &owner, [menu, &owner] { listWindows(*menu, owner); });
+    QObject::connect(menu, &QMenu::aboutToShow, &owner, [menu, &shell] { listWindows(*menu, shell); });
     return menu;
 }
 

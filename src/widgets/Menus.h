@@ -4,7 +4,7 @@
 #include <QKeySequence>
 #include <QString>
 
-class Form;
+class QAction;
 class QMenu;
 class QWidget;
 class Shell;
@@ -18,13 +18,13 @@ QMenu* search(QWidget& owner, Shell& shell);
 /// purpose.
 QMenu* tools(QWidget& owner, Shell& shell, bool plainItem = false);
 /// Lists the frame's open windows whenever it is about to show.
-QMenu* window(Form& owner, Shell& shell);
+QMenu* window(QWidget& owner, Shell& shell);
 QMenu* help(QWidget& owner, Shell& shell);
 
 /// An empty menu, and an item for it. Names are those in the code: `mnuEdit`, `mnuCopy`.
 QMenu* make(QWidget& owner, const QString& name, const QString& caption);
-void addItem(QMenu* menu, const QString& name, const QString& caption, const QKeySequence& shortcut,
-             std::function<void()> command);
+QAction* addItem(QMenu* menu, const QString& name, const QString& caption, const QKeySequence& shortcut,
+                 std::function<void()> command);
 void addSeparator(QMenu* menu, const QString& name);
 
 } // namespace Menus

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 class ChapRead;
 class ChildMapDsp;
 class ChildRead;
+class Form;
 struct ProgramFlags;
 
 /// What any window may ask of the program around it. The main frame implements it, so that no window includes
@@ -28,6 +30,9 @@ public:
     virtual ChildRead& readingWindow() = 0;
     virtual ChapRead& chapterWindow() = 0;
     virtual ChildMapDsp& mapWindow() = 0;
+
+    /// The open child windows, in the order in which they were loaded.
+    virtual QList<Form*> windows() const = 0;
 
     virtual ProgramFlags& flags() = 0;
     /// The program's directory with a separator at its end.

@@ -44,14 +44,6 @@ TEST(SearchMemory, BeginsEmpty)
     EXPECT_EQ(memory.LastOutcome, 0);
 }
 
-TEST(SearchWords, LoseTheirOuterBlanksAlone)
-{
-    EXPECT_EQ(trimBlanks("  o amor "), "o amor");
-    EXPECT_EQ(trimBlanks("   "), "");
-    EXPECT_EQ(trimBlanks(""), "");
-    EXPECT_EQ(trimBlanks("\tamor\t"), "\tamor\t");
-}
-
 TEST(SearchWords, HaveEachApostropheReplacedAndNothingElse)
 {
     EXPECT_EQ(escapeQuotes("Lord's"), "Lord?s");

@@ -158,6 +158,60 @@ TEST_F(FormTest, RestoreAndActivateLeavesAMaximisedWindowMaximised)
     EXPECT_NE(diary->state(), Form::Minimized);
 }
 
+TEST_F(FormTest, IsOnTheScreenButNotActiveUntilItIsActivated)
+{
+    auto* other = new Diary(frame());
+    diary->events.clear();
+    other->loadInto(*frame().area());
+    EXPECT_TRUE(other->isVisible());
+    EXPECT_TRUE(other->isEnabled());
+    EXPECT_FALSE(other->isActive());
+    EXPECT_EQ(activeForm(), diary);
+    EXPECT_TRUE(diary->isAncestorOf(QApplication::focusWidget()));
+    EXPECT_EQ(diary->events, QStringList());
+    EXPECT_FALSE(other->events.contains("Activate"));
+    switchProgramsAndBack();
+    EXPECT_EQ(activeForm(), diary);
+    other->activate();
+    EXPECT_EQ(other->events.count("Activate"), 1);
+}
+
+TEST_F(FormTest, OpensMaximisedWhileAnotherIs)
+{
+    diary->setState(Form::Maximized);
+    auto* other = new Diary(frame());
+    other->loadInto(*frame().area());
+    EXPECT_EQ(diary->state(), Form::Maximized);
+    EXPECT_EQ(activeForm(), diary);
+    other->restoreAndActivate();
+    EXPECT_EQ(activeForm(), other);
+    EXPECT_EQ(other->state(), Form::Maximized);
+    EXPECT_TRUE(other->isAncestorOf(QApplication::focusWidget()));
+}
+
+TEST_F(FormTest, AMinimisedWindowComesBackWhileAnotherIsMaximised)
+{
+    auto* other = new Diary(frame());
+    other->loadInto(*frame().area());
+    other->activate();
+    other->setState(Form::Minimized);
+    diary->activate();
+    diary->setState(Form::Maximized);
+    other->restoreAndActivate();
+    EXPECT_NE(other->state(), Form::Minimized);
+    EXPECT_EQ(activeForm(), other);
+    EXPECT_TRUE(other->isAncestorOf(QApplication::focusWidget()));
+    EXPECT_TRUE(other->first->isVisible());
+}
+
+TEST_F(FormTest, AFirstClickIntoAControlLeavesTheFocusThere)
+{
+    frame().openSelection();
+    QTest::mouseClick(diary->second, Qt::LeftButton);
+    EXPECT_TRUE(diary->isActive());
+    EXPECT_TRUE(diary->second->hasFocus());
+}
+
 TEST_F(FormTest, ClosingUnloadsItOnceAndDeletesIt)
 {
     QStringList seen;

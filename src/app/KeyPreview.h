@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QObject>
+
+class Help;
+
+/// The program's one event filter. Each key passes here before the control with the focus sees it: the child
+/// window of that control previews it, and F1 opens the help wherever it is pressed. A child window is also
+/// told when the mouse gives the focus to one of its controls.
+class KeyPreview : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// help: must outlive this.
+    explicit KeyPreview(Help& help);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    Help& m_help;
+};
