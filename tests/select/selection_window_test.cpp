@@ -4,6 +4,8 @@
 #include "text/Phrases.h"
 #include "widgets/DataControl.h"
 #include "widgets/SoftBttn.h"
+#include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTimer>
@@ -49,6 +51,17 @@ protected:
         ASSERT_NE(item, nullptr) << text.toStdString();
         tree().scrollToItem(item); // expands what hides it
         QTest::mouseClick(tree().viewport(), Qt::LeftButton, {}, tree().visualItemRect(item).center());
+    }
+
+    void expectReadingWindowBehindTheBox(const QString& caption)
+    {
+        EXPECT_EQ(activeForm(), window);
+        EXPECT_TRUE(window->isActive());
+        ASSERT_NE(open<ChildRead>(), nullptr);
+        EXPECT_TRUE(get<ChildRead>().isVisible());
+        EXPECT_FALSE(get<ChildRead>().isActive());
+        EXPECT_TRUE(get<ChildRead>().isEnabled());
+        EXPECT_EQ(get<ChildRead>().caption(), caption);
     }
 
     SoftBttn& button(const QString& name) const { return control<SoftBttn>(*window, name); }
@@ -398,6 +411,7 @@ TEST_F(Selection, NoTypedReferenceJoinsTheList)
 
 TEST_F(Selection, AnApostropheEndsTheProgramWithTheEnginesOwnText)
 {
+    boxes.whileShown = [this] { expectReadingWindowBehindTheBox("Reading Window -- Mt:1:1"); };
     QTimer::singleShot(0, [this] {
         type("Mt'");
         press(Qt::Key_Return);
@@ -409,6 +423,135 @@ TEST_F(Selection, AnApostropheEndsTheProgramWithTheEnginesOwnText)
     EXPECT_TRUE(boxes.shown[0].text.contains("syntax error") ||
                 boxes.shown[0].text.contains("unrecognized token"))
         << boxes.shown[0].text.toStdString();
+}
+
+TEST_F(Selection, ReferringToTheReadingWindowOpensItBehindTheMessage)
+{
+    boxes.whileShown = [this] {
+        expectReadingWindowBehindTheBox("Reading Window -- ");
+        switchProgramsAndBack();
+        expectReadingWindowBehindTheBox("Reading Window -- ");
+        EXPECT_EQ(menuBarCaptions(), QStringList({"&File", "&Search", "&Tools", "&Window", "&Help"}));
+    };
+    EXPECT_EQ(lookUp("Xy"), "Mt:1:1");
+    ASSERT_EQ(boxes.shown.size(), 1);
+    EXPECT_EQ(activeForm(), &get<ChildRead>());
+}
+
+TEST_F(Selection, AutoJumpRestsWhileTheFailureBoxStands)
+{
+    lookUp("Mt:5");
+    ChildRead& reading = get<ChildRead>();
+    control<QCheckBox>(reading, "chkAuto").setChecked(true);
+    QTimer& timer = control<QTimer>(reading, "Timer1");
+    timer.setInterval(1);
+    boxes.whileShown = [&] {
+        EXPECT_FALSE(timer.isActive());
+        QTest::qWait(20);
+        EXPECT_EQ(reading.currentKey(), "");
+    };
+    EXPECT_EQ(lookUp("Xy"), "Mt:5:1");
+    ASSERT_EQ(boxes.shown.size(), 1);
+    EXPECT_TRUE(timer.isActive());
+}
+
+TEST_F(Selection, OtherWhiteSpaceThanBlanksIsNotTrimmed)
+{
+    for (const QChar space : {u'\t', u'\n', u'\u00a0'}) {
+        window->activate();
+        box->selectAll();
+        QApplication::clipboard()->setText(QString("Lk:2") + space);
+        press(Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(combo().currentText(), QString("Lk:2") + space);
+        boxes.shown.clear();
+        press(Qt::Key_Return);
+        ASSERT_EQ(boxes.shown.size(), 1) << int(space.unicode());
+        EXPECT_EQ(boxes.shown[0].title, "Try Again!");
+        EXPECT_EQ(get<ChildRead>().currentKey(), "Mt:1:1");
+    }
+}
+
+TEST_F(Selection, AReferenceWithANulFindsNoVerse)
+{
+    const QString nul(QChar::Null);
+    for (const QString& reference : {"Mt" + nul, nul + "Mt", "Mt" + nul + ":5", "[!" + nul + "]t", nul}) {
+        window->activate();
+        box->setText(reference);
+        boxes.shown.clear();
+        press(Qt::Key_Return);
+        ASSERT_EQ(boxes.shown.size(), 1);
+        EXPECT_EQ(boxes.shown[0].text, "Incorrect user input. No such verse.");
+        EXPECT_EQ(get<ChildRead>().currentKey(), "Mt:1:1");
+    }
+}
+
+TEST_F(Selection, TheSelectCommandGivesTheBoxTheFocusAlsoInTheActiveWindow)
+{
+    const QList<std::function<void()>> commands = {
+        [] { press(Qt::Key_F2); },
+        [this] { click(*frame().cmdSelect); },
+        [this] { choose("mnuSelect"); },
+    };
+    for (const auto& command : commands)
+        for (QWidget* other : std::initializer_list<QWidget*>{&tree(), &button("cmdExamples")}) {
+            other->setFocus();
+            box->deselect();
+            command();
+            EXPECT_TRUE(combo().hasFocus());
+            EXPECT_EQ(box->selectedText(), "Mt");
+            EXPECT_EQ(activeForm(), window);
+        }
+}
+
+TEST_F(Selection, AFirstClickIntoTheTreeLeavesTheFocusThere)
+{
+    frame().readingWindow().activate();
+    ASSERT_NE(activeForm(), window);
+    clickNode("Atos -- Acts");
+    EXPECT_EQ(activeForm(), window);
+    EXPECT_TRUE(tree().hasFocus());
+    EXPECT_EQ(combo().currentText(), "Acts:");
+    frame().readingWindow().activate();
+    QTest::mouseClick(&outer(*window), Qt::LeftButton, {}, QPoint(100, 8)); // on the title bar
+    EXPECT_EQ(activeForm(), window);
+    EXPECT_TRUE(combo().hasFocus());
+}
+
+TEST_F(Selection, ClickingTheChosenBookAgainPutsItBackIntoTheBox)
+{
+    clickNode("Atos -- Acts");
+    type("Lk:2");
+    clickNode("Atos -- Acts");
+    EXPECT_EQ(combo().currentText(), "Acts:");
+}
+
+TEST_F(Selection, TheWheelOverTheBoxWithoutTheFocusChangesNothing)
+{
+    combo().setCurrentIndex(3);
+    tree().setFocus();
+    turnWheel(combo());
+    turnWheel(*box);
+    EXPECT_EQ(combo().currentIndex(), 3);
+    combo().setFocus();
+    turnWheel(combo());
+    EXPECT_EQ(combo().currentIndex(), 4);
+}
+
+TEST_F(Selection, EnterAndEscBelongToTheWindowWhileItIsMovedByKeyboard)
+{
+    for (const char* operation : {"&Move", "&Size"})
+        for (const Qt::Key end : {Qt::Key_Return, Qt::Key_Escape}) {
+            window->activate();
+            for (QAction* action : outer(*window).systemMenu()->actions())
+                if (action->text() == operation)
+                    action->trigger();
+            ASSERT_EQ(QWidget::mouseGrabber(), &outer(*window)) << operation;
+            press(end);
+            EXPECT_EQ(open<ChildRead>(), nullptr) << operation;
+            EXPECT_EQ(QWidget::mouseGrabber(), nullptr) << operation;
+        }
+    press(Qt::Key_Return);
+    EXPECT_NE(open<ChildRead>(), nullptr);
 }
 
 TEST_F(Selection, TheTreeFollowsTheWindowsSize)
