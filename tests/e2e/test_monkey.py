@@ -60,7 +60,8 @@ class Monkey:
         if kind < 0.8:
             return ["key", "--clearmodifiers", self.random.choice(KEYS)]
         x, y = (str(self.random.choice(side)) for side in self.area)
-        return ["mousemove", x, y, "click", "--repeat", self.random.choice("1112"), "--delay", "20", "1"]
+        button = self.random.choice("111145")  # the wheel is buttons 4 and 5
+        return ["mousemove", x, y, "click", "--repeat", self.random.choice("1112"), "--delay", "20", button]
 
     def act(self):
         commands = []

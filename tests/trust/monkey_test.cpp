@@ -128,10 +128,12 @@ protected:
             clickControl();
         else if (kind < 83)
             chooseMenuItem();
-        else if (kind < 90)
+        else if (kind < 89)
             changeWindow();
-        else if (kind < 94)
+        else if (kind < 92)
             chooseInCombo();
+        else if (kind < 94)
+            turnTheWheel();
         else if (kind < 97)
             letTimePass();
         else
@@ -222,6 +224,17 @@ protected:
         QTest::mouseClick(widget, Qt::LeftButton, {}, place);
         if (twice && alive && alive->isVisible())
             QTest::mouseDClick(alive, Qt::LeftButton, {}, place);
+    }
+
+    void turnTheWheel()
+    {
+        closePopups();
+        const QList<QWidget*> widgets = clickable();
+        if (widgets.isEmpty())
+            return;
+        QWidget* widget = anyOf(widgets);
+        tell(QString("turn the wheel over %1 of %2").arg(nameOf(widget), nameOf(widget->parentWidget())));
+        turnWheel(*widget, anyOf(QList<Qt::KeyboardModifiers>{{}, Qt::ControlModifier, Qt::ShiftModifier}));
     }
 
     void chooseMenuItem()
