@@ -31,9 +31,11 @@ struct Search
 benchmark::State* measured = nullptr; ///< whose clock runs now
 QString messageText;
 
-frmAdvSearch& window()
+/// A control of the search window.
+template <class Control>
+Control& control(const QString& name)
 {
-    return *QApplication::activeWindow()->findChild<frmAdvSearch*>();
+    return *QApplication::activeWindow()->findChild<frmAdvSearch*>()->findChild<Control*>(name);
 }
 
 void settle()
@@ -43,37 +45,36 @@ void settle()
 }
 
 /// Makes the next search another one than the last, so that it is run and not repeated.
-void forgetLast(frmAdvSearch& form)
+void forgetLast()
 {
-    form.Text1->setText("never searched for");
-    form.Text2->clear();
-    form.cmdOK->click();
+    control<QLineEdit>("Text1").setText("never searched for");
+    control<QLineEdit>("Text2").clear();
+    control<SoftBttn>("cmdOK").click();
 }
 
-void set(frmAdvSearch& form, const Search& search)
+void set(const Search& search)
 {
-    form.Text1->setText(search.text1);
-    form.Text2->setText(search.text2);
-    form.Combo1->setCurrentIndex(search.connective);
-    form.Combo2->setCurrentIndex(search.range);
-    form.chkWholeWrd->setChecked(search.wholeWord);
+    control<QLineEdit>("Text1").setText(search.text1);
+    control<QLineEdit>("Text2").setText(search.text2);
+    control<QComboBox>("Combo1").setCurrentIndex(search.connective);
+    control<QComboBox>("Combo2").setCurrentIndex(search.range);
+    control<QCheckBox>("chkWholeWrd").setChecked(search.wholeWord);
 }
 
 void run(benchmark::State& state, const Search& search)
 {
-    frmAdvSearch& form = window();
     for (auto _ : state) {
         state.PauseTiming();
-        forgetLast(form);
-        set(form, search);
+        forgetLast();
+        set(search);
         settle();
         measured = &state;
         state.ResumeTiming();
-        form.cmdOK->click(); // the message stops the clock
+        control<SoftBttn>("cmdOK").click(); // the message stops the clock
         if (!messageText.endsWith("found.") && messageText != "No matching verses.")
             state.SkipWithError("the search failed");
         settle();
-        form.cmdHideList->click();
+        control<SoftBttn>("cmdHideList").click();
         settle();
         state.ResumeTiming();
     }

@@ -4,6 +4,8 @@
 #include "desktop/Clipboard.h"
 #include "maps/MapPicture.h"
 #include "maps/ScrollByKey.h"
+#include "widgets/DataControl.h"
+#include "widgets/Layout.h"
 #include "widgets/Menus.h"
 #include "widgets/ProgramFlags.h"
 #include "widgets/Shell.h"
@@ -20,23 +22,25 @@ constexpr qreal zoomFactor = 1.2;
 
 ChildMapDsp::ChildMapDsp(Shell& shell)
     : Form(shell, "ChildMapDsp")
+    , DataMap(new DataControl("DataMap", "NTMaps", this))
+    , m_content(new QWidget)
+    , Image1(new MapPicture(m_content))
+    , lblMapDesc(new QLabel(m_content))
+    , cmdZoom(new SoftBttn(PictureId::Zoom, "Zoom In/Restore Normal Size", m_content))
+    , cmdPicCopy(new SoftBttn(PictureId::CopyMap, "Copy Map to Clipboard", m_content))
     , m_surface(new QScrollArea(this))
 {
-    auto* surface = new QWidget;
-    Image1 = new MapPicture(surface);
-    Image1->setObjectName("Image1");
-    Image1->move(toPixels(60), toPixels(60));
-    lblMapDesc = new QLabel(surface);
-    lblMapDesc->setObjectName("lblMapDesc");
+    layOut({
+        {Image1, "Image1", "", {60, 60, 735, 735}},
+        {lblMapDesc, "lblMapDesc", "", {60, 60, 735, 240}},
+        {cmdZoom, "cmdZoom", "", {1680, 60, 480, 480}},
+        {cmdPicCopy, "cmdPicCopy", "", {1680, 540, 480, 480}},
+    });
     lblMapDesc->setTextFormat(Qt::PlainText);
     lblMapDesc->hide();
-    cmdZoom = new SoftBttn("cmdZoom", PictureId::Zoom, "Zoom In/Restore Normal Size", surface);
-    place(*cmdZoom, 1680, 60, 480, 480);
-    cmdPicCopy = new SoftBttn("cmdPicCopy", PictureId::CopyMap, "Copy Map to Clipboard", surface);
-    place(*cmdPicCopy, 1680, 540, 480, 480);
     m_surface->setFrameShape(QFrame::NoFrame);
     m_surface->setFocusPolicy(Qt::NoFocus);
-    m_surface->setWidget(surface);
+    m_surface->setWidget(m_content);
 
     QMenu* edit = Menus::make(*this, "mnuEdit", "&Edit");
     Menus::addItem(edit, "mnuCopy", "&Copy Map to Clipboard", Qt::CTRL | Qt::Key_C,
@@ -45,16 +49,26 @@ ChildMapDsp::ChildMapDsp(Shell& shell)
     Menus::addItem(view, "mnuZoom", "&Zoom In/Restore Normal Size", {}, [this] { cmdZoom_Click(); });
     makeMenus({edit, view});
 
-    DataMap.setRecordSource("NTMaps");
-    DataMap.currentRowChanged = [this] { DataMap_Reposition(); };
+    DataMap->currentRowChanged = [this] { DataMap_Reposition(); };
     connect(Image1, &MapPicture::dragCompleted, this, &ChildMapDsp::Image1_DragComplete);
     connect(cmdZoom, &SoftBttn::clicked, this, &ChildMapDsp::cmdZoom_Click);
     connect(cmdPicCopy, &SoftBttn::clicked, this, &ChildMapDsp::cmdPicCopy_Click);
 }
 
+void ChildMapDsp::showMap(int number)
+{
+    shell().flags().MapFirstShow = 1;
+    shell().flags().MapZoomed = 0;
+    Image1->setStretch(false);
+    DataMap->setRecordSource("SELECT * FROM NTMaps WHERE MapNumber = " + std::to_string(number));
+    DataMap->refresh();
+    setState(Normal);
+    activate();
+}
+
 void ChildMapDsp::Form_Load()
 {
-    DataMap.setDatabaseName(databasePath(shell().basePath()));
+    DataMap->setDatabaseName(databasePath(shell().basePath()));
     setOuterPosition(0, 0);
 }
 
@@ -81,9 +95,9 @@ bool ChildMapDsp::Form_KeyDown(QKeyEvent& event)
 
 void ChildMapDsp::DataMap_Reposition()
 {
-    const QString description = toText(DataMap.field("MapDesc"));
+    const QString description = toText(DataMap->field("MapDesc"));
     lblMapDesc->setText(description);
-    const std::string_view bytes = DataMap.field("Pic");
+    const std::string_view bytes = DataMap->field("Pic");
     Image1->setImage(decodedImage(QByteArray(bytes.data(), static_cast<qsizetype>(bytes.size()))));
     Image1->setAccessibleName(description);
 }
@@ -115,6 +129,6 @@ void ChildMapDsp::fitWindow()
     cmdPicCopy->move(toPixels(width + 150), cmdPicCopy->y());
     cmdZoom->move(toPixels(width + 150), cmdZoom->y());
     const QRect content = Image1->geometry() | cmdZoom->geometry() | cmdPicCopy->geometry();
-    m_surface->widget()->resize(content.right() + 1, content.bottom() + 1);
+    m_content->resize(content.right() + 1, content.bottom() + 1);
     m_surface->resize(size());
 }

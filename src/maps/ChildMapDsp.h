@@ -1,8 +1,8 @@
 #pragma once
 
-#include "store/DataSource.h"
 #include "widgets/Form.h"
 
+class DataControl;
 class MapPicture;
 class QLabel;
 class QScrollArea;
@@ -10,10 +10,6 @@ class SoftBttn;
 
 /// The map display window: one map with its description in the caption, to be enlarged and copied. The
 /// window always fits the picture.
-///
-/// Another window hands a map over by setting the flags `MapFirstShow` to 1 and `MapZoomed` to 0, the
-/// stretching of `Image1` off, and the record source of `DataMap` to an SQL text whose first row is the map,
-/// refreshing it, and setting this window's state to normal and activating it.
 class ChildMapDsp : public Form
 {
     Q_OBJECT
@@ -21,11 +17,9 @@ class ChildMapDsp : public Form
 public:
     explicit ChildMapDsp(Shell& shell);
 
-    DataSource DataMap;
-    MapPicture* Image1;
-    QLabel* lblMapDesc; ///< hidden: the caption shows the description
-    SoftBttn* cmdZoom;
-    SoftBttn* cmdPicCopy;
+    /// Shows a map of the table `NTMaps`, from 1, in its natural size: the window in its normal state, fitted
+    /// to the picture, and active. Throws DataError.
+    void showMap(int number);
 
 protected:
     void Form_Load() override;
@@ -40,6 +34,13 @@ private:
     void cmdPicCopy_Click();
 
     void fitWindow();
+
+    DataControl* DataMap;
+    QWidget* m_content;
+    MapPicture* Image1;
+    QLabel* lblMapDesc; ///< hidden: the caption shows the description
+    SoftBttn* cmdZoom;
+    SoftBttn* cmdPicCopy;
 
     QScrollArea* m_surface; ///< holds the controls, for a maximised window that is smaller than the map
 };

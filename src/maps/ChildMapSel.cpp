@@ -4,15 +4,15 @@
 #include "desktop/Platform.h"
 #include "maps/CaptionFrame.h"
 #include "maps/ChildMapDsp.h"
-#include "maps/MapPicture.h"
 #include "maps/TabStrip.h"
 #include "maps/TopicText.h"
 #include "pictures/Pictures.h"
 #include "read/ChildRead.h"
+#include "widgets/DataControl.h"
+#include "widgets/Layout.h"
 #include "widgets/ListBox.h"
 #include "widgets/ListLines.h"
 #include "widgets/Maker.h"
-#include "widgets/ProgramFlags.h"
 #include "widgets/Shell.h"
 #include "widgets/Text.h"
 #include "widgets/Twips.h"
@@ -22,18 +22,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QToolButton>
-#include <QVBoxLayout>
 
 namespace {
-
-// In twips. The pages begin below the tabs, and their frames stay away from the strip's edge.
-constexpr int stripLeft = 60;
-constexpr int stripTop = 180;
-constexpr int pageTop = 480;
-constexpr int pageMargin = 150;
-constexpr QSize stripSize(7500, 6600);
-constexpr int pageWidth = stripSize.width() - 2 * pageMargin;
-constexpr int groupHeight = 1350;
 
 struct Group
 {
@@ -57,6 +47,11 @@ const QStringList mapNames = {
     "Paul's Journey to Rome",
 };
 
+const QString invitation =
+    "Kestrel Reader is also made in other languages, free of charge like this edition. "
+    "Visit the web site of the maker to see which translations there are and to "
+    "download the ones you would like to read.";
+
 ListLines linesOf(const QStringList& texts)
 {
     ListLines lines;
@@ -65,33 +60,70 @@ ListLines linesOf(const QStringList& texts)
     return lines;
 }
 
-CaptionFrame* makeFrame(QWidget* parent, const QString& name, const QString& caption, int top, int height)
-{
-    auto* frame = new CaptionFrame(caption, parent);
-    frame->setObjectName(name);
-    place(*frame, stripLeft + pageMargin, stripTop + top, pageWidth, height);
-    return frame;
-}
-
 } // namespace
 
 ChildMapSel::ChildMapSel(Shell& shell)
     : Form(shell, "ChildMapSel")
+    , Data1(new DataControl("Data1", "ClassifiedVerses", this))
     , TabStrip1(new TabStrip(this))
+    , Frame1(new CaptionFrame("Se&lect a Group", this))
+    , Frame2(new CaptionFrame("G&roup Contents", this))
+    , Combo2(new QComboBox(Frame2))
+    , List1(new ListBox(Frame2))
+    , Frame3(new CaptionFrame("Select a M&ap", this))
+    , lstMaps(new ListBox(Frame3))
+    , Frame4(new CaptionFrame(this))
+    , Label1(new QLabel(invitation, Frame4))
+    , Image1(new QToolButton(Frame4))
+    , cmdBibWeb(new QPushButton("&Visit the Web Site", Frame4))
 {
     setCaption("Study Aids");
-    TabStrip1->setObjectName("TabStrip1");
-    TabStrip1->setAccessibleName("Study aids");
     for (const char* caption : {"&Classified Verses", "&Maps", "&Download Other Translations"})
         TabStrip1->addTab(caption);
-    place(*TabStrip1, stripLeft, stripTop, stripSize.width(), stripSize.height());
-    makeVersesPage();
-    makeMapsPage();
-    makeDownloadPage();
+    for (std::size_t index = 0; index < groups.size(); ++index)
+        optEvents[index] = new QRadioButton(groups[index].caption, Frame1);
+    Label1->setWordWrap(true);
+    Label1->setAlignment(Qt::AlignTop);
+    Image1->setIcon(iconOf(PictureId::Web));
+    Image1->setIconSize(QSize(toPixels(960), toPixels(960)));
+    Image1->setAutoRaise(true);
+    Image1->setFocusPolicy(Qt::NoFocus); // the button does the same by keyboard
+    Image1->setCursor(Qt::PointingHandCursor);
+    cmdBibWeb->setAutoDefault(true); // Enter presses it too
+    placeControls();
     makeMenus({});
+    connectControls();
+}
 
-    Data1.setRecordSource("ClassifiedVerses");
+void ChildMapSel::placeControls()
+{
+    // The frames lie on the strip below its tabs, and their controls in them.
+    layOut({
+        {TabStrip1, "TabStrip1", "Study aids", {60, 180, 7500, 6600}},
+        {Frame1, "Frame1", "", {210, 660, 7200, 1350}},
+        {optEvents[0], "optEvents", "", {135, 375, 3375, 375}},
+        {optEvents[1], "optEvents", "", {135, 825, 3375, 375}},
+        {optEvents[2], "optEvents", "", {3690, 375, 3375, 375}},
+        {optEvents[3], "optEvents", "", {3690, 825, 3375, 375}},
+        {Frame2, "Frame2", "", {210, 2160, 7200, 4470}},
+        {Combo2, "Combo2", "Topic", {135, 405, 6930, 375}},
+        {List1, "List1", "Verse references", {135, 870, 6930, 3465}},
+        {Frame3, "Frame3", "", {210, 660, 7200, 5970}},
+        {lstMaps, "lstMaps", "Maps", {135, 405, 6930, 5430}},
+        {Frame4, "Frame4", "", {210, 660, 7200, 5970}},
+        {Label1, "Label1", "", {135, 300, 6930, 1050}},
+        {Image1, "Image1", "Web site", {3060, 1440, 1080, 1080}},
+        {cmdBibWeb, "cmdBibWeb", "", {2250, 2640, 2700, 405}},
+    });
+}
+
+void ChildMapSel::connectControls()
+{
+    auto* options = new QButtonGroup(this);
+    for (std::size_t index = 0; index < groups.size(); ++index)
+        options->addButton(optEvents[index], static_cast<int>(index));
     connect(TabStrip1, &QTabBar::currentChanged, this, &ChildMapSel::TabStrip1_Click);
+    connect(options, &QButtonGroup::idClicked, this, &ChildMapSel::optEvents_Click);
     connect(Combo2, &QComboBox::activated, this, &ChildMapSel::Combo2_Click);
     connect(List1, &ListBox::keyDown, this, &ChildMapSel::List1_KeyDown);
     connect(List1, &ListBox::lineClicked, this, &ChildMapSel::List1_Click);
@@ -99,79 +131,13 @@ ChildMapSel::ChildMapSel(Shell& shell)
     connect(lstMaps, &ListBox::keyDown, this, &ChildMapSel::lstMaps_KeyDown);
     connect(lstMaps, &ListBox::lineClicked, this, &ChildMapSel::lstMaps_Click);
     connect(lstMaps, &ListBox::choosingKeyPressed, this, &ChildMapSel::lstMaps_KeyPress);
-    connect(Image1, &QAbstractButton::clicked, this, &ChildMapSel::Image1_Click);
+    connect(Image1, &QToolButton::clicked, this, &ChildMapSel::Image1_Click);
     connect(cmdBibWeb, &QPushButton::clicked, this, &ChildMapSel::cmdBibWeb_Click);
-}
-
-void ChildMapSel::makeVersesPage()
-{
-    Frame1 = makeFrame(this, "Frame1", "Se&lect a Group", pageTop, groupHeight);
-    auto* options = new QButtonGroup(this);
-    auto* columns = new QGridLayout(Frame1);
-    for (int index = 0; index < 4; ++index) {
-        auto* option = new QRadioButton(groups[index].caption, Frame1);
-        option->setObjectName("optEvents");
-        options->addButton(option, index);
-        columns->addWidget(option, index % 2, index / 2);
-        optEvents[index] = option;
-    }
-    optEvents[0]->setChecked(true);
-    connect(options, &QButtonGroup::idClicked, this, &ChildMapSel::optEvents_Click);
-
-    const int contentsTop = pageTop + groupHeight + pageMargin;
-    Frame2 = makeFrame(this, "Frame2", "G&roup Contents", contentsTop,
-                       stripSize.height() - pageMargin - contentsTop);
-    Combo2 = new QComboBox(Frame2);
-    Combo2->setObjectName("Combo2");
-    Combo2->setAccessibleName("Topic");
-    List1 = new ListBox(Frame2);
-    List1->setObjectName("List1");
-    List1->setAccessibleName("Verse references");
-    auto* contents = new QVBoxLayout(Frame2);
-    contents->addWidget(Combo2);
-    contents->addWidget(List1);
-}
-
-void ChildMapSel::makeMapsPage()
-{
-    Frame3 = makeFrame(this, "Frame3", "Select a M&ap", pageTop, stripSize.height() - pageMargin - pageTop);
-    lstMaps = new ListBox(Frame3);
-    lstMaps->setObjectName("lstMaps");
-    lstMaps->setAccessibleName("Maps");
-    (new QVBoxLayout(Frame3))->addWidget(lstMaps);
-}
-
-void ChildMapSel::makeDownloadPage()
-{
-    Frame4 = makeFrame(this, "Frame4", "", pageTop, stripSize.height() - pageMargin - pageTop);
-    Label1 = new QLabel("Kestrel Reader is also made in other languages, free of charge like this edition. "
-                        "Visit the web site of the maker to see which translations there are and to "
-                        "download the ones you would like to read.",
-                        Frame4);
-    Label1->setObjectName("Label1");
-    Label1->setWordWrap(true);
-    auto* image = new QToolButton(Frame4);
-    image->setObjectName("Image1");
-    image->setAccessibleName("Web site");
-    image->setIcon(iconOf(PictureId::Web));
-    image->setIconSize(QSize(toPixels(960), toPixels(960)));
-    image->setAutoRaise(true);
-    image->setFocusPolicy(Qt::NoFocus); // the button does the same by keyboard
-    image->setCursor(Qt::PointingHandCursor);
-    Image1 = image;
-    cmdBibWeb = new QPushButton("&Visit the Web Site", Frame4);
-    cmdBibWeb->setObjectName("cmdBibWeb");
-    cmdBibWeb->setAutoDefault(true); // Enter presses it too
-    auto* page = new QVBoxLayout(Frame4);
-    page->addWidget(Label1);
-    page->addWidget(Image1, 0, Qt::AlignHCenter);
-    page->addWidget(cmdBibWeb, 0, Qt::AlignHCenter);
-    page->addStretch();
 }
 
 void ChildMapSel::Form_Load()
 {
-    Data1.setDatabaseName(databasePath(shell().basePath()));
+    Data1->setDatabaseName(databasePath(shell().basePath()));
     lstMaps->setLines(linesOf(mapNames));
     optEvents[0]->setChecked(true);
     fillTopics("Events");
@@ -239,7 +205,7 @@ void ChildMapSel::lstMaps_Click()
     if (SkipNextClick == 1)
         SkipNextClick = 0;
     else if (lstMaps->selected() >= 0)
-        openMap(lstMaps->selected() + 1);
+        shell().mapWindow().showMap(lstMaps->selected() + 1);
 }
 
 void ChildMapSel::lstMaps_KeyPress()
@@ -262,16 +228,16 @@ void ChildMapSel::cmdBibWeb_Click()
 // The texts stand in the query as they are: no name of a topic holds an apostrophe.
 void ChildMapSel::select(const QString& condition)
 {
-    Data1.setRecordSource(("SELECT * FROM ClassifiedVerses WHERE " + condition).toStdString());
-    Data1.refresh();
+    Data1->setRecordSource(("SELECT * FROM ClassifiedVerses WHERE " + condition).toStdString());
+    Data1->refresh();
 }
 
 void ChildMapSel::fillTopics(const QString& type)
 {
     select("Type = '" + type + "'");
     Combo2->clear();
-    for (; !Data1.eof(); Data1.moveNext())
-        Combo2->addItem(topicEntry(toText(Data1.field(1))));
+    for (; !Data1->eof(); Data1->moveNext())
+        Combo2->addItem(topicEntry(toText(Data1->field(1))));
     Combo2->setCurrentIndex(0);
     fillReferences();
 }
@@ -279,25 +245,13 @@ void ChildMapSel::fillTopics(const QString& type)
 void ChildMapSel::fillReferences()
 {
     select("Name = '" + topicOf(Combo2->currentText()) + "'");
-    List1->setLines(linesOf(referenceEntries(toText(Data1.field(2)))));
+    List1->setLines(linesOf(referenceEntries(toText(Data1->field(2)))));
 }
 
 void ChildMapSel::openReference(const QString& reference)
 {
     shell().readingWindow().showFirst("SELECT * FROM NewTestament WHERE VerseId LIKE '" +
                                       reference.toStdString() + "*'");
-}
-
-void ChildMapSel::openMap(int number)
-{
-    shell().flags().MapFirstShow = 1;
-    shell().flags().MapZoomed = 0;
-    ChildMapDsp& map = shell().mapWindow();
-    map.Image1->setStretch(false);
-    map.DataMap.setRecordSource("SELECT * FROM NTMaps WHERE MapNumber = " + std::to_string(number));
-    map.DataMap.refresh();
-    map.setState(Normal);
-    map.activate();
 }
 
 void ChildMapSel::openWebSite()

@@ -1,16 +1,16 @@
 #pragma once
 
-#include "store/DataSource.h"
 #include "widgets/Form.h"
 #include <array>
 
 class CaptionFrame;
+class DataControl;
 class ListBox;
-class QAbstractButton;
 class QComboBox;
 class QLabel;
 class QPushButton;
 class QRadioButton;
+class QToolButton;
 class TabStrip;
 
 /// The study aids window: classified verses by group and topic, the list of maps, and the way to the maker's
@@ -21,20 +21,6 @@ class ChildMapSel : public Form
 
 public:
     explicit ChildMapSel(Shell& shell);
-
-    DataSource Data1;
-    TabStrip* TabStrip1;
-    CaptionFrame* Frame1;
-    std::array<QRadioButton*, 4> optEvents;
-    CaptionFrame* Frame2;
-    QComboBox* Combo2;
-    ListBox* List1;
-    CaptionFrame* Frame3;
-    ListBox* lstMaps;
-    CaptionFrame* Frame4;
-    QLabel* Label1;
-    QAbstractButton* Image1;
-    QPushButton* cmdBibWeb;
 
 protected:
     void Form_Load() override;
@@ -53,15 +39,27 @@ private:
     void Image1_Click();
     void cmdBibWeb_Click();
 
-    void makeVersesPage();
-    void makeMapsPage();
-    void makeDownloadPage();
+    void placeControls();
+    void connectControls();
     void select(const QString& condition);
     void fillTopics(const QString& type);
     void fillReferences();
     void openReference(const QString& reference);
-    void openMap(int number);
     void openWebSite();
+
+    DataControl* Data1;
+    TabStrip* TabStrip1;
+    CaptionFrame* Frame1;
+    std::array<QRadioButton*, 4> optEvents;
+    CaptionFrame* Frame2;
+    QComboBox* Combo2;
+    ListBox* List1;
+    CaptionFrame* Frame3;
+    ListBox* lstMaps;
+    CaptionFrame* Frame4;
+    QLabel* Label1;
+    QToolButton* Image1;
+    QPushButton* cmdBibWeb;
 
     /// 1 after a key went down in a list, until the next click, which it swallows. Both lists share it.
     int SkipNextClick = 0;

@@ -10,8 +10,6 @@ enum SearchOutcome : std::int16_t { ResultsListed = 0, NoMatches = 1, QueryFaile
 /// only forgets `LastText1`.
 struct SearchMemory
 {
-    QString SearchWord1; ///< as it stands in the SQL text: escaped and wrapped
-    QString SearchWord2;
     QString LastText1; ///< as it was typed, trimmed
     QString LastText2;
     std::int16_t LastConnective = 0; ///< index in `Combo1`

@@ -5,49 +5,43 @@
 
 namespace {
 
-QStringList booksOf(std::string_view testament)
+void addBooks(std::vector<SearchRange>& ranges, std::string_view testament)
 {
-    QStringList books;
     for (const Book& book : bookCatalog())
         if (book.testament == testament)
-            books << toText(book.abbreviation);
-    return books;
+            ranges.push_back({toText(book.abbreviation)});
+}
+
+std::vector<SearchRange> makeRanges()
+{
+    std::vector<SearchRange> ranges = {
+        {"Gn --> Dt (Pentateuch)", 7958, 13809}, {"Jos --> Est (Historical)", 13810, 20827},
+        {"Jb --> Sg (Poetical)", 20828, 25612},  {"Is --> Mal (Prophetic)", 25613, 31102},
+        {"All Old Testament", 7958, 31102},
+    };
+    addBooks(ranges, "Old Testament");
+    ranges.push_back({"The Four Gospels", 1, 3779});
+    ranges.push_back({"Rom --> Heb", 4787, 7122});
+    ranges.push_back({"Jms --> Jude", 7123, 7553});
+    ranges.push_back({"All New Testament", 1, 7957});
+    addBooks(ranges, "New Testament");
+    return ranges;
 }
 
 } // namespace
 
-QStringList searchRanges()
+const std::vector<SearchRange>& searchRanges()
 {
-    QStringList ranges = {"Gn --> Dt (Pentateuch)", "Jos --> Est (Historical)", "Jb --> Sg (Poetical)",
-                          "Is --> Mal (Prophetic)", "All Old Testament"};
-    ranges += booksOf("Old Testament");
-    ranges += {"The Four Gospels", "Rom --> Heb", "Jms --> Jude", "All New Testament"};
-    ranges += booksOf("New Testament");
+    static const std::vector<SearchRange> ranges = makeRanges();
     return ranges;
 }
 
 QString rangeCondition(int place, const QString& entry)
 {
-    switch (place) {
-    case 0:
-        return "VerseNumber BETWEEN 7958 AND 13809 AND ";
-    case 1:
-        return "VerseNumber BETWEEN 13810 AND 20827 AND ";
-    case 2:
-        return "VerseNumber BETWEEN 20828 AND 25612 AND ";
-    case 3:
-        return "VerseNumber BETWEEN 25613 AND 31102 AND ";
-    case 4:
-        return "VerseNumber BETWEEN 7958 AND 31102 AND ";
-    case 44:
-        return "VerseNumber BETWEEN 1 AND 3779 AND ";
-    case 45:
-        return "VerseNumber BETWEEN 4787 AND 7122 AND ";
-    case 46:
-        return "VerseNumber BETWEEN 7123 AND 7553 AND ";
-    case 47:
-        return "VerseNumber BETWEEN 1 AND 7957 AND ";
-    default:
-        return "VerseId LIKE '" + entry + "*' AND ";
-    }
+    const auto& ranges = searchRanges();
+    const bool isListed = place >= 0 && place < static_cast<int>(ranges.size());
+    const SearchRange range = isListed ? ranges[static_cast<std::size_t>(place)] : SearchRange();
+    if (range.first > 0)
+        return QString("VerseNumber BETWEEN %1 AND %2 AND ").arg(range.first).arg(range.last);
+    return "VerseId LIKE '" + entry + "*' AND ";
 }

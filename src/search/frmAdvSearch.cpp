@@ -9,9 +9,11 @@
 #include "search/CopiedResults.h"
 #include "search/SearchRanges.h"
 #include "store/DataError.h"
+#include "widgets/DataControl.h"
 #include "widgets/EnterKey.h"
 #include "widgets/Fonts.h"
 #include "widgets/Hourglass.h"
+#include "widgets/Layout.h"
 #include "widgets/ListBox.h"
 #include "widgets/ListLines.h"
 #include "widgets/Menus.h"
@@ -36,6 +38,13 @@ constexpr int listHeight = 2130;
 
 const QString resultsTitle = "Search Results:";
 
+/// A word as it stands in the SQL text.
+QString searchedWord(const QString& text, std::int16_t wholeWord)
+{
+    const QString word = escapeQuotes(text);
+    return wholeWord == 1 && !word.isEmpty() ? wrapWholeWord(word) : word;
+}
+
 /// Paper while it takes input, grey while it does not.
 void setBackgrounds(QWidget& control)
 {
@@ -53,6 +62,7 @@ void setBackgrounds(QWidget& control)
 
 frmAdvSearch::frmAdvSearch(Shell& shell, SearchMemory& memory)
     : Form(shell, "frmAdvSearch")
+    , Data1(new DataControl("Data1", "", this))
     , Label1(new QLabel("S&earch for verses containing the following text:", this))
     , Text1(new QLineEdit(this))
     , Combo1(new QComboBox(this))
@@ -62,11 +72,11 @@ frmAdvSearch::frmAdvSearch(Shell& shell, SearchMemory& memory)
     , Combo2(new QComboBox(this))
     , chkWholeWrd(new QCheckBox("Match &whole word(s) only", this))
     , Animation1(new AnimationPlayer(this))
-    , cmdOK(new SoftBttn("cmdOK", PictureId::Search, "Search", this))
-    , cmdCancel(new SoftBttn("cmdCancel", PictureId::Cancel, "Cancel/Close", this))
-    , cmdHelp(new SoftBttn("cmdHelp", PictureId::Help, "Help", this))
-    , cmdHideList(new SoftBttn("cmdHideList", PictureId::NewSearch, "New Search", this))
-    , cmdCopySR(new SoftBttn("cmdCopySR", PictureId::CopyResults, "Copy Search Results to Clipboard", this))
+    , cmdOK(new SoftBttn(PictureId::Search, "Search", this))
+    , cmdCancel(new SoftBttn(PictureId::Cancel, "Cancel/Close", this))
+    , cmdHelp(new SoftBttn(PictureId::Help, "Help", this))
+    , cmdHideList(new SoftBttn(PictureId::NewSearch, "New Search", this))
+    , cmdCopySR(new SoftBttn(PictureId::CopyResults, "Copy Search Results to Clipboard", this))
     , Label2(new QLabel("Search &results:", this))
     , List1(new ListBox(this))
     , m_memory(memory)
@@ -90,13 +100,7 @@ void frmAdvSearch::placeControls()
     Label3->setBuddy(Combo2);
     Label2->setBuddy(List1);
 
-    const struct
-    {
-        QWidget* control;
-        const char* name;
-        const char* spokenName; ///< where the control has none of its own
-        QRect twips;
-    } designs[] = {
+    layOut({
         {Label1, "Label1", "Search for verses containing the following text:", {120, 75, 7800, 240}},
         {Text1, "Text1", "Search for verses containing the following text:", {120, 330, 7800, 360}},
         {Combo1, "Combo1", "Connective", {120, 765, 2250, 360}},
@@ -113,18 +117,7 @@ void frmAdvSearch::placeControls()
         {cmdCopySR, "cmdCopySR", "", {8070, 1980, 405, 405}},
         {Label2, "Label2", "", {120, 2460, 3600, 240}},
         {List1, "List1", "Search results:", {120, 2715, listWidth, listHeight}},
-    };
-    QWidget* before = nullptr;
-    for (const auto& design : designs) {
-        design.control->setObjectName(design.name);
-        if (*design.spokenName)
-            design.control->setAccessibleName(design.spokenName);
-        place(*design.control, design.twips.x(), design.twips.y(), design.twips.width(),
-              design.twips.height());
-        if (before)
-            setTabOrder(before, design.control);
-        before = design.control;
-    }
+    });
 }
 
 void frmAdvSearch::connectControls()
@@ -144,10 +137,11 @@ void frmAdvSearch::connectControls()
 
 void frmAdvSearch::Form_Load()
 {
-    Data1.setDatabaseName(databasePath(shell().basePath()));
+    Data1->setDatabaseName(databasePath(shell().basePath()));
     Combo1->addItems({"And containing", "and Not containing", "Or containing"});
     Combo1->setCurrentIndex(0);
-    Combo2->addItems(searchRanges());
+    for (const SearchRange& range : searchRanges())
+        Combo2->addItem(range.entry);
     Combo2->setCurrentIndex(44);
     Animation1->hide();
     Animation1->open(shell().basePath() + clipFileName);
@@ -213,8 +207,6 @@ SearchInputs frmAdvSearch::inputs() const
 void frmAdvSearch::cmdOK_Click()
 {
     const SearchInputs now = inputs();
-    m_memory.SearchWord1 = now.text1;
-    m_memory.SearchWord2 = now.text2;
     if (!isLastQuery(now, m_memory)) {
         runQuery(now);
     } else if (m_memory.LastOutcome == QueryFailed) {
@@ -233,19 +225,21 @@ void frmAdvSearch::runQuery(const SearchInputs& inputs)
     remember(inputs);
     Hourglass hourglass;
     List1->clear();
-    const auto sql = searchSql(m_memory.SearchWord1, m_memory.SearchWord2, m_memory.LastConnective,
-                               rangeCondition(m_memory.LastRange, inputs.rangeText));
+    const QString SearchWord1 = searchedWord(inputs.text1, inputs.wholeWord);
+    const QString SearchWord2 = searchedWord(inputs.text2, inputs.wholeWord);
+    const auto sql = searchSql(SearchWord1, SearchWord2, inputs.connective,
+                               rangeCondition(inputs.range, inputs.rangeText));
     if (sql)
-        Data1.setRecordSource(*sql);
+        Data1->setRecordSource(*sql);
     try {
-        Data1.refresh();
+        Data1->refresh();
         fillList();
     } catch (const DataError& error) {
         hourglass.restore();
         reportFailure(error.number(), error.what());
         return;
     }
-    if (Data1.recordCount() == 0) {
+    if (Data1->recordCount() == 0) {
         hourglass.restore();
         stopClip();
         m_memory.LastOutcome = NoMatches;
@@ -262,11 +256,6 @@ void frmAdvSearch::remember(const SearchInputs& inputs)
 {
     m_memory.LastText1 = inputs.text1;
     m_memory.LastText2 = inputs.text2;
-    for (QString* word : {&m_memory.SearchWord1, &m_memory.SearchWord2}) {
-        *word = escapeQuotes(*word);
-        if (inputs.wholeWord == 1 && !word->isEmpty())
-            *word = wrapWholeWord(*word);
-    }
     m_memory.LastWholeWord = inputs.wholeWord;
     m_memory.LastConnective = inputs.connective;
     m_memory.LastRange = inputs.range;
@@ -276,8 +265,8 @@ void frmAdvSearch::fillList()
 {
     constexpr int linesPerTick = 256;
     ListLines lines;
-    for (; !Data1.eof(); Data1.moveNext()) {
-        lines.add(Data1.field(0), Data1.field(2));
+    for (; !Data1->eof(); Data1->moveNext()) {
+        lines.add(Data1->field(0), Data1->field(2));
         if (lines.count() % linesPerTick == 0)
             Animation1->tick();
     }
@@ -301,7 +290,7 @@ void frmAdvSearch::reportFailure(int number, const QString& description)
 {
     m_memory.LastOutcome = QueryFailed;
     List1->clear();
-    Data1.setRecordSource("SELECT * FROM NewTestament");
+    Data1->setRecordSource("SELECT * FROM NewTestament");
     stopClip();
     MsgBox::show(errorText(number, description) + " -- Query aborted.", MsgIcon::Exclamation, MsgButtons::Ok,
                  "Unpredictable Error");

@@ -1,17 +1,17 @@
 #pragma once
 
 #include "search/SearchQuery.h"
-#include "store/DataSource.h"
 #include "widgets/Form.h"
 
 class AnimationPlayer;
+class DataControl;
+class ListBox;
 class QAction;
 class QCheckBox;
 class QComboBox;
 class QFrame;
 class QLabel;
 class QLineEdit;
-class ListBox;
 class SoftBttn;
 
 /// The search window: verses with one or two words, in a part of the Bible. A search that finds some turns it
@@ -23,25 +23,6 @@ class frmAdvSearch : public Form
 public:
     /// memory: of the last query; must outlive the window.
     frmAdvSearch(Shell& shell, SearchMemory& memory);
-
-    QLabel* Label1;
-    QLineEdit* Text1;
-    QComboBox* Combo1;
-    QLineEdit* Text2;
-    QFrame* Line1;
-    QLabel* Label3;
-    QComboBox* Combo2;
-    QCheckBox* chkWholeWrd;
-    AnimationPlayer* Animation1;
-    SoftBttn* cmdOK;
-    SoftBttn* cmdCancel;
-    SoftBttn* cmdHelp;
-    SoftBttn* cmdHideList;
-    SoftBttn* cmdCopySR;
-    QLabel* Label2;
-    ListBox* List1;
-    QAction* mnuCopySR;
-    DataSource Data1;
 
 protected:
     void Form_Load() override;
@@ -78,6 +59,25 @@ private:
     void enterResultsMode();
     void enableInputs(bool enable);
     void enableResults(bool enable);
+
+    DataControl* Data1;
+    QLabel* Label1;
+    QLineEdit* Text1;
+    QComboBox* Combo1;
+    QLineEdit* Text2;
+    QFrame* Line1;
+    QLabel* Label3;
+    QComboBox* Combo2;
+    QCheckBox* chkWholeWrd;
+    AnimationPlayer* Animation1;
+    SoftBttn* cmdOK;
+    SoftBttn* cmdCancel;
+    SoftBttn* cmdHelp;
+    SoftBttn* cmdHideList;
+    SoftBttn* cmdCopySR;
+    QLabel* Label2;
+    ListBox* List1;
+    QAction* mnuCopySR;
 
     SearchMemory& m_memory;
 };

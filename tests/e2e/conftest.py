@@ -75,7 +75,7 @@ def sitting(desktop, installed):
 @pytest.fixture
 def drop_target(desktop):
     """Another program's window, partly beside the frame on the right."""
-    program = os.environ.get("KESTREL_DROP_TARGET", TOP / "build" / "release" / "tests" / "drop_target")
+    program = os.environ.get("KESTREL_DROP_TARGET", "build/release/tests/drop_target")
     process = subprocess.Popen([program], env=desktop.environment, stdout=subprocess.PIPE, text=True)
     desktop.wait_for_window("^Drop target$")
     window = desktop.run("xdotool", "search", "--onlyvisible", "--name", "^Drop target$").split()[0]

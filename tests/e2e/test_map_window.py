@@ -62,7 +62,9 @@ def test_the_buttons_beside_an_empty_map_are_whole_and_can_be_clicked(start, cop
         box = box_of(program.find("push button", name, window))
         assert (box.width, box.height) == (32, 32)
         assert box.y + box.height < outer.y + outer.height and box.x + box.width < outer.x + outer.width
-    desktop.run("xclip", "-selection", "clipboard", "-i", "/dev/null")
+    subprocess.run(["xclip", "-selection", "clipboard"], env=desktop.environment, input=b"before", check=True,
+                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    assert desktop.clipboard() == "before"
     x, y = box.x + box.width // 2, box.y + box.height - 3
     desktop.click(x, y)
     program.wait_for(lambda: desktop.clipboard() == "", "an empty clipboard")

@@ -4,16 +4,15 @@
 #include "help/HelpWindow.h"
 #include "maps/ChildMapDsp.h"
 #include "maps/ChildMapSel.h"
-#include "widgets/ListBox.h"
 #include "maps/TabStrip.h"
 #include "read/VerseLabel.h"
 #include "search/frmAdvSearch.h"
-#include "widgets/ListBox.h"
 #include "select/ChildSelect.h"
 #include "support/CutTexts.h"
 #include "support/OnceModal.h"
 #include "support/Session.h"
 #include "text/Phrases.h"
+#include "widgets/ListBox.h"
 #include "widgets/SoftBttn.h"
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -65,9 +64,9 @@ TEST_F(CutTexts, AreNotInTheSearchWindow)
     frame().openSearch();
     auto& window = get<frmAdvSearch>();
     expectNoneIn(window);
-    window.Text1->setText(phrases::cousin);
-    click(*window.cmdOK);
-    ASSERT_TRUE(window.List1->isVisible());
+    control<QLineEdit>(window, "Text1").setText(phrases::cousin);
+    click(control<SoftBttn>(window, "cmdOK"));
+    ASSERT_TRUE(control<ListBox>(window, "List1").isVisible());
     expectNoneIn(window);
 }
 
@@ -75,12 +74,12 @@ TEST_F(CutTexts, AreNotInTheStudyAids)
 {
     click(*frame().cmdTools);
     auto& window = get<ChildMapSel>();
-    for (int group = 0; group < 4; ++group) {
-        window.optEvents[static_cast<std::size_t>(group)]->click();
+    for (auto* group : window.findChildren<QRadioButton*>("optEvents")) {
+        group->click();
         expectNoneIn(window);
     }
     for (int page = 1; page < 3; ++page) {
-        window.TabStrip1->setCurrentIndex(page);
+        control<TabStrip>(window, "TabStrip1").setCurrentIndex(page);
         expectNoneIn(window);
     }
 }
@@ -89,8 +88,8 @@ TEST_F(CutTexts, AreNotInTheMapWindow)
 {
     click(*frame().cmdTools);
     auto& aids = get<ChildMapSel>();
-    aids.TabStrip1->setCurrentIndex(1);
-    QTest::keyClick(aids.lstMaps, Qt::Key_Return);
+    control<TabStrip>(aids, "TabStrip1").setCurrentIndex(1);
+    QTest::keyClick(&control<ListBox>(aids, "lstMaps"), Qt::Key_Return);
     expectNoneIn(get<ChildMapDsp>());
 }
 

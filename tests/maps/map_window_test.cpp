@@ -16,12 +16,12 @@ protected:
         return {qRound(picture.width() + 800 / 15.0), qRound(picture.height() + 520 / 15.0)};
     }
 
-    static void expectFitted(ChildMapDsp& map, QSize picture)
+    void expectFitted(ChildMapDsp& map, QSize picture)
     {
-        EXPECT_EQ(map.Image1->size(), picture);
+        EXPECT_EQ(Image1().size(), picture);
         EXPECT_EQ(outer(map).size(), around(picture));
-        EXPECT_EQ(map.cmdZoom->geometry(), QRect(picture.width() + 10, 4, 32, 32));
-        EXPECT_EQ(map.cmdPicCopy->geometry(), QRect(picture.width() + 10, 36, 32, 32));
+        EXPECT_EQ(cmdZoom().geometry(), QRect(picture.width() + 10, 4, 32, 32));
+        EXPECT_EQ(cmdPicCopy().geometry(), QRect(picture.width() + 10, 36, 32, 32));
     }
 };
 
@@ -32,9 +32,9 @@ TEST_F(ChildMapDspTest, FitsTheMapAtTheFramesCorner)
     ChildMapDsp& map = openMap(denseMap);
     expectFitted(map, {200, 150});
     EXPECT_EQ(outer(map).pos(), QPoint(0, 0));
-    EXPECT_EQ(map.Image1->pos(), QPoint(4, 4));
+    EXPECT_EQ(Image1().pos(), QPoint(4, 4));
     EXPECT_EQ(map.caption(), "Map -- The Journeys of Abraham");
-    EXPECT_EQ(map.DataMap.recordSource(), "SELECT * FROM NTMaps WHERE MapNumber = 1");
+    EXPECT_EQ(DataMap().recordSource(), "SELECT * FROM NTMaps WHERE MapNumber = 1");
     EXPECT_EQ(activeForm(), &map);
     EXPECT_EQ(program->flags.MapFirstShow, 0);
     EXPECT_EQ(program->flags.MapZoomed, 0);
@@ -44,8 +44,8 @@ TEST_F(ChildMapDspTest, ShowsPictureAndButtonsWhole)
 {
     ChildMapDsp& map = openMap(denseMap);
     const QRect inside(QPoint(), map.size());
-    for (const QWidget* control : {static_cast<QWidget*>(map.Image1), static_cast<QWidget*>(map.cmdZoom),
-                                   static_cast<QWidget*>(map.cmdPicCopy)}) {
+    for (const QWidget* control : {static_cast<QWidget*>(&Image1()), static_cast<QWidget*>(&cmdZoom()),
+                                   static_cast<QWidget*>(&cmdPicCopy())}) {
         const QRect shown(control->mapTo(&map, QPoint()), control->size());
         EXPECT_TRUE(inside.contains(shown)) << control->objectName().toStdString();
     }
@@ -105,23 +105,23 @@ TEST_F(ChildMapDspTest, ChoosingAMapFromAMaximisedStudyAidsWindowShowsItFitted)
 TEST_F(ChildMapDspTest, ZoomEnlargesByAFifthAndZoomAgainRestores)
 {
     ChildMapDsp& map = openMap(lastMap);
-    const QSizeF natural = map.Image1->extent();
-    QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
+    const QSizeF natural = Image1().extent();
+    QTest::mouseClick(&cmdZoom(), Qt::LeftButton);
     expectFitted(map, {252, 168});
-    EXPECT_TRUE(map.Image1->stretch());
+    EXPECT_TRUE(Image1().stretch());
     EXPECT_EQ(program->flags.MapZoomed, 1);
-    QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
+    QTest::mouseClick(&cmdZoom(), Qt::LeftButton);
     expectFitted(map, {210, 140});
     EXPECT_EQ(program->flags.MapZoomed, 0);
-    EXPECT_NEAR(map.Image1->extent().width(), natural.width(), 0.001);
-    EXPECT_NEAR(map.Image1->extent().height(), natural.height(), 0.001);
+    EXPECT_NEAR(Image1().extent().width(), natural.width(), 0.001);
+    EXPECT_NEAR(Image1().extent().height(), natural.height(), 0.001);
 }
 
 TEST_F(ChildMapDspTest, ZoomingManyTimesDoesNotDrift)
 {
     ChildMapDsp& map = openMap(denseMap);
     for (int i = 0; i < 100; ++i)
-        QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
+        QTest::mouseClick(&cmdZoom(), Qt::LeftButton);
     expectFitted(map, {200, 150});
 }
 
@@ -129,7 +129,7 @@ TEST_F(ChildMapDspTest, ZoomWhileMinimisedIsSeenAfterwards)
 {
     ChildMapDsp& map = openMap(denseMap);
     map.setState(Form::Minimized);
-    QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
+    QTest::mouseClick(&cmdZoom(), Qt::LeftButton);
     EXPECT_EQ(map.state(), Form::Minimized);
     map.setState(Form::Normal);
     expectFitted(map, {240, 180});
@@ -139,10 +139,10 @@ TEST_F(ChildMapDspTest, ZoomWhileMaximisedKeepsTheWindow)
 {
     ChildMapDsp& map = openMap(denseMap);
     map.setState(Form::Maximized);
-    QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
+    QTest::mouseClick(&cmdZoom(), Qt::LeftButton);
     EXPECT_EQ(map.state(), Form::Maximized);
-    EXPECT_EQ(map.Image1->size(), QSize(240, 180));
-    EXPECT_EQ(map.cmdZoom->x(), 250);
+    EXPECT_EQ(Image1().size(), QSize(240, 180));
+    EXPECT_EQ(cmdZoom().x(), 250);
     map.setState(Form::Normal);
     expectFitted(map, {240, 180});
 }
@@ -150,12 +150,12 @@ TEST_F(ChildMapDspTest, ZoomWhileMaximisedKeepsTheWindow)
 TEST_F(ChildMapDspTest, NewMapIsNotEnlarged)
 {
     ChildMapDsp& map = openMap(denseMap);
-    QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
+    QTest::mouseClick(&cmdZoom(), Qt::LeftButton);
     openMap(lastMap);
     expectFitted(map, {210, 140});
-    EXPECT_FALSE(map.Image1->stretch());
+    EXPECT_FALSE(Image1().stretch());
     EXPECT_EQ(program->flags.MapZoomed, 0);
-    QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
+    QTest::mouseClick(&cmdZoom(), Qt::LeftButton);
     expectFitted(map, {252, 168});
 }
 
@@ -206,28 +206,28 @@ TEST_F(ChildMapDspTest, MenusHaveCopyAndZoom)
 
 TEST_F(ChildMapDspTest, ButtonsSayWhatTheyDo)
 {
-    ChildMapDsp& map = openMap(denseMap);
-    EXPECT_EQ(map.cmdZoom->toolTip(), "Zoom In/Restore Normal Size");
-    EXPECT_EQ(map.cmdPicCopy->toolTip(), "Copy Map to Clipboard");
-    EXPECT_EQ(map.cmdZoom->objectName(), "cmdZoom");
-    EXPECT_EQ(map.cmdPicCopy->objectName(), "cmdPicCopy");
+    openMap(denseMap);
+    EXPECT_EQ(cmdZoom().toolTip(), "Zoom In/Restore Normal Size");
+    EXPECT_EQ(cmdPicCopy().toolTip(), "Copy Map to Clipboard");
+    EXPECT_EQ(cmdZoom().objectName(), "cmdZoom");
+    EXPECT_EQ(cmdPicCopy().objectName(), "cmdPicCopy");
 }
 
 TEST_F(ChildMapDspTest, DescriptionIsTheLabelsTextAndThePicturesName)
 {
     ChildMapDsp& map = openMap(9);
-    EXPECT_EQ(map.lblMapDesc->text(), "Ninth & Last <b>but Two</b>");
-    EXPECT_EQ(map.Image1->accessibleName(), "Ninth & Last <b>but Two</b>");
+    EXPECT_EQ(lblMapDesc().text(), "Ninth & Last <b>but Two</b>");
+    EXPECT_EQ(Image1().accessibleName(), "Ninth & Last <b>but Two</b>");
     EXPECT_EQ(map.caption(), "Map -- Ninth & Last <b>but Two</b>");
 }
 
 TEST_F(ChildMapDspTest, CopyPutsAllPixelsOnTheClipboard)
 {
     frame().readingWindow().activate(); // has the same shortcut
-    ChildMapDsp& map = openMap(denseMap);
-    QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
+    openMap(denseMap);
+    QTest::mouseClick(&cmdZoom(), Qt::LeftButton);
     QApplication::clipboard()->setText("before");
-    QTest::mouseClick(map.cmdPicCopy, Qt::LeftButton);
+    QTest::mouseClick(&cmdPicCopy(), Qt::LeftButton);
     EXPECT_EQ(QApplication::clipboard()->image().size(), QSize(400, 300));
     EXPECT_EQ(QApplication::clipboard()->text(), "");
     QApplication::clipboard()->clear();
@@ -238,9 +238,9 @@ TEST_F(ChildMapDspTest, CopyPutsAllPixelsOnTheClipboard)
 
 TEST_F(ChildMapDspTest, CopyOfAnEmptyPictureClearsTheClipboardWithoutAMessage)
 {
-    ChildMapDsp& map = openMap(emptyMap);
+    openMap(emptyMap);
     QApplication::clipboard()->setText("before");
-    QTest::mouseClick(map.cmdPicCopy, Qt::LeftButton);
+    QTest::mouseClick(&cmdPicCopy(), Qt::LeftButton);
     EXPECT_EQ(QApplication::clipboard()->text(), "");
     EXPECT_TRUE(QApplication::clipboard()->image().isNull());
     EXPECT_TRUE(boxes.shown.isEmpty());
@@ -248,9 +248,9 @@ TEST_F(ChildMapDspTest, CopyOfAnEmptyPictureClearsTheClipboardWithoutAMessage)
 
 TEST_F(ChildMapDspTest, ClipboardThatTakesNothingIsReported)
 {
-    ChildMapDsp& map = openMap(denseMap);
+    openMap(denseMap);
     services.clipboardWorks = false;
-    QTest::mouseClick(map.cmdPicCopy, Qt::LeftButton);
+    QTest::mouseClick(&cmdPicCopy(), Qt::LeftButton);
     ASSERT_EQ(boxes.shown.size(), 1);
     EXPECT_EQ(boxes.shown[0].title, "Clipboard Error");
 }
@@ -259,8 +259,8 @@ TEST_F(ChildMapDspTest, PictureThatCannotBeReadIsEmpty)
 {
     for (int number : {damagedMap, endlessMap, emptyMap, cutMap}) {
         ChildMapDsp& map = openMap(number);
-        EXPECT_TRUE(map.Image1->image().isNull()) << number;
-        EXPECT_EQ(map.Image1->size(), QSize(49, 66)) << number;
+        EXPECT_TRUE(Image1().image().isNull()) << number;
+        EXPECT_EQ(Image1().size(), QSize(49, 66)) << number;
         EXPECT_NE(map.caption(), "Map -- ") << number;
     }
     EXPECT_TRUE(boxes.shown.isEmpty());
@@ -270,32 +270,33 @@ TEST_F(ChildMapDspTest, EmptyPictureLeavesItsButtonsWhole)
 {
     ChildMapDsp& map = openMap(emptyMap);
     expectFitted(map, {49, 66});
-    for (QWidget* button : std::initializer_list<QWidget*>{map.cmdZoom, map.cmdPicCopy})
+    for (QWidget* button : std::initializer_list<QWidget*>{&cmdZoom(), &cmdPicCopy()})
         EXPECT_EQ(button->visibleRegion(), QRegion(button->rect())) << button->objectName().toStdString();
     for (const QScrollBar* bar : map.findChildren<QScrollBar*>())
         EXPECT_EQ(bar->maximum(), 0);
     QApplication::clipboard()->setText("before");
-    const QPoint foot = map.cmdPicCopy->mapTo(&map, map.cmdPicCopy->rect().bottomLeft() + QPoint(3, -3));
+    const QPoint foot = cmdPicCopy().mapTo(&map, cmdPicCopy().rect().bottomLeft() + QPoint(3, -3));
     QWidget* there = map.childAt(foot);
-    ASSERT_EQ(there, map.cmdPicCopy);
+    ASSERT_EQ(there, &cmdPicCopy());
     QTest::mouseClick(there, Qt::LeftButton, {}, there->mapFrom(&map, foot));
     EXPECT_EQ(QApplication::clipboard()->text(), "");
 }
 
 TEST_F(ChildMapDspTest, AbsurdResolutionIsNotFollowed)
 {
-    EXPECT_EQ(openMap(sparseMap).Image1->size(), QSize(30, 20));
+    openMap(sparseMap);
+    EXPECT_EQ(Image1().size(), QSize(30, 20));
 }
 
 TEST_F(ChildMapDspTest, DragBringsPictureAndDescriptionBack)
 {
-    ChildMapDsp& map = openMap(denseMap);
-    QTest::mouseClick(map.cmdZoom, Qt::LeftButton);
-    map.Image1->setImage({});
-    map.lblMapDesc->setText("gone");
-    Q_EMIT map.Image1->dragCompleted();
-    EXPECT_EQ(map.Image1->image().size(), QSize(400, 300));
-    EXPECT_EQ(map.lblMapDesc->text(), "The Journeys of Abraham");
+    openMap(denseMap);
+    QTest::mouseClick(&cmdZoom(), Qt::LeftButton);
+    Image1().setImage({});
+    lblMapDesc().setText("gone");
+    Q_EMIT Image1().dragCompleted();
+    EXPECT_EQ(Image1().image().size(), QSize(400, 300));
+    EXPECT_EQ(lblMapDesc().text(), "The Journeys of Abraham");
 }
 
 TEST_F(ChildMapDspTest, MapLargerThanTheFrameIsOnTheScreenForAScreenReader)
@@ -322,17 +323,17 @@ TEST_F(ChildMapDspTest, MapLargerThanTheFrameCanBeScrolledByKeys)
     ChildMapDsp& map = openMap(largeMap);
     EXPECT_EQ(outer(map).size(), around({1500, 1200}));
     EXPECT_EQ(outer(map).pos(), QPoint(0, 0));
-    const auto farCorner = [&] { return map.Image1->mapTo(frame().area()->viewport(), QPoint(1499, 1199)); };
+    const auto farCorner = [&] { return Image1().mapTo(frame().area()->viewport(), QPoint(1499, 1199)); };
     const QRect room = frame().area()->viewport()->rect();
     EXPECT_FALSE(room.contains(farCorner()));
     for (int i = 0; i < 40; ++i) {
-        QTest::keyClick(map.cmdZoom, Qt::Key_Right);
-        QTest::keyClick(map.cmdZoom, Qt::Key_Down);
+        QTest::keyClick(&cmdZoom(), Qt::Key_Right);
+        QTest::keyClick(&cmdZoom(), Qt::Key_Down);
     }
     EXPECT_TRUE(room.contains(farCorner()));
     for (int i = 0; i < 40; ++i) {
-        QTest::keyClick(map.cmdZoom, Qt::Key_Left);
-        QTest::keyClick(map.cmdZoom, Qt::Key_PageUp);
+        QTest::keyClick(&cmdZoom(), Qt::Key_Left);
+        QTest::keyClick(&cmdZoom(), Qt::Key_PageUp);
     }
     EXPECT_EQ(outer(map).pos(), QPoint(0, 0));
 }
@@ -342,11 +343,11 @@ TEST_F(ChildMapDspTest, MapLargerThanAMaximisedWindowCanBeScrolledByKeys)
     ChildMapDsp& map = openMap(largeMap);
     map.setState(Form::Maximized);
     QCoreApplication::processEvents();
-    const auto farCorner = [&] { return map.Image1->mapTo(&map, QPoint(1499, 1199)); };
+    const auto farCorner = [&] { return Image1().mapTo(&map, QPoint(1499, 1199)); };
     EXPECT_FALSE(map.rect().contains(farCorner()));
     for (int i = 0; i < 40; ++i) {
-        QTest::keyClick(map.cmdZoom, Qt::Key_Right);
-        QTest::keyClick(map.cmdZoom, Qt::Key_Down);
+        QTest::keyClick(&cmdZoom(), Qt::Key_Right);
+        QTest::keyClick(&cmdZoom(), Qt::Key_Down);
     }
     EXPECT_TRUE(map.rect().contains(farCorner()));
 }
@@ -376,16 +377,16 @@ TEST_F(ChildMapDspTest, ClosedWindowIsLoadedAfresh)
 TEST_F(ChildMapDspTest, TheListOfMapsKeepsTheFocusWhileMapsAreMaximised)
 {
     ChildMapSel& aids = openStudyAids();
-    choosePage(aids, 1);
-    aids.lstMaps->setFocus();
+    choosePage(1);
+    lstMaps().setFocus();
     for (int row = 0; row < 3; ++row) {
-        aids.lstMaps->setCurrentIndex(aids.lstMaps->model()->index(row, 0));
+        lstMaps().setCurrentIndex(lstMaps().model()->index(row, 0));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         auto& map = get<ChildMapDsp>();
         ASSERT_EQ(activeForm(), &map);
         map.setState(Form::Maximized);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_F8);
         ASSERT_EQ(activeForm(), &aids);
-        EXPECT_EQ(QApplication::focusWidget(), aids.lstMaps) << "after map " << row + 1;
+        EXPECT_EQ(QApplication::focusWidget(), &lstMaps()) << "after map " << row + 1;
     }
 }

@@ -35,19 +35,19 @@ protected:
 
 TEST_F(ShippedDatabaseTest, EveryReferenceOfEveryTopicShowsItsVerse)
 {
-    ChildMapSel& aids = openStudyAids();
+    openStudyAids();
     int opened = 0;
-    for (QRadioButton* group : aids.optEvents) {
+    for (auto* group : get<ChildMapSel>().findChildren<QRadioButton*>("optEvents")) {
         QTest::mouseClick(group, Qt::LeftButton, {}, {8, 8});
-        ASSERT_GT(aids.Combo2->count(), 30);
-        for (int topic = 0; topic < aids.Combo2->count(); ++topic) {
+        ASSERT_GT(Combo2().count(), 30);
+        for (int topic = 0; topic < Combo2().count(); ++topic) {
             if (topic > 0)
-                QTest::keyClick(aids.Combo2, Qt::Key_Down);
-            ASSERT_EQ(aids.Combo2->currentIndex(), topic);
-            ASSERT_GT(aids.List1->count(), 0) << aids.Combo2->currentText().toStdString();
-            for (int row = 0; row < aids.List1->count(); ++row) {
-                clickEntry(aids.List1, row);
-                ASSERT_EQ(get<ChildRead>().currentKey(), referenceOf(aids.List1->text(row)));
+                QTest::keyClick(&Combo2(), Qt::Key_Down);
+            ASSERT_EQ(Combo2().currentIndex(), topic);
+            ASSERT_GT(List1().count(), 0) << Combo2().currentText().toStdString();
+            for (int row = 0; row < List1().count(); ++row) {
+                clickEntry(List1(), row);
+                ASSERT_EQ(get<ChildRead>().currentKey(), referenceOf(List1().text(row)));
                 ++opened;
             }
         }
@@ -58,9 +58,9 @@ TEST_F(ShippedDatabaseTest, EveryReferenceOfEveryTopicShowsItsVerse)
 TEST_F(ShippedDatabaseTest, EveryMapIsShownSharperThanItsSize)
 {
     for (int number = 1; number <= 11; ++number) {
-        ChildMapDsp& map = openMap(number);
-        EXPECT_GT(map.Image1->image().width(), map.Image1->width()) << number;
-        EXPECT_GT(map.Image1->width(), 300) << number;
-        EXPECT_FALSE(map.lblMapDesc->text().isEmpty()) << number;
+        openMap(number);
+        EXPECT_GT(Image1().image().width(), Image1().width()) << number;
+        EXPECT_GT(Image1().width(), 300) << number;
+        EXPECT_FALSE(lblMapDesc().text().isEmpty()) << number;
     }
 }

@@ -4,10 +4,12 @@
 #include "read/ChildRead.h"
 #include "search/frmAdvSearch.h"
 #include "support/Session.h"
+#include "widgets/DataControl.h"
 #include "widgets/ListBox.h"
 #include "widgets/SoftBttn.h"
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 
 /// The running program with its search window open.
@@ -21,22 +23,37 @@ protected:
     }
 
     frmAdvSearch& window() { return get<frmAdvSearch>(); }
-    ListBox& list() { return *window().List1; }
+    ListBox& list() { return control<ListBox>(window(), "List1"); }
+    QLabel& Label1() { return control<QLabel>(window(), "Label1"); }
+    QLineEdit& Text1() { return control<QLineEdit>(window(), "Text1"); }
+    QComboBox& Combo1() { return control<QComboBox>(window(), "Combo1"); }
+    QLineEdit& Text2() { return control<QLineEdit>(window(), "Text2"); }
+    QLabel& Label3() { return control<QLabel>(window(), "Label3"); }
+    QComboBox& Combo2() { return control<QComboBox>(window(), "Combo2"); }
+    QCheckBox& chkWholeWrd() { return control<QCheckBox>(window(), "chkWholeWrd"); }
+    AnimationPlayer& Animation1() { return control<AnimationPlayer>(window(), "Animation1"); }
+    SoftBttn& cmdOK() { return control<SoftBttn>(window(), "cmdOK"); }
+    SoftBttn& cmdCancel() { return control<SoftBttn>(window(), "cmdCancel"); }
+    SoftBttn& cmdHelp() { return control<SoftBttn>(window(), "cmdHelp"); }
+    SoftBttn& cmdHideList() { return control<SoftBttn>(window(), "cmdHideList"); }
+    SoftBttn& cmdCopySR() { return control<SoftBttn>(window(), "cmdCopySR"); }
+    QLabel& Label2() { return control<QLabel>(window(), "Label2"); }
+    DataControl& Data1() { return control<DataControl>(window(), "Data1"); }
 
     /// Sets the inputs and clicks the button; the place of the range is that in `Combo2`.
     void search(const QString& text1, int range = 47, const QString& text2 = {}, int connective = 0,
                 bool wholeWord = false)
     {
-        window().Text1->setText(text1);
-        window().Text2->setText(text2);
-        window().Combo1->setCurrentIndex(connective);
-        window().Combo2->setCurrentIndex(range);
-        window().chkWholeWrd->setChecked(wholeWord);
-        click(*window().cmdOK);
+        Text1().setText(text1);
+        Text2().setText(text2);
+        Combo1().setCurrentIndex(connective);
+        Combo2().setCurrentIndex(range);
+        chkWholeWrd().setChecked(wholeWord);
+        click(cmdOK());
     }
 
     /// Sets the inputs anew after results were listed.
-    void newSearch() { click(*window().cmdHideList); }
+    void newSearch() { click(cmdHideList()); }
 
     QStringList lines()
     {
@@ -64,7 +81,7 @@ protected:
     }
 
     /// The SQL text that the last search left.
-    QString sql() { return QString::fromStdString(window().Data1.recordSource()); }
+    QString sql() { return QString::fromStdString(Data1().recordSource()); }
 
     /// A click of the left button on a line that is in view.
     void clickLine(int place) { QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, pointOf(place)); }

@@ -116,7 +116,7 @@ TEST_F(SearchResults, DoNothingForARightClick)
 TEST_F(SearchResults, RememberAKeyInTheListWhenTheWindowIsClosed)
 {
     press(Qt::Key_Shift);
-    click(*window().cmdCancel);
+    click(cmdCancel());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     frame().openSearch();
     search("amor", 47);
@@ -303,7 +303,7 @@ TEST_F(SearchResults, AreCopiedByTheButtonAndTheMenu)
     search(phrases::onceText, 44);
     boxes.shown.clear();
     const QString expected = "Search Results:\r\n" + list().text(0) + "\r\n(PT)";
-    click(*window().cmdCopySR);
+    click(cmdCopySR());
     EXPECT_EQ(QApplication::clipboard()->text(), expected);
     QApplication::clipboard()->clear();
     choose("mnuCopySR");
@@ -322,7 +322,7 @@ TEST_F(SearchResults, AreCopiedUpToTheLimitWithAWordAboutIt)
         atMessage = QApplication::clipboard()->text();
         EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     };
-    click(*window().cmdCopySR);
+    click(cmdCopySR());
     EXPECT_EQ(atMessage, "before") << "the word comes first";
     QString expected = "Search Results:";
     int copied = 0;
@@ -338,7 +338,7 @@ TEST_F(SearchResults, ReportAClipboardThatTakesNothing)
 {
     services.clipboardWorks = false;
     const int count = list().count();
-    click(*window().cmdCopySR);
+    click(cmdCopySR());
     EXPECT_EQ(box(), "exclamation|Clipboard Error|Error 521: Can't open Clipboard");
     EXPECT_EQ(list().count(), count);
     EXPECT_TRUE(isInResultsMode());

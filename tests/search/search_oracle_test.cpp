@@ -283,7 +283,7 @@ TEST_F(SearchOracle, AgreesLineByLineOnGeneratedQueries)
         const Query query = maker.next();
         boxes.shown.clear();
         search(query.text1, query.range, query.text2, query.connective, query.wholeWord);
-        const QStringList expected = scan(verses, query, window().Combo2->currentText());
+        const QStringList expected = scan(verses, query, Combo2().currentText());
         const std::string what = QString("%1: '%2' '%3' connective %4 range %5 whole %6")
                                      .arg(i)
                                      .arg(query.text1, query.text2)

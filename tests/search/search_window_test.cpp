@@ -38,15 +38,15 @@ TEST_F(SearchWindow, HasItsCaptions)
     {
         QString shown;
         const char* caption;
-    } rows[] = {{window().Label1->text(), "S&earch for verses containing the following text:"},
-                {window().Label3->text(), "Select &book(s) to scan:"},
-                {window().Label2->text(), "Search &results:"},
-                {window().chkWholeWrd->text(), "Match &whole word(s) only"},
-                {window().cmdOK->toolTip(), "Search"},
-                {window().cmdCancel->toolTip(), "Cancel/Close"},
-                {window().cmdHelp->toolTip(), "Help"},
-                {window().cmdHideList->toolTip(), "New Search"},
-                {window().cmdCopySR->toolTip(), "Copy Search Results to Clipboard"},
+    } rows[] = {{Label1().text(), "S&earch for verses containing the following text:"},
+                {Label3().text(), "Select &book(s) to scan:"},
+                {Label2().text(), "Search &results:"},
+                {chkWholeWrd().text(), "Match &whole word(s) only"},
+                {cmdOK().toolTip(), "Search"},
+                {cmdCancel().toolTip(), "Cancel/Close"},
+                {cmdHelp().toolTip(), "Help"},
+                {cmdHideList().toolTip(), "New Search"},
+                {cmdCopySR().toolTip(), "Copy Search Results to Clipboard"},
                 {window().caption(), "Advanced Search"}};
     for (const auto& row : rows)
         EXPECT_EQ(row.shown, row.caption);
@@ -61,25 +61,25 @@ TEST_F(SearchWindow, NamesItsControlsForAScreenReader)
         const QWidget* control;
         const char* name;
         const char* spoken;
-    } rows[] = {{window().Text1, "Text1", "Search for verses containing the following text:"},
-                {window().Combo1, "Combo1", "Connective"},
-                {window().Text2, "Text2", "Second word or phrase"},
-                {window().Combo2, "Combo2", "Select book(s) to scan:"},
-                {window().chkWholeWrd, "chkWholeWrd", "Match whole word(s) only"},
-                {window().List1, "List1", "Search results:"},
-                {window().cmdOK, "cmdOK", "Search"},
-                {window().cmdCancel, "cmdCancel", "Cancel/Close"},
-                {window().cmdHelp, "cmdHelp", "Help"},
-                {window().cmdHideList, "cmdHideList", "New Search"},
-                {window().cmdCopySR, "cmdCopySR", "Copy Search Results to Clipboard"}};
+    } rows[] = {{&Text1(), "Text1", "Search for verses containing the following text:"},
+                {&Combo1(), "Combo1", "Connective"},
+                {&Text2(), "Text2", "Second word or phrase"},
+                {&Combo2(), "Combo2", "Select book(s) to scan:"},
+                {&chkWholeWrd(), "chkWholeWrd", "Match whole word(s) only"},
+                {&list(), "List1", "Search results:"},
+                {&cmdOK(), "cmdOK", "Search"},
+                {&cmdCancel(), "cmdCancel", "Cancel/Close"},
+                {&cmdHelp(), "cmdHelp", "Help"},
+                {&cmdHideList(), "cmdHideList", "New Search"},
+                {&cmdCopySR(), "cmdCopySR", "Copy Search Results to Clipboard"}};
     for (const auto& row : rows) {
         EXPECT_EQ(row.control->objectName(), row.name);
         EXPECT_EQ(row.control->accessibleName(), row.spoken);
     }
     EXPECT_EQ(window().objectName(), "frmAdvSearch");
-    EXPECT_EQ(window().Label1->buddy(), window().Text1);
-    EXPECT_EQ(window().Label2->buddy(), window().List1);
-    EXPECT_EQ(window().Label3->buddy(), window().Combo2);
+    EXPECT_EQ(Label1().buddy(), &Text1());
+    EXPECT_EQ(Label2().buddy(), &list());
+    EXPECT_EQ(Label3().buddy(), &Combo2());
 }
 
 TEST_F(SearchWindow, HasItsMenus)
@@ -93,27 +93,27 @@ TEST_F(SearchWindow, HasItsMenus)
 
 TEST_F(SearchWindow, OpensWithItsDefaults)
 {
-    EXPECT_EQ(window().Combo1->currentText(), "And containing");
-    EXPECT_EQ(window().Combo1->count(), 3);
-    EXPECT_EQ(window().Combo1->itemText(1), "and Not containing");
-    EXPECT_EQ(window().Combo1->itemText(2), "Or containing");
-    EXPECT_EQ(window().Combo2->count(), 75);
-    EXPECT_EQ(window().Combo2->currentIndex(), 44);
-    EXPECT_EQ(window().Combo2->currentText(), "The Four Gospels");
-    EXPECT_FALSE(window().chkWholeWrd->isChecked());
-    EXPECT_FALSE(window().cmdOK->isEnabled());
-    EXPECT_FALSE(window().Animation1->isVisible());
-    for (const QWidget* hidden : std::initializer_list<QWidget*>{window().List1, window().Label2,
-                                                                 window().cmdCopySR, window().cmdHideList}) {
+    EXPECT_EQ(Combo1().currentText(), "And containing");
+    EXPECT_EQ(Combo1().count(), 3);
+    EXPECT_EQ(Combo1().itemText(1), "and Not containing");
+    EXPECT_EQ(Combo1().itemText(2), "Or containing");
+    EXPECT_EQ(Combo2().count(), 75);
+    EXPECT_EQ(Combo2().currentIndex(), 44);
+    EXPECT_EQ(Combo2().currentText(), "The Four Gospels");
+    EXPECT_FALSE(chkWholeWrd().isChecked());
+    EXPECT_FALSE(cmdOK().isEnabled());
+    EXPECT_FALSE(Animation1().isVisible());
+    for (const QWidget* hidden :
+         std::initializer_list<QWidget*>{&list(), &Label2(), &cmdCopySR(), &cmdHideList()}) {
         EXPECT_FALSE(hidden->isVisible()) << hidden->objectName().toStdString();
         EXPECT_FALSE(hidden->isEnabled()) << hidden->objectName().toStdString();
     }
-    EXPECT_TRUE(window().Text1->hasFocus());
+    EXPECT_TRUE(Text1().hasFocus());
 }
 
 TEST_F(SearchWindow, OpensAtTheTopLeftInItsShortSize)
 {
-    const int width = toTwips(window().cmdOK->geometry().right() + 1) + 160;
+    const int width = toTwips(cmdOK().geometry().right() + 1) + 160;
     EXPECT_EQ(outer(window()).pos(), QPoint(0, 0));
     EXPECT_EQ(outer(window()).size(), QSize(toPixels(width), toPixels(2920)));
 }
@@ -160,8 +160,8 @@ TEST_F(SearchWindow, BeginsANewSearchAndRepeatsTheLastWhileItIsMaximised)
     EXPECT_TRUE(outer(window()).isMaximized());
     EXPECT_EQ(outer(window()).size(), room);
     boxes.shown.clear();
-    window().Data1.setRecordSource("untouched");
-    click(*window().cmdOK);
+    Data1().setRecordSource("untouched");
+    click(cmdOK());
     EXPECT_EQ(sql(), "untouched");
     EXPECT_EQ(box(), found(count));
     EXPECT_TRUE(isInResultsMode());
@@ -176,7 +176,7 @@ TEST_F(SearchWindow, BeginsANewSearchAndRepeatsTheLastWhileItIsMaximised)
 TEST_F(SearchWindow, SearchesByEnterWhileItIsMinimised)
 {
     const int width = outer(window()).width();
-    window().Text1->setText("amor");
+    Text1().setText("amor");
     outer(window()).showMinimized();
     frame().activateWindow();
     QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &outer(window()),
@@ -192,15 +192,15 @@ TEST_F(SearchWindow, SearchesByEnterWhileItIsMinimised)
 
 TEST_F(SearchWindow, OpensMaximisedBesideAMaximisedWindowAndComesBackToItsSize)
 {
-    click(*window().cmdCancel);
+    click(cmdCancel());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     frame().openSelection();
     outer(*activeForm()).showMaximized();
     frame().openSearch();
     EXPECT_TRUE(outer(window()).isMaximized());
-    EXPECT_TRUE(window().Text1->hasFocus());
+    EXPECT_TRUE(Text1().hasFocus());
     outer(window()).showNormal();
-    const int width = toTwips(window().cmdOK->geometry().right() + 1) + 160;
+    const int width = toTwips(cmdOK().geometry().right() + 1) + 160;
     EXPECT_EQ(outer(window()).geometry(), QRect(0, 0, toPixels(width), toPixels(2920)));
 }
 
@@ -211,12 +211,12 @@ TEST_F(SearchWindow, CutsAndOverlapsNothingInEitherLayout)
             search("amor");
         QList<QWidget*> shown;
         for (QWidget* control : window().findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
-            if (control->isVisible() || control == window().Animation1)
+            if (control->isVisible() || control == &Animation1())
                 shown << control;
         for (const QWidget* control : shown) {
             EXPECT_TRUE(window().rect().contains(control->geometry())) << control->objectName().toStdString();
             if (qobject_cast<const QLabel*>(control) || qobject_cast<const QComboBox*>(control) ||
-                control == window().chkWholeWrd) {
+                control == &chkWholeWrd()) {
                 EXPECT_GE(control->width(), control->sizeHint().width())
                     << control->objectName().toStdString();
                 EXPECT_GE(control->height(), control->sizeHint().height())
@@ -235,36 +235,36 @@ TEST_F(SearchWindow, IsTabbedThroughInReadingOrder)
 {
     const auto order = [this] {
         QStringList names;
-        window().Text1->setFocus();
+        Text1().setFocus();
         do {
             names << QApplication::focusWidget()->objectName();
             press(Qt::Key_Tab);
-        } while (QApplication::focusWidget() != window().Text1 && names.size() < 20);
+        } while (QApplication::focusWidget() != &Text1() && names.size() < 20);
         return names;
     };
     EXPECT_EQ(order(),
               QStringList({"Text1", "Combo1", "Text2", "Combo2", "chkWholeWrd", "cmdCancel", "cmdHelp"}));
-    window().Text1->setText("amor");
+    Text1().setText("amor");
     EXPECT_EQ(order().mid(5), QStringList({"cmdOK", "cmdCancel", "cmdHelp"}));
 }
 
 TEST_F(SearchWindow, EnablesTheButtonForAnyTextButBlanks)
 {
-    window().Text1->setFocus();
+    Text1().setFocus();
     press(Qt::Key_Space);
-    EXPECT_FALSE(window().cmdOK->isEnabled());
+    EXPECT_FALSE(cmdOK().isEnabled());
     press(Qt::Key_A);
-    EXPECT_TRUE(window().cmdOK->isEnabled());
+    EXPECT_TRUE(cmdOK().isEnabled());
     press(Qt::Key_Backspace);
-    EXPECT_FALSE(window().cmdOK->isEnabled());
+    EXPECT_FALSE(cmdOK().isEnabled());
 }
 
 TEST_F(SearchWindow, GivesTheFocusToTheTextAfterTheCheckBox)
 {
-    window().chkWholeWrd->setFocus();
+    chkWholeWrd().setFocus();
     press(Qt::Key_Space);
-    EXPECT_TRUE(window().chkWholeWrd->isChecked());
-    EXPECT_TRUE(window().Text1->hasFocus());
+    EXPECT_TRUE(chkWholeWrd().isChecked());
+    EXPECT_TRUE(Text1().hasFocus());
 }
 
 TEST_F(SearchWindow, SearchesAndShowsTheResults)
@@ -273,10 +273,10 @@ TEST_F(SearchWindow, SearchesAndShowsTheResults)
     boxes.whileShown = [&] {
         atMessage << (isInResultsMode() ? "results" : "input");
         atMessage << (QApplication::overrideCursor() ? "hourglass" : "default");
-        atMessage << (window().Animation1->isVisible() ? "clip" : "no clip");
+        atMessage << (Animation1().isVisible() ? "clip" : "no clip");
         atMessage << (list().hasFocus() ? "focus" : "no focus");
     };
-    Appearances clip(*window().Animation1);
+    Appearances clip(Animation1());
     search("amor");
     EXPECT_EQ(sql(), allVerses + " WHERE VerseNumber BETWEEN 1 AND 7957 AND KJVerseText LIKE '*amor*'");
     EXPECT_GT(list().count(), 100);
@@ -293,12 +293,12 @@ TEST_F(SearchWindow, ShowsTheHourglassAndItsClipOverAnEmptyListWhileItSearches)
     search("amor");
     newSearch();
     QStringList atQuery;
-    window().Data1.currentRowChanged = [&] {
+    Data1().currentRowChanged = [&] {
         if (!atQuery.isEmpty())
             return;
         const QCursor* pointer = QApplication::overrideCursor();
         atQuery << (pointer && pointer->shape() == Qt::WaitCursor ? "hourglass" : "default")
-                << (window().Animation1->isVisible() ? "clip" : "no clip") << QString::number(list().count());
+                << (Animation1().isVisible() ? "clip" : "no clip") << QString::number(list().count());
     };
     search("ódio");
     EXPECT_EQ(atQuery, QStringList({"hourglass", "clip", "0"}));
@@ -308,18 +308,17 @@ TEST_F(SearchWindow, TurnsIntoResultsModeAndBack)
 {
     const QColor face = window().palette().color(QPalette::Button);
     const QColor paper = window().palette().color(QPalette::Base);
-    const QList<QWidget*> inputs = {window().Text1, window().Text2, window().Combo1, window().Combo2};
+    const QList<QWidget*> inputs = {&Text1(), &Text2(), &Combo1(), &Combo2()};
     search("amor");
     for (QWidget* input : inputs) {
         EXPECT_FALSE(input->isEnabled());
         EXPECT_EQ(input->palette().color(QPalette::Disabled, QPalette::Base), face);
     }
-    EXPECT_FALSE(window().chkWholeWrd->isEnabled());
-    EXPECT_FALSE(window().cmdOK->isEnabled());
-    for (const QWidget* label : {window().Label1, window().Label2, window().Label3})
+    EXPECT_FALSE(chkWholeWrd().isEnabled());
+    EXPECT_FALSE(cmdOK().isEnabled());
+    for (const QWidget* label : {&Label1(), &Label2(), &Label3()})
         EXPECT_TRUE(label->isEnabled()) << label->objectName().toStdString();
-    for (QWidget* shown : std::initializer_list<QWidget*>{window().List1, window().Label2, window().cmdCopySR,
-                                                          window().cmdHideList}) {
+    for (QWidget* shown : std::initializer_list<QWidget*>{&list(), &Label2(), &cmdCopySR(), &cmdHideList()}) {
         EXPECT_TRUE(shown->isVisible());
         EXPECT_TRUE(shown->isEnabled());
     }
@@ -331,41 +330,41 @@ TEST_F(SearchWindow, TurnsIntoResultsModeAndBack)
         EXPECT_TRUE(input->isEnabled());
         EXPECT_EQ(input->palette().color(QPalette::Active, QPalette::Base), paper);
     }
-    EXPECT_TRUE(window().chkWholeWrd->isEnabled());
-    EXPECT_TRUE(window().cmdOK->isEnabled());
-    for (QWidget* hidden : std::initializer_list<QWidget*>{window().List1, window().Label2,
-                                                           window().cmdCopySR, window().cmdHideList}) {
+    EXPECT_TRUE(chkWholeWrd().isEnabled());
+    EXPECT_TRUE(cmdOK().isEnabled());
+    for (QWidget* hidden :
+         std::initializer_list<QWidget*>{&list(), &Label2(), &cmdCopySR(), &cmdHideList()}) {
         EXPECT_FALSE(hidden->isVisible());
         EXPECT_FALSE(hidden->isEnabled());
     }
     EXPECT_FALSE(menuItem("mnuCopySR")->isEnabled());
     EXPECT_EQ(list().count(), count) << "the list keeps its lines";
-    EXPECT_EQ(window().Text1->text(), "amor");
-    EXPECT_TRUE(window().Text1->hasFocus());
+    EXPECT_EQ(Text1().text(), "amor");
+    EXPECT_TRUE(Text1().hasFocus());
 }
 
 TEST_F(SearchWindow, ReplacesTheOldWordByANewOneTypedAtOnce)
 {
     search("amor");
     newSearch();
-    QTest::keyClicks(window().Text1, "paz");
-    EXPECT_EQ(window().Text1->text(), "paz");
+    QTest::keyClicks(&Text1(), "paz");
+    EXPECT_EQ(Text1().text(), "paz");
 }
 
 TEST_F(SearchWindow, StaysAsItIsWithoutAMatch)
 {
-    Appearances clip(*window().Animation1);
+    Appearances clip(Animation1());
     boxes.whileShown = [&] { EXPECT_EQ(QApplication::overrideCursor(), nullptr); };
     search("xyzzy");
     EXPECT_EQ(box(), noMatches);
     EXPECT_FALSE(isInResultsMode());
-    EXPECT_TRUE(window().cmdOK->isEnabled());
+    EXPECT_TRUE(cmdOK().isEnabled());
     EXPECT_EQ(clip.seen, QStringList({"shown", "hidden"}));
 }
 
 TEST_F(SearchWindow, ReportsAPatternThatCannotBeValid)
 {
-    Appearances clip(*window().Animation1);
+    Appearances clip(Animation1());
     boxes.whileShown = [&] { EXPECT_EQ(QApplication::overrideCursor(), nullptr); };
     search("[");
     EXPECT_EQ(box(), failedTitle + "Error 93: Invalid pattern string" + aborted);
@@ -401,7 +400,7 @@ TEST_F(SearchWindow, ReportsAFailureAfterTheFirstRow)
     EXPECT_EQ(sql(), allVerses);
     EXPECT_FALSE(isInResultsMode());
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-    EXPECT_FALSE(window().Animation1->isVisible());
+    EXPECT_FALSE(Animation1().isVisible());
     search(firstWords, -1, "[", 2);
     EXPECT_EQ(box(), failedTitle + "Error 0: " + aborted);
 }
@@ -410,7 +409,7 @@ TEST_F(SearchWindow, RepeatsAFailureWithoutRunningItAndWithoutAnError)
 {
     search("[");
     box();
-    Appearances clip(*window().Animation1);
+    Appearances clip(Animation1());
     search("[");
     EXPECT_EQ(box(), failedTitle + "Error 0: " + aborted);
     EXPECT_EQ(clip.seen, QStringList({"hidden"}).mid(1)) << "the clip shows while a query runs";
@@ -420,7 +419,7 @@ TEST_F(SearchWindow, RepeatsNoMatchesWithoutAQuery)
 {
     search("xyzzy");
     box();
-    window().Data1.setRecordSource("untouched");
+    Data1().setRecordSource("untouched");
     search("XYZZY");
     EXPECT_EQ(box(), noMatches);
     EXPECT_EQ(sql(), "untouched");
@@ -432,7 +431,7 @@ TEST_F(SearchWindow, RepeatsTheResultsWithoutAQuery)
     const QStringList before = lines();
     newSearch();
     boxes.shown.clear();
-    window().Data1.setRecordSource("untouched");
+    Data1().setRecordSource("untouched");
     search("AMOR", 47, "", 2);
     EXPECT_EQ(sql(), "untouched");
     EXPECT_EQ(box(), found(static_cast<int>(before.size())));
@@ -445,7 +444,7 @@ TEST_F(SearchWindow, KnowsARepeatByWhatWasTypedNotByWhatWasSearched)
 {
     search("d'água", 4, "d'ouro", 2, true);
     newSearch();
-    window().Data1.setRecordSource("untouched");
+    Data1().setRecordSource("untouched");
     search("d'água", 4, "d'ouro", 2, true);
     EXPECT_EQ(sql(), "untouched");
 }
@@ -464,7 +463,7 @@ TEST_F(SearchWindow, RunsAnewWhenAnInputChanged)
     search("amor");
     for (const auto& row : rows) {
         newSearch();
-        window().Data1.setRecordSource("untouched");
+        Data1().setRecordSource("untouched");
         search(row.text1, row.range, row.text2, row.connective, row.wholeWord);
         EXPECT_NE(sql(), "untouched") << row.text1 << row.text2;
         if (!isInResultsMode()) // nothing found: the button of the next round needs the results mode
@@ -480,11 +479,11 @@ TEST_F(SearchWindow, ForgetsOnlyTheFirstWordWhenItIsClosed)
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     ASSERT_EQ(open<frmAdvSearch>(), nullptr);
     frame().openSearch();
-    EXPECT_EQ(window().Text1->text(), "");
+    EXPECT_EQ(Text1().text(), "");
     search("xyzzy", 47, "ira", 1);
     EXPECT_NE(sql(), "") << "it was taken for a repeat";
     box();
-    window().Data1.setRecordSource("untouched");
+    Data1().setRecordSource("untouched");
     search("xyzzy", 47, "ira", 1);
     EXPECT_EQ(sql(), "untouched");
 }
@@ -493,15 +492,15 @@ TEST_F(SearchWindow, KeepsTheOtherMemoryWhenItIsClosed)
 {
     search("[", 47, "ira", 2);
     box();
-    window().Text1->setText("");
+    Text1().setText("");
     outer(window()).close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     frame().openSearch();
     // With no first word again, as the memory has it, all the rest is as it was: a repeat of the failure.
     search("", 47, "ira", 2);
     EXPECT_TRUE(boxes.shown.isEmpty()) << "the button is disabled";
-    window().cmdOK->setEnabled(true);
-    click(*window().cmdOK);
+    cmdOK().setEnabled(true);
+    click(cmdOK());
     EXPECT_EQ(box(), failedTitle + "Error 0: " + aborted);
 }
 
@@ -532,7 +531,7 @@ TEST_F(SearchWindow, SearchesAnApostropheAsAnyCharacter)
 
 TEST_F(SearchWindow, FindsTheVersesOfEzrToThoseOfEz)
 {
-    ASSERT_EQ(window().Combo2->itemText(30), "Ez");
+    ASSERT_EQ(Combo2().itemText(30), "Ez");
     search(phrases::thirdOfAll, 30);
     EXPECT_TRUE(lines().first().startsWith("Ezr:"));
     EXPECT_TRUE(lines().last().startsWith("Ez:"));
@@ -579,11 +578,10 @@ TEST_F(SearchWindow, LeavesTheQueryAsItWasForNoConnective)
 
 TEST_F(SearchWindow, SearchesWithEnterWhereverTheFocusIs)
 {
-    window().Text1->setText("amor");
-    for (QWidget* control : std::initializer_list<QWidget*>{window().Text1, window().Combo2, window().Text2,
-                                                            window().cmdCancel}) {
+    Text1().setText("amor");
+    for (QWidget* control : std::initializer_list<QWidget*>{&Text1(), &Combo2(), &Text2(), &cmdCancel()}) {
         control->setFocus();
-        press(control == window().Text2 ? Qt::Key_Enter : Qt::Key_Return);
+        press(control == &Text2() ? Qt::Key_Enter : Qt::Key_Return);
         EXPECT_TRUE(isInResultsMode()) << control->objectName().toStdString();
         EXPECT_EQ(boxes.shown.size(), 1) << control->objectName().toStdString();
         boxes.shown.clear();
@@ -593,13 +591,13 @@ TEST_F(SearchWindow, SearchesWithEnterWhereverTheFocusIs)
 
 TEST_F(SearchWindow, DoesNothingForEnterWithoutTextOrInResultsMode)
 {
-    window().Text1->setFocus();
-    window().Text1->setText("  ");
+    Text1().setFocus();
+    Text1().setText("  ");
     press(Qt::Key_Return);
     EXPECT_TRUE(boxes.shown.isEmpty());
     search("amor");
     boxes.shown.clear();
-    window().cmdCancel->setFocus();
+    cmdCancel().setFocus();
     press(Qt::Key_Return);
     EXPECT_TRUE(boxes.shown.isEmpty());
     EXPECT_NE(open<frmAdvSearch>(), nullptr);
@@ -607,12 +605,12 @@ TEST_F(SearchWindow, DoesNothingForEnterWithoutTextOrInResultsMode)
 
 TEST_F(SearchWindow, ClosesByEscAndByItsButton)
 {
-    window().Combo1->setFocus();
+    Combo1().setFocus();
     press(Qt::Key_Escape);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(open<frmAdvSearch>(), nullptr);
     frame().openSearch();
-    click(*window().cmdCancel);
+    click(cmdCancel());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(open<frmAdvSearch>(), nullptr);
 }
@@ -626,7 +624,7 @@ TEST_F(SearchWindow, IsNotResetByTheSearchCommand)
     EXPECT_FALSE(outer(window()).isMinimized());
     EXPECT_EQ(activeForm(), &window());
     EXPECT_TRUE(isInResultsMode());
-    EXPECT_EQ(window().Text1->text(), "amor");
+    EXPECT_EQ(Text1().text(), "amor");
 }
 
 TEST_F(SearchWindow, SendsTheHelpKeyForItsHelpButton)
@@ -646,22 +644,22 @@ TEST_F(SearchWindow, SendsTheHelpKeyForItsHelpButton)
             return false;
         }
     } keys;
-    click(*window().cmdHelp);
+    click(cmdHelp());
     EXPECT_EQ(keys.presses, 1);
 }
 
 TEST_F(SearchWindow, GivesItsControlsTheAltKeysThatMenusWantToo)
 {
-    window().Combo1->setFocus();
+    Combo1().setFocus();
     press(Qt::Key_E, Qt::AltModifier);
-    EXPECT_TRUE(window().Text1->hasFocus());
+    EXPECT_TRUE(Text1().hasFocus());
     press(Qt::Key_B, Qt::AltModifier);
-    EXPECT_TRUE(window().Combo2->hasFocus());
+    EXPECT_TRUE(Combo2().hasFocus());
     press(Qt::Key_W, Qt::AltModifier);
-    EXPECT_TRUE(window().chkWholeWrd->isChecked());
-    EXPECT_TRUE(window().Text1->hasFocus()) << "as after any click of the check box";
+    EXPECT_TRUE(chkWholeWrd().isChecked());
+    EXPECT_TRUE(Text1().hasFocus()) << "as after any click of the check box";
     search("amor");
-    window().cmdCancel->setFocus();
+    cmdCancel().setFocus();
     press(Qt::Key_R, Qt::AltModifier);
     EXPECT_TRUE(list().hasFocus());
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
@@ -674,7 +672,7 @@ TEST_F(SearchWindow, LeavesTheMenusReachable)
         if (entry->text() == "&Edit")
             edit = entry->menu();
     ASSERT_NE(edit, nullptr);
-    window().Text1->setFocus();
+    Text1().setFocus();
     QTest::keyPress(QApplication::focusWidget(), Qt::Key_Alt);
     QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Alt, Qt::AltModifier);
     ASSERT_TRUE(frame().menuBar()->hasFocus());
@@ -689,17 +687,17 @@ TEST_F(SearchWindow, LeavesTheMenusReachable)
         edit->close();
     }
     newSearch();
-    window().Combo2->setFocus();
+    Combo2().setFocus();
     press(Qt::Key_E, Qt::AltModifier);
     EXPECT_FALSE(edit->isVisible());
-    EXPECT_TRUE(window().Text1->hasFocus());
+    EXPECT_TRUE(Text1().hasFocus());
 }
 
 TEST_F(SearchWindow, PlaysItsClipWhileTheQueryRuns)
 {
-    ASSERT_GT(window().Animation1->frameCount(), 1);
-    window().Text1->setText("*");
-    window().Combo2->setCurrentIndex(-1);
+    ASSERT_GT(Animation1().frameCount(), 1);
+    Text1().setText("*");
+    Combo2().setCurrentIndex(-1);
     class Playing : public QObject
     {
     public:
@@ -719,9 +717,9 @@ TEST_F(SearchWindow, PlaysItsClipWhileTheQueryRuns)
 
     private:
         AnimationPlayer& m_clip;
-    } playing(*window().Animation1);
-    boxes.whileShown = [&] { EXPECT_FALSE(window().Animation1->isPlaying()); };
-    click(*window().cmdOK);
+    } playing(Animation1());
+    boxes.whileShown = [&] { EXPECT_FALSE(Animation1().isPlaying()); };
+    click(cmdOK());
     EXPECT_TRUE(playing.wasPainted);
 }
 

@@ -1,6 +1,6 @@
 // Long use at a fast clock: ten thousand turns of the verses by the timer, a thousand searches.
-#include "widgets/ListBox.h"
 #include "support/Session.h"
+#include "widgets/ListBox.h"
 #include "widgets/SoftBttn.h"
 #include <chrono>
 #include <fstream>
@@ -133,13 +133,13 @@ protected:
     {
         frame().openSearch();
         auto& window = get<frmAdvSearch>();
-        if (window.List1->isVisible())
-            click(*window.cmdHideList);
-        window.Text1->setText(word);
-        window.Combo2->setCurrentIndex(47); // the whole Bible
-        click(*window.cmdOK);
-        found += window.List1->count();
-        window.List1->setFocus();
+        if (control<ListBox>(window, "List1").isVisible())
+            click(control<SoftBttn>(window, "cmdHideList"));
+        control<QLineEdit>(window, "Text1").setText(word);
+        control<QComboBox>(window, "Combo2").setCurrentIndex(47); // the whole Bible
+        click(control<SoftBttn>(window, "cmdOK"));
+        found += control<ListBox>(window, "List1").count();
+        control<ListBox>(window, "List1").setFocus();
         press(Qt::Key_Down);
         press(Qt::Key_Return); // the first result, in the reading window
         press(Qt::Key_F12);

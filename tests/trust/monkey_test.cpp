@@ -457,14 +457,15 @@ protected:
 
     static void expectSearch(const frmAdvSearch& search)
     {
-        const bool results = !search.List1->isHidden();
-        EXPECT_EQ(search.Text1->isEnabled(), !results);
-        EXPECT_EQ(search.Combo2->isEnabled(), !results);
-        EXPECT_EQ(search.cmdHideList->isHidden(), !results);
-        EXPECT_EQ(search.cmdCopySR->isEnabled(), results);
-        EXPECT_EQ(search.mnuCopySR->isEnabled(), results);
-        EXPECT_EQ(search.cmdOK->isEnabled(), !results && !search.Text1->text().trimmed().isEmpty());
-        EXPECT_TRUE(search.Animation1->isHidden()) << "the clip stays";
+        const bool results = !control<ListBox>(search, "List1").isHidden();
+        EXPECT_EQ(control<QLineEdit>(search, "Text1").isEnabled(), !results);
+        EXPECT_EQ(control<QComboBox>(search, "Combo2").isEnabled(), !results);
+        EXPECT_EQ(control<SoftBttn>(search, "cmdHideList").isHidden(), !results);
+        EXPECT_EQ(control<SoftBttn>(search, "cmdCopySR").isEnabled(), results);
+        EXPECT_EQ(control<QAction>(search, "mnuCopySR").isEnabled(), results);
+        EXPECT_EQ(control<SoftBttn>(search, "cmdOK").isEnabled(),
+                  !results && !control<QLineEdit>(search, "Text1").text().trimmed().isEmpty());
+        EXPECT_TRUE(control<AnimationPlayer>(search, "Animation1").isHidden()) << "the clip stays";
         if (search.state() == Form::Normal) {
             EXPECT_EQ(search.outerHeight(), toTwips(toPixels(results ? 5325 : 2920)));
         }
