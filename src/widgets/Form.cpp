@@ -270,6 +270,8 @@ bool Form::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == subWindow() && event->type() == QEvent::MouseButtonPress)
         m_pressedAt = subWindow()->geometry();
+    if (watched == subWindow() && event->type() == QEvent::MouseButtonRelease)
+        m_pressedAt = QRect();
     return QWidget::eventFilter(watched, event);
 }
 

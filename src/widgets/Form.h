@@ -114,7 +114,7 @@ private:
     QList<QMenu*> m_menus;
     QPointer<QWidget> m_lastFocus;
     QPointer<QWidget> m_clicked; ///< has the focus by the mouse, and the window is about to become active
-    QRect m_pressedAt; ///< the whole window when a mouse button last went down on its border
+    QRect m_pressedAt; ///< the whole window when a mouse button went down on its border that is still held
     bool m_loaded = false;
     bool m_active = false;
     bool m_maximized = false;
