@@ -190,5 +190,7 @@ void HelpWindow::makeToolbar()
     toolbar->addAction(otherLanguage);
     for (auto* button : toolbar->findChildren<QToolButton*>())
         button->setFocusPolicy(Qt::TabFocus);
+    for (QAction* action : {back, forward, findNext, findPrevious, copy, larger, smaller, normalSize})
+        toolbar->widgetForAction(action)->setObjectName(action->objectName());
     setContextMenuPolicy(Qt::NoContextMenu); // the toolbar cannot be hidden
 }

@@ -1,8 +1,5 @@
 // Whether every text of every window has room, in the fonts that the system has: there may be only one.
 #include "app/AboutTexts.h"
-#include "help/Help.h"
-#include "help/HelpWindow.h"
-#include "maps/ChildMapDsp.h"
 #include "maps/ChildMapSel.h"
 #include "maps/TabStrip.h"
 #include "read/VerseLabel.h"
@@ -11,6 +8,7 @@
 #include "support/CutTexts.h"
 #include "support/OnceModal.h"
 #include "support/Session.h"
+#include "support/Windows.h"
 #include "text/Phrases.h"
 #include "widgets/ListBox.h"
 #include "widgets/SoftBttn.h"
@@ -43,10 +41,17 @@ protected:
     }
 };
 
-TEST_F(CutTexts, AreNotInTheSelectionWindow)
+class CutTextsOf : public CutTexts, public testing::WithParamInterface<WindowRow>
 {
-    expectNoneIn(get<ChildSelect>());
+};
+
+TEST_P(CutTextsOf, AreNone)
+{
+    EXPECT_TRUE(withWindow(GetParam(), expectNoneIn));
 }
+
+INSTANTIATE_TEST_SUITE_P(Windows, CutTextsOf, testing::ValuesIn(windowTable()),
+                         [](const auto& row) { return row.param.name.toStdString(); });
 
 TEST_F(CutTexts, AreNotInTheReadingWindow)
 {
@@ -82,36 +87,6 @@ TEST_F(CutTexts, AreNotInTheStudyAids)
         control<TabStrip>(window, "TabStrip1").setCurrentIndex(page);
         expectNoneIn(window);
     }
-}
-
-TEST_F(CutTexts, AreNotInTheMapWindow)
-{
-    click(*frame().cmdTools);
-    auto& aids = get<ChildMapSel>();
-    control<TabStrip>(aids, "TabStrip1").setCurrentIndex(1);
-    QTest::keyClick(&control<ListBox>(aids, "lstMaps"), Qt::Key_Return);
-    expectNoneIn(get<ChildMapDsp>());
-}
-
-TEST_F(CutTexts, AreNotInTheHelp)
-{
-    press(Qt::Key_F1);
-    settle();
-    HelpWindow* window = frame().help().window();
-    ASSERT_NE(window, nullptr);
-    expectNoneIn(*window);
-}
-
-TEST_F(CutTexts, AreNotInTheAboutWindow)
-{
-    bool used = false;
-    const auto looking = onceModal([&](QWidget& window) {
-        expectNoneIn(window);
-        used = true;
-        window.close();
-    });
-    click(*frame().cmdAbout);
-    EXPECT_TRUE(used);
 }
 
 TEST_F(CutTexts, AreNotInAMessage)

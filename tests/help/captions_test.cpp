@@ -62,12 +62,12 @@ protected:
     {
         frame().openStudyAids();
         auto& aids = get<ChildMapSel>();
-        for (QRadioButton* group : aids.optEvents) {
+        for (auto* group : aids.findChildren<QRadioButton*>("optEvents")) {
             group->click();
             look();
         }
-        aids.lstMaps->setCurrentRow(0);
-        aids.lstMaps->setFocus();
+        control<ListBox>(aids, "lstMaps").setFocus();
+        press(Qt::Key_Home);
         press(Qt::Key_Return);
     }
 
@@ -89,7 +89,7 @@ protected:
     void lookAtEveryWindow()
     {
         frame().readingWindow().restoreAndActivate();
-        frame().readingWindow().cmdChap->click();
+        control<SoftBttn>(frame().readingWindow(), "cmdChap").click();
         frame().openSearch();
         lookAtTheStudyAids();
         frame().help().open();

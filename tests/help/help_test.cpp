@@ -1,5 +1,4 @@
 // The help: its text, the ways to it, and its window.
-#include "app/HelpPage.h"
 #include "help/Help.h"
 #include "help/HelpBrowser.h"
 #include "help/HelpFile.h"
@@ -8,6 +7,7 @@
 #include "store/BookCatalog.h"
 #include "support/OnceModal.h"
 #include "support/Session.h"
+#include "support/Windows.h"
 #include "widgets/Maker.h"
 #include "widgets/SoftBttn.h"
 #include <QAbstractItemView>
@@ -99,9 +99,8 @@ TEST(HelpFile, HasNoPagesWhenItIsMissingEmptyOrNoFile)
 
 TEST(HelpText, HasAPageForEveryWindow)
 {
-    for (const char* name : {"MDIParent", "ChildSelect", "ChildRead", "ChapRead", "frmAdvSearch",
-                             "ChildMapSel", "ChildMapDsp", "frmStart", "frmDN", "frmQORV", "HelpWindow"})
-        EXPECT_TRUE(pageNames().contains(name)) << name;
+    for (const WindowRow& row : windowTable())
+        EXPECT_TRUE(pageNames().contains(row.name)) << row.name.toStdString();
 }
 
 TEST(HelpText, EverySectionIsAPageAndNamesAreUnique)
@@ -243,26 +242,6 @@ TEST_F(HelpSession, OpensAtTheFramesPageWhenNoChildIsOpen)
     QTest::qWait(0);
     frame().cmdNote->setFocus();
     EXPECT_EQ(pageOnF1(), "MDIParent");
-}
-
-TEST_F(HelpSession, OpensAtThePageOfEveryChildWindow)
-{
-    for (const char* name : {"ChapRead", "frmAdvSearch", "ChildMapSel", "ChildMapDsp"}) {
-        // A window known by its name alone, as every child window is.
-        class Named : public Form
-        {
-        public:
-            Named(Shell& shell, const QString& itsName)
-                : Form(shell, itsName)
-            {
-            }
-        };
-        auto* window = new Named(frame(), name);
-        window->loadInto(*frame().area());
-        window->activate();
-        EXPECT_EQ(helpPageOf(window), name);
-        EXPECT_EQ(helpPageOf(frame().cmdNote), name);
-    }
 }
 
 TEST_F(HelpSession, OpensAtTheAboutWindowsPageWhileThatIsOpen)

@@ -114,6 +114,7 @@ protected:
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     }
 
+public:
     /// Until nothing is left to be done now; one round may leave some of it on a slow machine.
     static void settle()
     {
@@ -123,6 +124,7 @@ protected:
                 break;
     }
 
+protected:
     /// One step of the wheel, towards the reader, over the middle of a control.
     static void turnWheel(QWidget& control, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
