@@ -15,18 +15,19 @@ import formatting
 import headers
 import names
 import subjects
+import windows
 
 
 def breaches(top, build):
     found = formatting.breaches(top)
-    for rule in (floors, names, documents, subjects):
+    for rule in (floors, names, documents, windows, subjects):
         found += rule.breaches(top)
     return found + headers.breaches(top, build)
 
 
 def main():
     found = breaches(*(pathlib.Path(argument).resolve() for argument in sys.argv[1:]))
-    print("\n".join(found) if found else "formatting, floors, names, documents, subjects and headers keep the rules")
+    print("\n".join(found) if found else "formatting, floors, names, documents, windows, subjects and headers keep the rules")
     return 1 if found else 0
 
 

@@ -12,6 +12,7 @@ import floors  # noqa: E402
 import formatting  # noqa: E402
 import names  # noqa: E402
 import subjects  # noqa: E402
+import windows  # noqa: E402
 
 SOUND = {
     "CMakeLists.txt": "kestrel_library(store LINK SQLite::SQLite3)\nkestrel_library(read QT LINK store)\n"
@@ -24,6 +25,11 @@ SOUND = {
     "src/search/Query.h": "#pragma once\n",
     "src/help/Help.h": '#pragma once\n\n#include "read/Chapter.h"\n#include "store/Verses.h"\n',
     "tests/read/chapter_test.cpp": "TEST(Chapter, IsGathered) {}\n",
+    "src/read/ChildRead.h": "#pragma once\n\nclass ChildRead : public Form {};\n",
+    "src/read/TextWindow.h": "#pragma once\n\nclass TextWindow : public QDialog {};\n",
+    "src/read/frmDN.h": "#pragma once\n\nclass frmDN : public TextWindow {};\n",
+    "tests/windows.tsv": "# class\nChildRead\tchild\tReturn\tReading\nfrmDN\tmodal\tF4\tSupport\n",
+    "data/help/kestrel.html": '<section id="ChildRead"></section><section id="frmDN"></section>\n',
     "tools/make_data": "#!/bin/sh\n",
     "tools/clip/Clip.h": "#pragma once\n",
     "bench/compare": "#!/bin/sh\n",
@@ -49,7 +55,7 @@ def told(rule, top):
     return "\n".join(rule.breaches(top)).replace(f"{top}/", "")
 
 
-@pytest.mark.parametrize("rule", [documents, floors, formatting, names])
+@pytest.mark.parametrize("rule", [documents, floors, formatting, names, windows])
 def test_a_sound_house_keeps_them(house, rule):
     assert told(rule, house) == ""
 
@@ -66,6 +72,9 @@ def test_a_sound_house_keeps_them(house, rule):
     (names, "tests/read/more_test.cpp", "TEST(Chapter, isGathered)\n", "Chapter.isGathered: a test is named by a sentence"),
     (names, "tests/read/ChapterTests.cpp", "TEST(Chapter, Is)\n", "tests/read/ChapterTests.cpp: a file of tests is named after"),
     (names, "src/read/Long.h", "//\n" * 2000, "src/read/Long.h: 2000 lines, more than"),
+    (windows, "src/read/Stats.h", "class Stats : public Form\n", "the window Stats has no row in tests/windows.tsv"),
+    (windows, "src/read/Stats.h", "class Stats final : public TextWindow\n", "the window Stats has no page in the help"),
+    (windows, "tests/windows.tsv", "ChildRead\nfrmDN\nGone\tchild\n", "tests/windows.tsv: there is no window Gone"),
     (documents, "docs/new.md", "see `src/store/Gone.h`\n", "docs/new.md:1: there is no src/store/Gone.h"),
     (documents, "docs/new.md", "see [it](0001-gone.md)\n", "docs/new.md:1: there is no 0001-gone.md"),
     (documents, "docs/new.md", "`Chapter.IsLost`\n", "docs/new.md:1: there is no test Chapter.IsLost"),
