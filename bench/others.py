@@ -1,4 +1,4 @@
-"""Other ways of searching the same text, for comparison: ripgrep, the engine's own LIKE, and a full-text index of it.
+"""Other ways of searching the same text, for comparison: ripgrep, SQLite's own LIKE, and a full-text index of it.
 
 The two databases' tables are made beforehand, in a temporary folder, and their making is not timed.
 """
@@ -57,21 +57,21 @@ class Others:
         self.database = os.path.join(folder.name, "text.db")
         tables = TABLES.format(text=options.text)
         subprocess.run(["sqlite3", "-batch", self.database], input=tables, text=True, check=True)
-        for grep, command, data in (("-ic", ["rg", "-ic", "amor", options.text], ""), ("-ic", self._engine(), LIKE),
-                                    ("-icw", self._engine(), FULL_TEXT)):
+        for grep, command, data in (("-ic", ["rg", "-ic", "amor", options.text], ""), ("-ic", self._sqlite(), LIKE),
+                                    ("-icw", self._sqlite(), FULL_TEXT)):
             expected = time_process(["grep", grep, "amor", options.text], options.clock)[1]
             found = time_process(command, options.clock, data)[1]
             if found != expected:
                 sys.exit(f"{command[0]} {data}finds {found.strip()} verses, grep {grep} {expected.strip()}")
 
-    def _engine(self):
+    def _sqlite(self):
         return ["sqlite3", "-batch", "-readonly", self.database]
 
     def _statement(self, statement, clock):
         """The whole process with one statement, and what each of many more adds to it, compiling it included. (The
         shell's own timer has no more than milliseconds.)"""
-        one = [time_process(self._engine(), clock, statement)[0] for _ in range(RUNS)]
-        many, _ = time_process(self._engine(), clock, statement * (1 + REPEATS))
+        one = [time_process(self._sqlite(), clock, statement)[0] for _ in range(RUNS)]
+        many, _ = time_process(self._sqlite(), clock, statement * (1 + REPEATS))
         return one, [(many - statistics.median(one)) / REPEATS]
 
     def __call__(self, options):

@@ -3,9 +3,8 @@
 #include <stdexcept>
 #include <string>
 
-/// An error of the data engine: its number and its own description.
-/// Numbers are the engine's result codes, or 93 ("Invalid pattern string") for a LIKE pattern that cannot be
-/// valid.
+/// An error of SQLite, in its own words. The number is its result code, or 93 ("Invalid pattern string") for
+/// a LIKE pattern that cannot be valid.
 class DataError : public std::runtime_error
 {
 public:

@@ -9,8 +9,7 @@
 ///
 /// All texts are UTF-8. The database is opened at the first refresh() after setDatabaseName(), read-only;
 /// every data source of the process on the same path shares it. Rows of `NewTestament` always come in
-/// ascending `VerseNumber` order. Operations that reach the engine throw DataError with the engine's own
-/// text.
+/// ascending `VerseNumber` order. refresh() and moveNext() throw DataError with SQLite's own text.
 class DataSource
 {
 public:
@@ -42,8 +41,11 @@ public:
     std::string_view field(int position) const;
     std::string_view field(std::string_view column) const;
 
-    /// Called after refresh() and moveNext(), when the current row is another one (or none), for bound
-    /// controls.
+    /// Called at the end of refresh() and moveNext(), when another row is the current one, or none is any
+    /// more: for bound controls. It may read the row, and may set an SQL text and refresh(), which calls it
+    /// again. It must not destroy the data source or replace itself. It is not called when refresh() or
+    /// moveNext() throws, by moveNext() at the end, or by setDatabaseName(), although there is no current row
+    /// then.
     std::function<void()> currentRowChanged;
 
 private:

@@ -7,8 +7,8 @@
 
 namespace {
 
-/// The path as an address that the engine takes literally, whatever characters it holds. The file counts as
-/// unchangeable, so the engine neither locks it nor looks for a journal beside it.
+/// The path as an address that SQLite takes literally, whatever characters it holds. The file counts as
+/// unchangeable, so that SQLite neither locks it nor looks for a journal beside it.
 std::string readOnlyUri(const std::string& path)
 {
     std::string uri = path.starts_with('/') ? "file://" : "file:";
@@ -72,9 +72,8 @@ void Database::setUp()
         throw DataError(SQLITE_NOTADB, sqlite3_errstr(SQLITE_NOTADB));
     execute("PRAGMA temp_store = MEMORY");
     execute("PRAGMA cache_size = -256");
-    execute("CREATE VIRTUAL TABLE temp.VerseRows USING VerseRows");
-    // The order is part of the query itself here, so that it holds whatever plan the engine makes; where the
-    // rows come in order anyway, it costs nothing.
+    // The order is part of the view, so that it holds whatever plan SQLite makes; where the rows come in
+    // order anyway, it costs nothing. Named with temp, the table is ours whatever tables the file has.
     execute("CREATE TEMP VIEW NewTestament AS SELECT VerseId, VerseNumber, KJVerseText FROM temp.VerseRows "
             "ORDER BY VerseNumber");
     execute("PRAGMA query_only = ON");

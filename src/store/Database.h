@@ -25,7 +25,7 @@ public:
     /// ";" or a comment that is not closed.
     Statement prepare(const std::string& sql);
 
-    /// The engine's connection, for error texts.
+    /// For the texts of errors.
     sqlite3* connection() const { return m_connection.get(); }
 
 private:

@@ -3,6 +3,7 @@
 #include "store/Sqlite.h"
 #include "store/TextSearch.h"
 #include "store/Verses.h"
+#include <functional>
 
 namespace {
 
@@ -22,21 +23,27 @@ public:
     /// The result of like() for a text. NULL, for which it is unknown, has none.
     void answer(sqlite3_context* context, sqlite3_value* value)
     {
-        // Rows are asked for in ascending order: those between `from` and the next match need no look at
-        // their text.
         const auto* text = static_cast<const char*>(sqlite3_value_blob(value));
-        if (text >= m_from && text <= m_nextMatch)
+        if (isDecided(text))
             sqlite3_result_int(context, text == m_nextMatch);
         else if (text || sqlite3_value_type(value) != SQLITE_NULL)
             sqlite3_result_int(context, matches(value, text));
     }
 
 private:
+    /// SQLite asks for the rows in ascending order: none from the text last looked at to the next match needs
+    /// a look at its text.
+    bool isDecided(const char* text) const
+    {
+        const std::less<const char*> before; // "<" is not defined for what is in no common array
+        return m_from && !before(text, m_from) && !before(m_nextMatch, text);
+    }
+
     bool matches(sqlite3_value* value, const char* text)
     {
         if (!m_block || !m_block->holds(text))
             return m_pattern.matches(valueBytes(value));
-        m_row = m_block->rowAt(text, text < m_from ? 0 : m_row);
+        m_row = m_block->rowAt(text, std::less<>()(text, m_from) ? 0 : m_row);
         m_row = m_search->next(m_row, m_block->size());
         m_from = text;
         m_nextMatch = m_row < m_block->size() ? m_block->text(m_row).data() : m_block->textsEnd();
@@ -46,9 +53,9 @@ private:
     LikePattern m_pattern;
     const VerseBlock* m_block = nullptr;
     std::optional<TextSearch> m_search;
-    const char* m_from = ""; ///< at first beyond the next match, so that nothing is between
-    const char* m_nextMatch = nullptr;
-    std::size_t m_row = 0; ///< of the next match
+    const char* m_from = nullptr;      ///< the text last looked at, none at first
+    const char* m_nextMatch = nullptr; ///< the next text that matches, or the end of all
+    std::size_t m_row = 0;             ///< of the next match
 };
 
 /// like(pattern, text), which is what `text LIKE pattern` calls. Unknown, that is NULL, when either is NULL.

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-/// The error that the engine met last on this connection.
+/// The error that SQLite met last on this connection.
 inline DataError sqliteError(sqlite3* connection)
 {
     return DataError(sqlite3_errcode(connection), sqlite3_errmsg(connection));
@@ -28,7 +28,7 @@ inline std::string_view columnBytes(sqlite3_stmt* statement, int column)
                  : std::string_view();
 }
 
-/// The same of an argument that the engine hands to a function.
+/// The same of an argument that SQLite hands to a function.
 inline std::string_view valueBytes(sqlite3_value* value)
 {
     const auto* bytes = static_cast<const char*>(sqlite3_value_blob(value));
@@ -36,7 +36,8 @@ inline std::string_view valueBytes(sqlite3_value* value)
                  : std::string_view();
 }
 
-/// Compiles the first statement of an SQL text; throws what the engine says of it.
+/// Compiles the first statement of an SQL text; throws what SQLite says of it. Whatever follows it, or a NUL,
+/// is not read.
 inline Statement prepare(sqlite3* connection, const std::string& sql)
 {
     sqlite3_stmt* statement = nullptr;

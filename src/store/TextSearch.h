@@ -13,9 +13,11 @@ public:
     /// Throws DataError 93, "Invalid pattern string".
     TextSearch(const VerseBlock& block, std::string_view pattern);
 
+    /// Of a row of the block.
     bool matches(std::size_t row) const { return next(row, row + 1) == row; }
 
-    /// The first matching row from `row` on and before `end`; `end` if there is none.
+    /// The first matching row from `row` on and before `end`; `end` if there is none. `end` is at most the
+    /// number of rows.
     std::size_t next(std::size_t row, std::size_t end) const;
 
     /// The share of the rows that match, 0 to 1, roughly: as in a few stretches spread over the block.
@@ -30,7 +32,8 @@ private:
 
     void chooseProbes();
     void chooseBits();
-    // Compiled twice: a processor with wide registers takes twice the text in a step.
+    // The compiler makes one version for any x86-64 processor and one for those with AVX2, whose registers
+    // are twice as wide; the program picks one as it starts.
     [[gnu::target_clones("avx2", "default")]] const char* findPiece(const char* at, const char* end) const;
     bool pieceStandsAt(const char* at) const;
 

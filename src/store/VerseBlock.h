@@ -22,6 +22,7 @@ public:
     /// Reads the table of the connection's file, at most `expectedBytes` long. Throws DataError.
     VerseBlock(sqlite3* connection, std::size_t expectedBytes);
 
+    /// How many rows there are. The next three want a row below that.
     std::size_t size() const { return m_numbers.size(); }
     std::int64_t number(std::size_t row) const { return m_numbers[row]; }
     std::string_view key(std::size_t row) const { return part(m_keys, m_keyStarts, row); }
@@ -32,13 +33,14 @@ public:
     std::size_t rowAbove(std::int64_t number) const;
 
     const char* textsEnd() const { return m_texts.data() + m_texts.size(); }
-    /// Whether this address is in the texts; and the row whose text it belongs to, sought from an earlier row
-    /// on.
+    /// Whether this address is in the texts.
     bool holds(const char* address) const
     {
         const std::less<const char*> before;
         return !before(address, m_texts.data()) && before(address, textsEnd());
     }
+    /// The row whose text holds this address of the texts. `from` is that row or an earlier one, to seek
+    /// from.
     std::size_t rowAt(const char* address, std::size_t from) const;
 
     /// How common each byte is in a sample of the texts, bit 0x20 set throughout.

@@ -5,7 +5,8 @@
 #include "store/Verses.h"
 #include <algorithm>
 
-/// A walk over the rows of a block that fulfil every condition given, in order.
+/// A walk over the rows of a block that fulfil every condition given, in order. The verses must hold a block
+/// and outlive it. First the conditions are given, then start() is called.
 class VerseCursor
 {
 public:
@@ -14,12 +15,15 @@ public:
     void keepNone() { m_end = m_row = 0; }
     void keepFrom(std::size_t row) { m_row = std::max(m_row, row); }
     void keepBefore(std::size_t row) { m_end = std::min(m_end, row); }
+    /// Leaves more rows than those of the key: all whose key begins so, letter case aside.
     void keepKey(std::string_view key);
+    /// This and the next throw DataError 93, "Invalid pattern string".
     void keepKeysLike(std::string_view pattern);
     void keepTextsLike(std::string_view pattern);
 
-    /// Stands on the first row, once all conditions are given.
+    /// Stands on the first row.
     void start() { seek(); }
+    /// Must not be at the end.
     void next()
     {
         ++m_row;
@@ -27,6 +31,7 @@ public:
             seek();
     }
     bool atEnd() const { return m_row >= m_end; }
+    /// The current row; must not be at the end.
     std::size_t row() const { return m_row; }
 
 private:

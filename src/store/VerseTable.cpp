@@ -1,5 +1,33 @@
 #include "store/VerseTable.h"
 
+// How a query runs. SQLite compiles the SQL text of a DataSource, where NewTestament is a view of
+// Database.cpp over this virtual table, and asks the table for its rows:
+//
+//     planQuery()      which conditions the table can use, and at what cost
+//        │             the plan: a letter for each of them
+//     startRows()      the same conditions with their values
+//        │
+//     VerseCursor      walks the rows that fulfil them all, in order
+//        ├─ KeyIndex         rows whose key has a known beginning
+//        ├─ TextSearch       rows whose text matches a pattern, by a sweep over all texts
+//        └─ LikePattern      whether one key or text matches
+//              └─ LetterCase      which letters are two cases of one
+//
+// The letters of a plan, and what VerseCursor does with the value:
+//
+//     =  VerseNumber = value        both ends of the range of rows, by binary search
+//     <  VerseNumber < value        its end
+//     (  VerseNumber <= value       its end
+//     >  VerseNumber > value        its beginning
+//     )  VerseNumber >= value       its beginning
+//     k  VerseId = value            only keys that begin so
+//     K  VerseId LIKE value         the same for the pattern's beginning; then every such key is matched
+//     T  KJVerseText LIKE value     only texts that match
+//
+// SQLite tests conditions of the first six kinds once more on each row, and all others itself: NOT LIKE, and
+// a LIKE within an OR of which it tests every row, by calling like() (LikeFunction.cpp), which uses
+// TextSearch too.
+
 #include "store/Sqlite.h"
 #include "store/VerseCursor.h"
 
@@ -7,7 +35,7 @@ namespace {
 
 enum Column { VerseId, VerseNumber, KJVerseText };
 
-/// What VerseCursor can do with a condition; the plan is one of these letters an argument.
+/// What VerseCursor can do with a condition: the letters of a plan.
 enum Use : char {
     NumberEqual = '=',
     NumberBelow = '<',
@@ -43,6 +71,7 @@ Cursor* asCursor(sqlite3_vtab_cursor* cursor)
     return static_cast<Cursor*>(cursor);
 }
 
+/// Leaves an error's text where SQLite looks for it, and gives its number.
 int fail(sqlite3_vtab* table, const DataError& error)
 {
     sqlite3_free(table->zErrMsg);
@@ -50,6 +79,7 @@ int fail(sqlite3_vtab* table, const DataError& error)
     return error.number();
 }
 
+/// xConnect: declares the columns, when a statement first names the table.
 int connectTable(sqlite3* connection, void* verses, int, const char* const*, sqlite3_vtab** table, char**)
 {
     sqlite3_vtab_config(connection, SQLITE_VTAB_INNOCUOUS);
@@ -60,6 +90,7 @@ int connectTable(sqlite3* connection, void* verses, int, const char* const*, sql
     return result == SQLITE_OK && !*table ? SQLITE_NOMEM : result;
 }
 
+/// xDisconnect: the connection is closed.
 int disconnectTable(sqlite3_vtab* table)
 {
     delete static_cast<Table*>(table);
@@ -112,11 +143,14 @@ double share(Use use)
     }
 }
 
-// What rows cost, measured: one found by its text counts 1, for where the engine joins the finds of several
-// conditions it must sort them; one that it only tests, and one that a search for a text passes over, less.
+// What a row costs, measured, beside one that a search for a text finds. That one counts 1, because SQLite
+// may run a search for each term of an OR, and then has to sort what they find. It costs less to let SQLite
+// test a row, and least of all to pass over it in a search.
 constexpr double costOfTesting = 0.3;
 constexpr double costOfSearching = 0.04;
 
+/// xBestIndex: SQLite asks, for each way to run a statement that it considers, which conditions the table can
+/// use, how many rows will come and what they cost. The plan is handed to startRows().
 int planQuery(sqlite3_vtab* table, sqlite3_index_info* info)
 try {
     double rows = 31102;
@@ -130,7 +164,8 @@ try {
             continue;
         plan += use;
         info->aConstraintUsage[i].argvIndex = static_cast<int>(plan.size());
-        // Comparisons are narrowed by only; the engine knows best how it compares values of different types.
+        // Comparisons only narrow the rows, and SQLite tests them again, by its own rules for values of
+        // different types. LIKE is decided here for good.
         info->aConstraintUsage[i].omit = use == KeyLike || use == TextLike;
         if (use == TextLike) {
             found *= shareOfTexts(*static_cast<Table*>(table)->verses, info, i);
@@ -151,6 +186,7 @@ try {
     return SQLITE_NOMEM;
 }
 
+/// xOpen: a statement is about to read the table.
 int openCursor(sqlite3_vtab* table, sqlite3_vtab_cursor** cursor)
 {
     const Verses& verses = *static_cast<Table*>(table)->verses;
@@ -160,6 +196,7 @@ int openCursor(sqlite3_vtab* table, sqlite3_vtab_cursor** cursor)
     return *cursor ? SQLITE_OK : SQLITE_NOMEM;
 }
 
+/// xClose: it has read enough.
 int closeCursor(sqlite3_vtab_cursor* cursor)
 {
     delete asCursor(cursor);
@@ -197,6 +234,8 @@ void narrow(VerseCursor& rows, const VerseBlock& block, char use, sqlite3_value*
         rows.keepTextsLike(operand);
 }
 
+/// xFilter: begins a walk, or begins it anew with other values. `plan` is what planQuery() chose, with a
+/// value for each letter.
 int startRows(sqlite3_vtab_cursor* cursor, int, const char* plan, int count, sqlite3_value** values)
 try {
     const Verses& verses = asCursor(cursor)->verses;
@@ -212,6 +251,7 @@ try {
     return SQLITE_NOMEM;
 }
 
+/// xNext, xEof: steps on; whether that led past the last row.
 int nextRow(sqlite3_vtab_cursor* cursor)
 {
     asCursor(cursor)->rows.next();
@@ -223,6 +263,7 @@ int atEnd(sqlite3_vtab_cursor* cursor)
     return asCursor(cursor)->rows.atEnd();
 }
 
+/// xColumn: a column of the current row, texts without a copy.
 int readColumn(sqlite3_vtab_cursor* cursor, sqlite3_context* context, int column)
 {
     const VerseBlock& block = *asCursor(cursor)->verses.block;
@@ -236,20 +277,20 @@ int readColumn(sqlite3_vtab_cursor* cursor, sqlite3_context* context, int column
     return SQLITE_OK;
 }
 
+/// xRowid: by which SQLite knows a row again that two terms of an OR have found.
 int readRowid(sqlite3_vtab_cursor* cursor, sqlite3_int64* rowid)
 {
     *rowid = static_cast<sqlite3_int64>(asCursor(cursor)->rows.row());
     return SQLITE_OK;
 }
 
+/// Without xCreate: the table is there under the module's name, and no statement creates another.
 sqlite3_module makeModule()
 {
     sqlite3_module module{};
-    module.xCreate = connectTable;
     module.xConnect = connectTable;
     module.xBestIndex = planQuery;
     module.xDisconnect = disconnectTable;
-    module.xDestroy = disconnectTable;
     module.xOpen = openCursor;
     module.xClose = closeCursor;
     module.xFilter = startRows;

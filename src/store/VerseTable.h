@@ -12,6 +12,7 @@ struct Verses;
 ///     VerseId      = LIKE        by the key index, as far as the key's beginning is known
 ///     KJVerseText  LIKE          by TextSearch
 ///
-/// Everything else is left to the engine. Rows come in ascending VerseNumber order, which the table tells the
-/// engine. The verses must outlive the connection. Returns the engine's result code.
+/// Everything else is left to SQLite. Rows come in ascending VerseNumber order, and the table says so to
+/// SQLite. VerseTable.cpp tells how a query runs. The verses must outlive the connection. Returns SQLite's
+/// result code.
 int registerVerseTable(sqlite3* connection, const Verses* verses);

@@ -22,16 +22,16 @@ bool mayPass()
     return false;
 }
 
-sqlite3_mem_methods engineMemory; ///< as the engine came with it
+sqlite3_mem_methods sqliteMemory; ///< as SQLite came with it
 
-/// The engine takes other methods only before its first use.
-const bool engineIsWatched = [] {
-    if (sqlite3_config(SQLITE_CONFIG_GETMALLOC, &engineMemory) != SQLITE_OK)
+/// SQLite takes other methods only before its first use.
+const bool sqliteIsWatched = [] {
+    if (sqlite3_config(SQLITE_CONFIG_GETMALLOC, &sqliteMemory) != SQLITE_OK)
         return false;
-    sqlite3_mem_methods watched = engineMemory;
-    watched.xMalloc = [](int size) { return mayPass() ? engineMemory.xMalloc(size) : nullptr; };
+    sqlite3_mem_methods watched = sqliteMemory;
+    watched.xMalloc = [](int size) { return mayPass() ? sqliteMemory.xMalloc(size) : nullptr; };
     watched.xRealloc = [](void* memory, int size) {
-        return mayPass() ? engineMemory.xRealloc(memory, size) : nullptr;
+        return mayPass() ? sqliteMemory.xRealloc(memory, size) : nullptr;
     };
     return sqlite3_config(SQLITE_CONFIG_MALLOC, &watched) == SQLITE_OK;
 }();
@@ -40,7 +40,7 @@ const bool engineIsWatched = [] {
 
 bool Allocations::areWatched()
 {
-    return engineIsWatched;
+    return sqliteIsWatched;
 }
 
 void Allocations::failAt(int number, bool allAfter)

@@ -1,11 +1,11 @@
 #pragma once
 
-/// Every allocation of the process, the engine's and ours: counts them and lets one of them fail, or all from
+/// Every allocation of the process, SQLite's and ours: counts them and lets one of them fail, or all from
 /// there on.
 class Allocations
 {
 public:
-    /// False when the engine had been used before it could be told where to take its memory.
+    /// False when SQLite had been used before it could be told where to take its memory.
     static bool areWatched();
 
     /// Begins to count.

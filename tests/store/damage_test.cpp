@@ -1,4 +1,4 @@
-// Files that are not as they should be: each is read as far as it is sound or refused in the engine's own
+// Files that are not as they should be: each is read as far as it is sound or refused in SQLite's own
 // words. No crash, no hang, and whatever comes is in order.
 #include "store/Database.h"
 #include "store/TestDatabase.h"

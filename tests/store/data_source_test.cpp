@@ -86,6 +86,19 @@ TEST_F(SmallSource, TellsWhenTheCurrentRowIsAnotherOne)
     EXPECT_THAT(shown, ElementsAre("Gn:1:3", "", ""));
 }
 
+TEST_F(SmallSource, TellsNothingOfARowThatGoesWithoutAnother)
+{
+    run("SELECT * FROM NewTestament WHERE VerseNumber = 6");
+    m_source.moveNext();
+    int told = 0;
+    m_source.currentRowChanged = [&] { ++told; };
+    m_source.moveNext();
+    m_source.setRecordSource("nonsense");
+    EXPECT_THROW(m_source.refresh(), DataError);
+    m_source.setDatabaseName(m_folder.file("other"));
+    EXPECT_EQ(told, 0);
+}
+
 TEST_F(SmallSource, MayBeRefreshedByWhoeverIsToldOfTheRow)
 {
     m_source.currentRowChanged = [&] {

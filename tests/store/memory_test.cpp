@@ -1,4 +1,4 @@
-// Memory that runs out: whichever allocation fails, of the engine's or of ours, the answer is an error or the
+// Memory that runs out: whichever allocation fails, of SQLite's or of ours, the answer is an error or the
 // right one, and the same question is answered when there is memory again.
 #include "store/Allocations.h"
 #include "store/TestDatabase.h"

@@ -168,7 +168,7 @@ const std::vector<Shape> shapes = {
           [](int, auto, auto t) { return like("*moleiro*", t) && !like("*aldeia*", t); }},
     Shape{"(KJVerseText LIKE '*amor*' OR KJVerseText LIKE '*moleiro*')",
           [](int, auto, auto t) { return like("*amor*", t) || like("*moleiro*", t); }},
-    // So common that the engine is quicker testing every row.
+    // So common that SQLite is quicker testing every row.
     Shape{"(KJVerseText LIKE '*aldeia*' OR KJVerseText LIKE '*moleiro*')",
           [](int, auto, auto t) { return like("*aldeia*", t) || like("*moleiro*", t); }},
     Shape{"VerseId LIKE 'Gn*' AND (KJVerseText LIKE '*terra*' OR KJVerseText LIKE '*moleiro*')",
