@@ -102,7 +102,7 @@ void Database::execute(const char* sql)
 Statement Database::prepare(const std::string& sql)
 {
     m_work = {};
-    Statement statement = ::prepare(m_connection.get(), sql);
+    Statement statement = compile(m_connection.get(), sql);
     // SQLite reads up to a ";" only, and over an open comment. Where it reads to the end, a stray token put
     // there is an error.
     if (compiles(sql + ")"))
@@ -113,7 +113,7 @@ Statement Database::prepare(const std::string& sql)
 bool Database::compiles(const std::string& sql) const
 {
     try {
-        return ::prepare(m_connection.get(), sql) != nullptr;
+        return compile(m_connection.get(), sql) != nullptr;
     } catch (const DataError& error) {
         if (error.number() != SQLITE_ERROR)
             throw;

@@ -38,7 +38,7 @@ inline std::string_view valueBytes(sqlite3_value* value)
 
 /// Compiles the first statement of an SQL text; throws what SQLite says of it. Whatever follows it, or a NUL,
 /// is not read.
-inline Statement prepare(sqlite3* connection, const std::string& sql)
+inline Statement compile(sqlite3* connection, const std::string& sql)
 {
     sqlite3_stmt* statement = nullptr;
     if (sqlite3_prepare_v2(connection, sql.c_str(), static_cast<int>(sql.size()) + 1, &statement, nullptr) !=

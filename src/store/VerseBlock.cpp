@@ -44,7 +44,7 @@ bool VerseBlock::read(sqlite3* connection, const std::string& rows)
                                 gather, [](sqlite3_context*) {}) != SQLITE_OK)
         throw sqliteError(connection);
     const Statement statement =
-        prepare(connection, "SELECT gather(VerseId, VerseNumber, KJVerseText) FROM " + rows);
+        compile(connection, "SELECT gather(VerseId, VerseNumber, KJVerseText) FROM " + rows);
     const int result = sqlite3_step(statement.get());
     if (result != SQLITE_ROW && result != SQLITE_ABORT)
         throw sqliteError(connection);

@@ -153,7 +153,8 @@ constexpr double costOfSearching = 0.04;
 /// use, how many rows will come and what they cost. The plan is handed to startRows().
 int planQuery(sqlite3_vtab* table, sqlite3_index_info* info)
 try {
-    double rows = 31102;
+    const Verses& verses = *static_cast<Table*>(table)->verses;
+    double rows = verses.block ? static_cast<double>(verses.block->size()) : 0;
     double found = 1;
     int searches = 0;
     std::string plan;
@@ -168,7 +169,7 @@ try {
         // different types. LIKE is decided here for good.
         info->aConstraintUsage[i].omit = use == KeyLike || use == TextLike;
         if (use == TextLike) {
-            found *= shareOfTexts(*static_cast<Table*>(table)->verses, info, i);
+            found *= shareOfTexts(verses, info, i);
             ++searches;
         } else {
             rows *= share(use);
