@@ -1,6 +1,7 @@
 #include "store/Database.h"
 
 #include "store/LikeFunction.h"
+#include "store/Limits.h"
 #include "store/VerseTable.h"
 #include <filesystem>
 #include <map>
@@ -55,6 +56,8 @@ Database::Database(const std::string& path)
         throw connection ? sqliteError(connection) : DataError(result, sqlite3_errstr(result));
     setUp();
     readVerses(fileSize);
+    if (hasEndlessTopics())
+        throw damage();
     allowReadingOnly(connection);
 }
 
@@ -91,6 +94,20 @@ void Database::readVerses(std::size_t fileSize)
             throw;
         m_verses.damage = error;
     }
+}
+
+/// Whether there are more topics, or longer lists, than a window could show. Whatever else is wrong with the
+/// table is left to the queries that meet it.
+bool Database::hasEndlessTopics()
+try {
+    m_work = {};
+    const Statement check = compile(
+        m_connection.get(), "SELECT count(*) > " + std::to_string(limits::maxTopics) +
+                                " OR max(length(CAST(VerseList AS BLOB))) > " +
+                                std::to_string(limits::maxTopicListBytes) + " FROM main.ClassifiedVerses");
+    return sqlite3_step(check.get()) == SQLITE_ROW && sqlite3_column_int(check.get(), 0) != 0;
+} catch (const DataError&) {
+    return false;
 }
 
 void Database::execute(const char* sql)

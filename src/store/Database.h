@@ -38,6 +38,7 @@ private:
     void execute(const char* sql);
     void setUp();
     void readVerses(std::size_t fileSize);
+    bool hasEndlessTopics();
 
     Verses m_verses; // outlives the connection, which hands out its texts
     Work m_work;     // the connection counts in it

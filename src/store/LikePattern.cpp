@@ -105,9 +105,10 @@ bool LikePattern::accepts(const Step& step, char32_t character, char32_t otherCa
     }
 }
 
-/// Sets the places whose next step accepts a character.
-void LikePattern::findAccepting(char32_t character, Places* places) const
+/// Fills in the places whose next step accepts a character, and gives them back.
+const LikePattern::Places* LikePattern::findAccepting(char32_t character, Places* places) const
 {
+    std::fill_n(places, m_runs.size(), 0);
     const char32_t otherCase = toOtherCase(character);
     std::size_t place = 0;
     for (const Step& step : m_steps) {
@@ -117,8 +118,10 @@ void LikePattern::findAccepting(char32_t character, Places* places) const
             places[place / wordBits] |= Places{1} << place % wordBits;
         ++place;
     }
+    return places;
 }
 
+/// Turns the steps into bits.
 void LikePattern::layOut()
 {
     const auto isNoRun = [](const Step& step) { return step.kind != Kind::AnyRun; };
@@ -162,28 +165,26 @@ bool LikePattern::matches(std::string_view text) const
 }
 
 /// Follows all ways through the pattern at once: `reached` holds the places that the text so far leads to. A
-/// character leads from each on by one where the next step accepts it, and leaves those where a run stands.
+/// character leads on by one from each place whose next step accepts it, and leaves those where a run stands.
+/// So "a*b", with a run at place 1, takes "axb" from {0} by "a" to {1}, by "x" to {1}, by "b" to {1, 2}, and
+/// 2 is the end. `rare` is room for the places of a character that the table lacks.
 template <class Words>
-bool LikePattern::matchesFrom(Words reached, Words accepting, std::string_view text) const
+bool LikePattern::matchesFrom(Words reached, Words rare, std::string_view text) const
 {
     const std::size_t words = reached.size();
     const Places end = Places{1} << m_end % wordBits;
     for (const char *at = text.data(), *stop = at + text.size(); at != stop;) {
         const char32_t character = nextCharacter(at, stop);
-        const Places* accepts = m_accepts.data() + character * words;
-        if (character >= tableSize) {
-            std::fill(accepting.begin(), accepting.end(), 0);
-            findAccepting(character, accepting.data());
-            accepts = accepting.data();
-        }
+        const Places* accepting =
+            character < tableSize ? &m_accepts[character * words] : findAccepting(character, rare.data());
         Places carry = 0;
         for (std::size_t word = 0; word < words; ++word) {
-            const Places moved = reached[word] & accepts[word];
+            const Places moved = reached[word] & accepting[word];
             const Places stayed = reached[word] & m_runs[word];
             reached[word] = moved << 1 | carry | stayed;
             carry = moved >> (wordBits - 1);
         }
-        if (reached[words - 1] & m_runs[words - 1] & end) // the rest is a run
+        if (reached[words - 1] & m_runs[words - 1] & end) // a run takes the rest
             return true;
     }
     return reached[words - 1] & end;

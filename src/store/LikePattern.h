@@ -66,9 +66,9 @@ private:
     void findPieces();
     void layOut();
     bool accepts(const Step& step, char32_t character, char32_t otherCase) const;
-    void findAccepting(char32_t character, Places* places) const;
+    const Places* findAccepting(char32_t character, Places* places) const;
     template <class Words>
-    bool matchesFrom(Words reached, Words accepting, std::string_view text) const;
+    bool matchesFrom(Words reached, Words rare, std::string_view text) const;
 
     std::vector<Step> m_steps;
     std::vector<Class> m_classes;

@@ -12,6 +12,12 @@ inline DataError sqliteError(sqlite3* connection)
     return DataError(sqlite3_errcode(connection), sqlite3_errmsg(connection));
 }
 
+/// The error for a file whose content cannot be sound.
+inline DataError damage()
+{
+    return DataError(SQLITE_CORRUPT, sqlite3_errstr(SQLITE_CORRUPT));
+}
+
 /// Owns a prepared statement.
 struct FinalizeStatement
 {

@@ -71,7 +71,7 @@ try {
 void VerseBlock::append(std::int64_t number, std::string_view key, std::string_view text)
 {
     if (key.size() > limits::maxKeyBytes || text.size() > limits::maxVerseBytes)
-        throw DataError(SQLITE_CORRUPT, sqlite3_errstr(SQLITE_CORRUPT));
+        throw damage();
     m_numbers.push_back(number);
     m_keys += key;
     m_texts.append(text.starts_with(' ') ? "" : " ").append(text);

@@ -317,6 +317,23 @@ TEST_F(ForeignSchema, WhatNoReaderCouldReadIsDamage)
     }
 }
 
+TEST_F(ForeignSchema, WhatNoWindowCouldListIsDamage)
+{
+    const auto refusal = [this](int topics, int listBytes) {
+        std::filesystem::remove(m_folder.file());
+        make(smallBible +
+             "DELETE FROM ClassifiedVerses; WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
+             "WHERE i < " +
+             std::to_string(topics) +
+             ") INSERT INTO ClassifiedVerses SELECT i, 'Topic', iif(i = 2, hex(zeroblob(" +
+             std::to_string(listBytes / 2) + ")), 'Mt:1:1'), 'Events' FROM n;");
+        return errorOf(m_folder.file(), "SELECT * FROM ClassifiedVerses");
+    };
+    EXPECT_EQ(refusal(5000, 65536).number(), 0);
+    EXPECT_EQ(refusal(5001, 2).number(), SQLITE_CORRUPT);
+    EXPECT_EQ(refusal(2, 65538).number(), SQLITE_CORRUPT);
+}
+
 TEST_F(ForeignSchema, TextsInAnotherEncodingAreRefused)
 {
     make("PRAGMA encoding = 'UTF-16'; " + smallBible);
