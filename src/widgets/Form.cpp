@@ -241,8 +241,8 @@ void Form::setOuterSize(int widthTwips, int heightTwips)
 {
     if (!subWindow() || state() != Normal)
         return;
-    // A drag of the left or top border moves that border alone, so the other one tells that the window must go
-    // back, too.
+    // A drag of the left or top border moves that border alone, so the other one tells that the window must
+    // go back, too.
     const QRect now = subWindow()->geometry();
     const int left = now.right() == m_pressedAt.right() ? m_pressedAt.left() : now.left();
     const int top = now.bottom() == m_pressedAt.bottom() ? m_pressedAt.top() : now.top();

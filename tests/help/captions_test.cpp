@@ -4,9 +4,9 @@
 #include "help/HelpWindow.h"
 #include "help/ShippedHelp.h"
 #include "maps/ChildMapSel.h"
-#include "widgets/ListBox.h"
 #include "support/OnceModal.h"
 #include "support/Session.h"
+#include "widgets/ListBox.h"
 #include "widgets/SoftBttn.h"
 #include <QButtonGroup>
 #include <QComboBox>
