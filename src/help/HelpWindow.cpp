@@ -188,6 +188,7 @@ void HelpWindow::makeToolbar()
     toolbar->addActions({copy, larger, smaller, normalSize});
     toolbar->addSeparator();
     toolbar->addAction(otherLanguage);
+    toolbar->widgetForAction(otherLanguage)->setObjectName(otherLanguage->objectName());
     for (auto* button : toolbar->findChildren<QToolButton*>())
         button->setFocusPolicy(Qt::TabFocus);
     for (QAction* action : {back, forward, findNext, findPrevious, copy, larger, smaller, normalSize})

@@ -19,7 +19,7 @@ TEST_F(Credit, StandsInThePictureOfTheAboutWindow)
         shown = about.grab(picture->geometry()).toImage();
         QTest::keyClick(&about, Qt::Key_Escape);
     });
-    click(*frame().cmdAbout);
+    click(*frame().findChild<QWidget*>("cmdAbout"));
     EXPECT_EQ(described, textCredit);
     EXPECT_EQ(shown.convertToFormat(QImage::Format_RGB32),
               splashPicture(shown.devicePixelRatio()).toImage().convertToFormat(QImage::Format_RGB32));

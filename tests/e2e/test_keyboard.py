@@ -78,7 +78,8 @@ WINDOWS = [
     (Reader.open_about, ["push button: OK", "push button: E-mail: author@kestrel-reader.example", "push button: More Info",
                          "push button: DonationWare", "push button: QORV CD-ROM Offer"]),
     (help_window, ["label: This help", "push button: Back", "text: Find:", "push button: Next", "push button: Previous",
-                   "push button: Larger", "push button: Smaller", "push button: Normal Size", "list: Contents"]),
+                   "push button: Larger", "push button: Smaller", "push button: Normal Size", "push button: Português",
+                   "list: Contents"]),
 ]
 NAMES = ["selection", "reading", "chapter", "search", "results", "verses", "maps", "download", "map", "about", "help"]
 ESCAPED = (Reader.open_about, help_window)

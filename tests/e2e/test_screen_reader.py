@@ -132,6 +132,7 @@ frame: Kestrel Reader Help
     push button: Larger
     push button: Smaller
     push button: Normal Size
+    push button: Português
   status bar:
   split pane:
     label: Select Verse for Reading

@@ -1,17 +1,13 @@
 // The help names captions as they stand on the screen, and every key that a caption underlines.
-#include "app/frmStart.h"
 #include "help/Help.h"
 #include "help/HelpWindow.h"
-#include "help/ShippedHelp.h"
+#include "help/SessionWithHelp.h"
 #include "maps/ChildMapSel.h"
 #include "support/OnceModal.h"
-#include "support/Session.h"
 #include "widgets/ListBox.h"
 #include "widgets/SoftBttn.h"
-#include <QButtonGroup>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QListWidget>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QSet>
@@ -46,7 +42,7 @@ QStringList textsOf(const QWidget& widget)
 }
 
 /// The captions of all windows, without the marks of their access keys.
-class HelpCaptions : public Session
+class HelpCaptions : public SessionWithHelp
 {
 protected:
     void look()
@@ -73,17 +69,17 @@ protected:
 
     void lookAtTheAboutWindow()
     {
-        const auto looking = onceModal([&](QWidget&) {
-            for (SoftBttn* button : {program->startWindow()->cmdDonation, program->startWindow()->cmdQORV}) {
+        const auto looking = onceModal([&](QWidget& about) {
+            for (const char* button : {"cmdDonation", "cmdQORV"}) {
                 const auto reading = onceModal([&](QWidget& letter) {
                     look();
                     QTest::keyClick(&letter, Qt::Key_Escape);
                 });
-                click(*button);
+                click(*about.findChild<QWidget*>(button));
             }
-            QTest::keyClick(program->startWindow(), Qt::Key_Escape);
+            QTest::keyClick(&about, Qt::Key_Escape);
         });
-        click(*frame().cmdAbout);
+        click(*frame().findChild<QWidget*>("cmdAbout"));
     }
 
     void lookAtEveryWindow()

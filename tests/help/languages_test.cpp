@@ -2,14 +2,11 @@
 #include "help/Help.h"
 #include "help/HelpBrowser.h"
 #include "help/HelpWindow.h"
-#include "help/ShippedHelp.h"
-#include "support/Session.h"
-#include <QFile>
+#include "help/SessionWithHelp.h"
 #include <QLineEdit>
 #include <QListWidget>
 #include <QLocale>
 #include <QStatusBar>
-#include <QTemporaryDir>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -39,23 +36,13 @@ TEST(HelpLanguages, ShareTheNamesOfTheirPages)
     EXPECT_EQ(pagesIn(pages, HelpLanguage::English).size(), 1);
 }
 
-/// The program on a desktop of some language, with a help file of its own.
-class HelpIn : public Session
+/// The program on a desktop of some language.
+class HelpIn : public SessionWithHelp
 {
 protected:
-    void SetUp() override
-    {
-        QFile::copy(helpSource, folder.filePath("KESTREL.HLP"));
-        QFile::link(KESTREL_INSTALL_DIR "/KESTRPT.DAT", folder.filePath("KESTRPT.DAT"));
-        program = std::make_unique<Program>(folder.path());
-        program->showFrame();
-        QApplication::setActiveWindow(&frame());
-        QTest::qWait(0);
-    }
-
     void TearDown() override
     {
-        Session::TearDown();
+        SessionWithHelp::TearDown();
         QLocale::setDefault(m_before);
     }
 
@@ -83,8 +70,6 @@ protected:
         return *qobject_cast<QToolButton*>(
             window.findChild<QToolBar*>("toolbar")->widgetForAction(window.otherLanguage));
     }
-
-    QTemporaryDir folder;
 
 private:
     const QLocale m_before;
