@@ -120,20 +120,14 @@ Statement Database::prepare(const std::string& sql)
 {
     m_work = {};
     Statement statement = compile(m_connection.get(), sql);
-    // SQLite reads up to a ";" only, and over an open comment. Where it reads to the end, a stray token put
-    // there is an error.
-    if (compiles(sql + ")"))
+    // SQLite reads no further than a ";", and passes over a comment to its end. Only where it has read the
+    // whole text is a backslash behind it an error, which is no token of SQL.
+    sqlite3_stmt* withToken = nullptr;
+    const int result = sqlite3_prepare_v2(m_connection.get(), (sql + '\\').c_str(), -1, &withToken, nullptr);
+    const Statement discarded(withToken);
+    if (result == SQLITE_OK)
         throw DataError(SQLITE_ERROR, sqlite3_errstr(SQLITE_ERROR));
+    if (result != SQLITE_ERROR)
+        throw sqliteError(m_connection.get());
     return statement;
-}
-
-bool Database::compiles(const std::string& sql) const
-{
-    try {
-        return compile(m_connection.get(), sql) != nullptr;
-    } catch (const DataError& error) {
-        if (error.number() != SQLITE_ERROR)
-            throw;
-        return false;
-    }
 }

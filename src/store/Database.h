@@ -34,7 +34,6 @@ private:
         void operator()(sqlite3* connection) const { sqlite3_close(connection); }
     };
 
-    bool compiles(const std::string& sql) const;
     void execute(const char* sql);
     void setUp();
     void readVerses(std::size_t fileSize);

@@ -24,15 +24,16 @@ std::size_t KeyIndex::next(std::string_view prefix, std::size_t row) const
     for (auto chapter = static_cast<std::size_t>(after - m_starts.begin()); chapter <= m_heads.size();
          ++chapter) {
         const std::string_view head = m_heads[chapter - 1];
-        if (head.starts_with(prefix))
-            return row;
+        const std::size_t common = std::min(head.size(), prefix.size());
         const std::size_t end = m_starts[chapter];
-        while (row < end && prefix.starts_with(head)) {
-            if (foldCase(m_block.key(row)).starts_with(prefix))
-                return row;
-            ++row;
+        if (head.substr(0, common) != prefix.substr(0, common)) {
+            row = end;
+            continue;
         }
-        row = end;
+        for (const std::string_view rest = prefix.substr(common); row < end; ++row) {
+            if (rest.empty() || foldCase(m_block.key(row).substr(common)).starts_with(rest))
+                return row;
+        }
     }
     return row;
 }
