@@ -1,8 +1,20 @@
 #include "app/Application.h"
 #include "app/Program.h"
+#include "app/Scaling.h"
+#include "app/ThreadFailure.h"
+#include "desktop/OpenFiles.h"
+#include <cstdio>
 
 int main(int, char* argv[])
 {
+    constexpr int files = 16; // it needs 11 besides the three that every process has
+    if (!canOpenFiles(files)) {
+        std::fprintf(
+            stderr, "kestrel-reader: cannot open %d files at one time; raise the limit (ulimit -n)\n", files);
+        return 1;
+    }
+    endWhenThreadsFail();
+    ignoreSenselessScaling();
     Application application(argv);
     Program program(QCoreApplication::applicationDirPath());
     if (!program.start())

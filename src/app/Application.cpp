@@ -1,33 +1,22 @@
 #include "app/Application.h"
 
+#include "app/ButtonAccess.h"
 #include "app/FrameStyle.h"
 #include "desktop/MsgBox.h"
 #include "widgets/Fonts.h"
 #include "widgets/Hourglass.h"
-#include <cstdlib>
+#include "widgets/Modality.h"
 #include <exception>
+#include <QAccessible>
 #include <QLoggingCategory>
 #include <QPixmapCache>
-
-namespace {
-
-QtMessageHandler printMessage = nullptr;
-
-// QThread::start() only prints when there is no memory for a thread. Qt then waits for ever for what that
-// thread should do, so the process ends here instead.
-void endWithoutThreads(QtMsgType type, const QMessageLogContext& context, const QString& message)
-{
-    printMessage(type, context, message);
-    if (message.startsWith("QThread::start: Thread creation error"))
-        std::_Exit(1);
-}
-
-} // namespace
+#include <QTimer>
+#include <QWidget>
 
 int Application::argumentCount = 1;
 
 Application::Application(char* programName[])
-    : QApplication((printMessage = qInstallMessageHandler(endWithoutThreads), argumentCount), programName)
+    : QApplication(argumentCount, programName)
 {
     setApplicationName("kestrel-reader");
     setApplicationDisplayName(""); // captions are the windows' own
@@ -35,6 +24,7 @@ Application::Application(char* programName[])
     // Qt's warnings on standard error about two things that the windows handle: a damaged picture is left out
     // or shown as far as it goes, and a message box tells when another program took the clipboard.
     QLoggingCategory::setFilterRules("qt.gui.imageio*=false\nqt.qpa.clipboard=false");
+    QAccessible::installFactory(buttonAccess);
     setStyle(new FrameStyle);
     // Fusion caches a pixmap of each message box's buttons. Qt's own limit of 10 MB lets the memory grow
     // without making anything faster.
@@ -45,14 +35,36 @@ Application::Application(char* programName[])
 
 bool Application::notify(QObject* receiver, QEvent* event)
 {
-    if (m_ending && event->type() == QEvent::Timer)
+    if (m_ending && event->type() == QEvent::Timer && stopTimer(receiver))
         return true;
+    if (event->type() == QEvent::Show)
+        closeBehindModalWindow(receiver);
     try {
         return QApplication::notify(receiver, event);
     } catch (const std::exception& error) {
         endWith(QString::fromUtf8(error.what()));
         return true;
     }
+}
+
+// While the last message stands, AutoJump and the clip rest. They are stopped, because Qt calls a timer whose
+// tick nobody takes again and again; Qt's own timers go on, and stop themselves.
+bool Application::stopTimer(QObject* receiver)
+{
+    auto* timer = qobject_cast<QTimer*>(receiver);
+    if (timer)
+        timer->stop();
+    return timer;
+}
+
+// An assistive program can open a menu or a combo box's list behind a modal window, over which it would
+// stand.
+void Application::closeBehindModalWindow(QObject* receiver)
+{
+    auto* popup = qobject_cast<QWidget*>(receiver);
+    if (popup && popup->windowType() == Qt::Popup && popup->parentWidget() &&
+        isBehindModalWindow(*popup->parentWidget()))
+        QMetaObject::invokeMethod(popup, &QWidget::close, Qt::QueuedConnection);
 }
 
 void Application::endWith(const QString& message)

@@ -15,6 +15,8 @@ public:
     bool notify(QObject* receiver, QEvent* event) override;
 
 private:
+    static bool stopTimer(QObject* receiver);
+    static void closeBehindModalWindow(QObject* receiver);
     void endWith(const QString& message);
 
     static int argumentCount;

@@ -25,10 +25,10 @@ LinkLabel::LinkLabel(const QString& name, const QIcon& picture, QWidget* parent)
 
 QSize LinkLabel::sizeHint() const
 {
-    constexpr int roomForFocusRing = 6;
+    constexpr int besideText = 3; // pixels for the focus ring; above and below, letters leave it room enough
     if (text().isEmpty())
         return iconSize();
-    return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(roomForFocusRing, roomForFocusRing);
+    return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2 * besideText, 0);
 }
 
 void LinkLabel::keyPressEvent(QKeyEvent* event)

@@ -3,7 +3,8 @@
 #include <QAbstractButton>
 
 /// A text or a small picture that opens something when it is clicked. A text can also be reached with Tab and
-/// pressed with Space or Enter, and a screen reader can press it.
+/// pressed with Space or Enter. To assistive programs, which can press both, a text is a link and a picture
+/// an image.
 class LinkLabel : public QAbstractButton
 {
     Q_OBJECT

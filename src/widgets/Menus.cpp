@@ -1,6 +1,7 @@
 #include "widgets/Menus.h"
 
 #include "widgets/Form.h"
+#include "widgets/Modality.h"
 #include "widgets/Shell.h"
 #include <QMenu>
 
@@ -37,7 +38,10 @@ QAction* Menus::addItem(QMenu* menu, const QString& name, const QString& caption
     QAction* item = menu->addAction(caption);
     item->setObjectName(name);
     item->setShortcut(shortcut);
-    QObject::connect(item, &QAction::triggered, menu, std::move(command));
+    QObject::connect(item, &QAction::triggered, menu, [menu, command = std::move(command)] {
+        if (!isBehindModalWindow(*menu->parentWidget())) // an assistive program may press it there
+            command();
+    });
     return item;
 }
 

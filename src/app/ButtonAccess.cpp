@@ -1,0 +1,83 @@
+#include "app/ButtonAccess.h"
+
+#include "app/LinkLabel.h"
+#include "widgets/Modality.h"
+#include "widgets/SoftBttn.h"
+#include <QAccessibleWidget>
+#include <QCheckBox>
+#include <QRadioButton>
+
+namespace {
+
+QAccessible::Role roleOf(const QAbstractButton& button)
+{
+    if (qobject_cast<const QCheckBox*>(&button))
+        return QAccessible::CheckBox;
+    if (qobject_cast<const QRadioButton*>(&button))
+        return QAccessible::RadioButton;
+    if (qobject_cast<const LinkLabel*>(&button))
+        return button.text().isEmpty() ? QAccessible::Graphic : QAccessible::Link;
+    return QAccessible::Button;
+}
+
+QString withoutMnemonic(QString text)
+{
+    return text.replace("&&", QChar(0)).remove('&').replace(QChar(0), '&');
+}
+
+class ButtonAccess : public QAccessibleWidget
+{
+public:
+    explicit ButtonAccess(QAbstractButton& button)
+        : QAccessibleWidget(&button, roleOf(button))
+        , m_button(button)
+    {
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        const QString text = QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name && text.isEmpty() ? withoutMnemonic(m_button.text()) : text;
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = m_button.isCheckable();
+        state.checked = m_button.isChecked();
+        state.pressed = m_button.isDown();
+        return state;
+    }
+
+    QStringList actionNames() const override
+    {
+        const QStringList own = {m_button.isCheckable() ? toggleAction() : pressAction()};
+        return m_button.isEnabled() ? own + QAccessibleWidget::actionNames() : QStringList();
+    }
+
+    // In a moment, because the assistive program waits for the answer to its call, and what a button does may
+    // take as long as a window is open. By then another press may have opened one.
+    void doAction(const QString& name) override
+    {
+        const bool focuses = name == setFocusAction();
+        QMetaObject::invokeMethod(
+            &m_button,
+            [button = &m_button, focuses] {
+                if (!isBehindModalWindow(*button))
+                    focuses ? button->setFocus() : button->click();
+            },
+            Qt::QueuedConnection);
+    }
+
+private:
+    QAbstractButton& m_button;
+};
+
+} // namespace
+
+QAccessibleInterface* buttonAccess(const QString& className, QObject* object)
+{
+    static const QStringList classes = {"SoftBttn", "LinkLabel", "QCheckBox", "QRadioButton"};
+    auto* button = qobject_cast<QAbstractButton*>(object);
+    return button && classes.contains(className) ? new ButtonAccess(*button) : nullptr;
+}
