@@ -120,12 +120,24 @@ void MDIParent::launchNotepad()
 void MDIParent::about()
 {
     const QPointer<Form> active = m_activeForm;
+    const QPointer<QWidget> focused = focusWidget();
     if (active)
         active->becomeActive(false);
-    flags().StartFormMode = 3;
+    flags().StartFormMode = startFormIsAbout;
     m_program.showAbout();
     if (active && active == m_activeForm)
         active->becomeActive(true);
+    giveFocusBack(focused);
+}
+
+// The active window's Activate event may have moved the focus, even to a control that a minimised window
+// hides.
+void MDIParent::giveFocusBack(QWidget* focused)
+{
+    if (focused)
+        focused->setFocus();
+    else if (focusWidget())
+        focusWidget()->clearFocus();
 }
 
 void MDIParent::exit()

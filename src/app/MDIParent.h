@@ -66,6 +66,7 @@ private:
     void MDIForm_Unload();
 
     void makeToolbar();
+    void giveFocusBack(QWidget* focused);
     template <class Window, class... Arguments>
     Window& single(QPointer<Window>& window, Arguments&... arguments);
     void childActivated();

@@ -40,6 +40,8 @@ void Program::showFrame()
 
 void Program::showAbout()
 {
+    if (m_startWindow)
+        return; // there is one start window, and it is open already
     m_startWindow = new frmStart(*this, m_frame.get());
     m_startWindow->load();
     m_startWindow->exec();

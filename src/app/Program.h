@@ -25,8 +25,8 @@ public:
     bool start();
     /// Shows the main frame, at the end of the splash.
     void showFrame();
-    /// Shows the start window as the About window, over the frame; returns when it closes. `StartFormMode`
-    /// is 3.
+    /// Shows the start window over the frame as the About window, which the caller has set `StartFormMode`
+    /// to; returns when it closes, or at once when it is open already.
     void showAbout();
     /// Closes the start window; does nothing when it is not open.
     void unloadStartWindow();

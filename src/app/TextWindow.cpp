@@ -1,5 +1,6 @@
 #include "app/TextWindow.h"
 
+#include "app/EscCloses.h"
 #include "widgets/Fonts.h"
 #include "widgets/PlainText.h"
 #include "widgets/Twips.h"
@@ -12,6 +13,7 @@ TextWindow::TextWindow(const QString& name, const QString& caption, const QStrin
     setObjectName(name);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(caption);
+    new EscCloses(*this);
     Text1->setObjectName("Text1");
     Text1->setAccessibleName(caption);
     Text1->setFont(Fonts::tahomaOf(10));

@@ -2,6 +2,7 @@
 
 #include "app/AboutLayout.h"
 #include "app/AboutTexts.h"
+#include "app/EscCloses.h"
 #include "app/frmDN.h"
 #include "app/frmQORV.h"
 #include "app/LinkLabel.h"
@@ -14,7 +15,6 @@
 #include "widgets/SoftBttn.h"
 #include "widgets/Twips.h"
 #include <QEvent>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QTimer>
@@ -50,6 +50,7 @@ frmStart::frmStart(Program& program, QWidget* owner)
 {
     setObjectName("frmStart");
     setAttribute(Qt::WA_DeleteOnClose);
+    new EscCloses(*this); // what cmdOK does
     setAccessibleName("Kestrel Reader (PT)");
     Image1->setObjectName("Image1");
     Image1->setAccessibleName("Kestrel Reader (PT)");
@@ -140,7 +141,7 @@ void frmStart::cmdOK_Click()
 
 bool frmStart::isAbout() const
 {
-    return m_program.flags.StartFormMode == 3;
+    return m_program.flags.StartFormMode == startFormIsAbout;
 }
 
 bool frmStart::passesChecks()
@@ -203,12 +204,4 @@ void frmStart::showEvent(QShowEvent* event)
     QDialog::showEvent(event);
     if (!isAbout())
         Timer1->start();
-}
-
-void frmStart::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        cmdOK_Click();
-    else
-        QDialog::keyPressEvent(event);
 }

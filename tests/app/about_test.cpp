@@ -213,7 +213,8 @@ TEST_F(About, ShowsItsControlsWhereTheLayoutPutsThem)
         for (const SoftBttn* button : row)
             EXPECT_EQ(button->y(), top + 7); // 110 twips
         EXPECT_NEAR(window.Image2->y(), top + (110 + 235) / 15.0, 1);
-        EXPECT_NEAR(window.cmdMail->y(), top + (110 + 285) / 15.0, 1);
+        EXPECT_EQ(window.cmdMail->y(), window.cmdOK->y() + 285 / 15);
+        EXPECT_EQ(window.cmdMail->height(), window.cmdMail->fontMetrics().height()) << "no ring around it";
         EXPECT_GT(window.cmdMail->y(), window.Image2->y());
         EXPECT_TRUE(window.cmdMail->isVisible() && window.cmdMail->isEnabled());
         EXPECT_TRUE(window.Image2->isVisible() && window.Image2->isEnabled());
@@ -264,6 +265,53 @@ TEST_F(About, EscClosesItFromEveryControl)
             press(Qt::Key_Escape);
             EXPECT_FALSE(window.isVisible()) << i;
         });
+}
+
+TEST_F(About, EscClosesItWithAnyModifier)
+{
+    for (const auto modifiers :
+         {Qt::KeyboardModifiers(Qt::ShiftModifier), Qt::KeyboardModifiers(Qt::ControlModifier),
+          Qt::AltModifier | Qt::ShiftModifier, Qt::KeyboardModifiers(Qt::KeypadModifier)})
+        whileAboutIsOpen([&](frmStart& window) {
+            press(Qt::Key_Escape, modifiers);
+            EXPECT_FALSE(window.isVisible()) << modifiers.toInt();
+        });
+}
+
+TEST_F(About, EscClosesItWhileAButtonIsHeldDown)
+{
+    whileAboutIsOpen([&](frmStart& window) {
+        window.cmdMore->setFocus();
+        QTest::keyPress(window.cmdMore, Qt::Key_Space);
+        ASSERT_TRUE(window.cmdMore->isDown());
+        press(Qt::Key_Escape);
+        EXPECT_FALSE(window.isVisible());
+    });
+    EXPECT_TRUE(boxes.shown.isEmpty());
+}
+
+TEST_F(About, EscClosesALetterWithAnyModifier)
+{
+    for (const auto modifiers : {Qt::ShiftModifier, Qt::ControlModifier})
+        whileAboutIsOpen([&](frmStart& window) {
+            const auto looking = onceModal([&](QWidget& letter) {
+                QApplication::setActiveWindow(&letter);
+                press(Qt::Key_Escape, modifiers);
+                EXPECT_FALSE(letter.isVisible());
+                letter.close();
+            });
+            click(*window.cmdDonation);
+            EXPECT_TRUE(window.isVisible());
+        });
+}
+
+TEST_F(About, ExistsOnce)
+{
+    whileAboutIsOpen([&](frmStart& window) {
+        frame().about();
+        EXPECT_EQ(program->startWindow(), &window);
+        EXPECT_EQ(frame().findChildren<frmStart*>().size(), 1);
+    });
 }
 
 TEST_F(About, MoreInfoShowsTheInformationBox)

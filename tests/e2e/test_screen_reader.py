@@ -113,8 +113,8 @@ frame: Map -- {PLACE}
 ABOUT = """\
 dialog: Kestrel Reader (PT)
   image: Kestrel Reader (PT)
-  push button: E-mail: author@kestrel-reader.example
-  push button: E-mail: author@kestrel-reader.example
+  image: E-mail: author@kestrel-reader.example
+  link: E-mail: author@kestrel-reader.example
   push button: More Info
   push button: DonationWare
   push button: QORV CD-ROM Offer
