@@ -1,6 +1,7 @@
 #include "help/HelpBrowser.h"
 
 #include "desktop/Platform.h"
+#include "help/HelpLink.h"
 #include "pictures/LinkColor.h"
 #include "widgets/Twips.h"
 #include <algorithm>
@@ -72,18 +73,18 @@ bool HelpBrowser::findText(const QString& text, bool backward)
     return false;
 }
 
-QVariant HelpBrowser::loadResource(int type, const QUrl& name)
+QVariant HelpBrowser::loadResource(int, const QUrl& name)
 {
     for (const HelpPage& page : m_pages)
         if (name == addressOf(page.name))
             return page.html;
-    return QTextBrowser::loadResource(type, name);
+    return QByteArray(""); // nothing else is loaded, least of all from a file
 }
 
 void HelpBrowser::follow(const QUrl& link)
 {
     if (link.scheme() == pageScheme)
         showPage(link.fragment());
-    else
+    else if (isLinkForTheDesktop(link))
         Platform::current().openLink(link);
 }

@@ -1,6 +1,7 @@
 #include "help/HelpFile.h"
 
 #include "desktop/OpenFile.h"
+#include "help/HelpHtml.h"
 #include <algorithm>
 #include <iterator>
 #include <QRegularExpression>
@@ -34,5 +35,8 @@ QList<HelpPage> readHelpFile(const QString& path)
     QFile file(path);
     if (!openForReading(file))
         return {};
-    return helpPages(QString::fromUtf8(file.readAll()));
+    const QByteArray text = file.read(HelpLimits::bytes + 1);
+    if (text.size() > HelpLimits::bytes)
+        return {};
+    return helpPages(cleanedHelp(QString::fromUtf8(text)).value_or(QString()));
 }

@@ -22,5 +22,5 @@ QList<HelpPage> helpPages(const QString& text);
 /// Those in one language.
 QList<HelpPage> pagesIn(const QList<HelpPage>& pages, HelpLanguage language);
 
-/// The pages of a help file; none when it cannot be read.
+/// The pages of a help file, as cleanedHelp() leaves them; none when it cannot be read or holds too much.
 QList<HelpPage> readHelpFile(const QString& path);
