@@ -93,10 +93,14 @@ def test_a_clipboard_that_others_take_and_leave(reader, desktop):
 
 # --- Killed ---
 
-def is_taken(program):
-    """Whether a running copy holds the name that only one may hold."""
+def instance_name(program):
+    """The name that only one running copy may hold."""
     digest = hashlib.sha256(str(program.resolve()).encode()).hexdigest()[:32]
-    return f"@kestrel-reader-{os.getuid()}-{digest}" in pathlib.Path("/proc/net/unix").read_text()
+    return f"kestrel-reader-{os.getuid()}-{digest}"
+
+
+def is_taken(program):
+    return f"@{instance_name(program)}" in pathlib.Path("/proc/net/unix").read_text()
 
 
 @pytest.mark.parametrize("moment", ["splash", "search", "copy"])
