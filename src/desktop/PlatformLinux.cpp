@@ -61,5 +61,5 @@ void Platform::openLink(const QUrl& link)
     const QString opener = QStandardPaths::findExecutable("xdg-open");
     if (!opener.isEmpty())
         startDetached(opener, {QString::fromLatin1(link.toEncoded())},
-                      basePath(QCoreApplication::applicationDirPath()));
+                      withSeparator(QCoreApplication::applicationDirPath()));
 }

@@ -136,7 +136,8 @@ TEST(HelpWindow, ShowsAPageWithAPictureOfAPipeAtOnce)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(page("<p>a<img src=\"" + pipe + "\">b</p>").toUtf8());
     file.close();
-    HelpBrowser browser(readHelpFile(file.fileName()), nullptr);
+    HelpBrowser browser(nullptr);
+    browser.setPages(readHelpFile(file.fileName()));
     browser.showPage("Welcome");
     browser.show();
     browser.grab();

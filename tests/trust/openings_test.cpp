@@ -47,8 +47,9 @@ TEST_F(Openings, OfEveryWindowLeaveNothingBehind)
     const std::size_t before = kilobytesInUse();
     for (int i = 0; i < rounds() && !HasFailure(); ++i)
         openAndCloseAll();
-    if (!__asan_init) // the sanitizer counts for itself
+    if (!__asan_init) { // the sanitizer counts for itself
         EXPECT_LE(kilobytesInUse(), before + 512) << before << " kB before";
+    }
 }
 
 } // namespace
