@@ -36,8 +36,10 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
-        const QString text = QAccessibleWidget::text(kind);
-        return kind == QAccessible::Name && text.isEmpty() ? withoutMnemonic(m_button.text()) : text;
+        // Its own text goes before the title of a group box around it, which QAccessibleWidget would give.
+        if (kind == QAccessible::Name && m_button.accessibleName().isEmpty() && !m_button.text().isEmpty())
+            return withoutMnemonic(m_button.text());
+        return QAccessibleWidget::text(kind);
     }
 
     QAccessible::State state() const override

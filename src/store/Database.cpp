@@ -58,6 +58,7 @@ Database::Database(const std::string& path)
     readVerses(fileSize);
     if (hasEndlessTopics())
         throw damage();
+    sqlite3_db_release_memory(connection); // the pages just read are not needed soon
     allowReadingOnly(connection);
 }
 
@@ -87,7 +88,6 @@ void Database::readVerses(std::size_t fileSize)
     try {
         m_verses.block.emplace(m_connection.get(), fileSize);
         m_verses.keys.emplace(*m_verses.block);
-        sqlite3_db_release_memory(m_connection.get()); // the pages just read are not needed again
     } catch (const DataError& error) {
         // The file will stay as it is, but there may be memory for it the next time.
         if (error.number() == SQLITE_NOMEM)
