@@ -4,7 +4,7 @@ import math
 from shapely.geometry import LineString, Point, Polygon, box
 from shapely.ops import substring, unary_union
 
-from lettering import Line, PathLine, ascent, width
+from lettering import Line, PathLine, ascent, badge_row, badges_width, width
 
 LEADING = 1.12
 RINGS = (0, 6, 12, 18, 25, 33, 42, 52)
@@ -15,21 +15,28 @@ class AreaNames:
     def __init__(self, bounds):
         self.bounds = bounds
         self._room = box(bounds[0] + 5, bounds[1] + 5, bounds[2] - 5, bounds[3] - 5)
-        self._solid = []  # (shape, cost of touching it)
-        self._lines = []  # (line, cost per point of length)
+        self._solid = []  # (shape, its bounds, cost of touching it)
+        self._lines = []  # (line, its bounds, cost per point of length)
+        self.faults = []
 
     def keep_off(self, shape, cost=OVERLAP):
-        self._solid.append((shape, cost))
+        self._solid.append((shape, shape.bounds, cost))
 
     def avoid(self, line, cost):
         if not line.is_empty:
-            self._lines.append((line, cost))
+            self._lines.append((line, line.bounds, cost))
 
     def stand(self, lines):
+        """Sets the lines; `faults` gains a sentence if they lie on something solid or leave the frame."""
+        shape = unary_union([Polygon(quad) for line in lines for quad in line.quads])
+        if not self._room.buffer(2).contains(shape) or any(
+                price >= OVERLAP and other.intersects(shape) for other, _, price in self._solid):
+            self.faults.append(f"{' '.join(line.text for line in lines)} finds no room")
         for line in lines:
-            self._solid += [(Polygon(quad), OVERLAP) for quad in line.quads]
+            for quad in line.quads:
+                self.keep_off(Polygon(quad))
 
-    def near(self, text, look, x, y, angle=0.0, reach=33, inside=None):
+    def near(self, text, look, x, y, angle=0.0, reach=33, inside=None, numbers=()):
         """The name centred on (x, y), or a little off where that is better; within the shape `inside` if it can."""
         def options():
             for ring in RINGS:
@@ -38,7 +45,7 @@ class AreaNames:
                 for step in range(12 if ring else 1):
                     turn = step * math.pi / 6
                     place = x + ring * 1.4 * math.cos(turn), y + ring * math.sin(turn)
-                    lines = centred(text, look, *place, angle)
+                    lines = centred(text, look, *place, angle, numbers)
                     out = 0 if inside is None else sum(Polygon(quad).difference(inside).area
                                                        for line in lines for quad in line.quads)
                     yield ring * 0.35 + out, lines
@@ -64,19 +71,18 @@ class AreaNames:
         return self._best(tries) if tries else self.near(text, look, x, y)
 
     def _best(self, options):
-        return min(((cost + self._cost(lines), index, lines)
-                    for index, (cost, lines) in enumerate(options)), key=lambda option: option[:2])[2]
+        _, _, lines = min(((cost + self._cost(lines), index, lines)
+                           for index, (cost, lines) in enumerate(options)), key=lambda option: option[:2])
+        return lines
 
     def _cost(self, lines):
         shape = unary_union([Polygon(quad) for line in lines for quad in line.quads]).buffer(1.5)
         cost = 0 if self._room.contains(shape) else CUT + shape.difference(self._room).area
         left, top, right, bottom = shape.bounds
-        for other, price in self._solid:
-            a, b, c, d = other.bounds
+        for other, (a, b, c, d), price in self._solid:
             if a < right and c > left and b < bottom and d > top and other.intersects(shape):
                 cost += price
-        for line, price in self._lines:
-            a, b, c, d = line.bounds
+        for line, (a, b, c, d), price in self._lines:
             if a < right and c > left and b < bottom and d > top and line.intersects(shape):
                 cost += price * (3 + line.intersection(shape).length)
         return cost
@@ -100,9 +106,14 @@ def _bend(points):
     return sum(abs((b - a + math.pi) % (2 * math.pi) - math.pi) for a, b in zip(turns, turns[1:]))
 
 
-def centred(text, look, x, y, angle=0.0):
+def centred(text, look, x, y, angle=0.0, numbers=()):
+    """Rows of text about (x, y); the numbers of a stop before the first, where the text is level."""
     rows = text.split("\n")
     lines = []
+    if numbers:
+        x += badges_width(numbers) / 2
+        top = y - (len(rows) - 1) / 2 * look.size * LEADING
+        lines += badge_row(numbers, x - width(rows[0], look) / 2 - badges_width(numbers) - 1.5, top)
     for index, row in enumerate(rows):
         along = -width(row, look) / 2
         down = (index - (len(rows) - 1) / 2) * look.size * LEADING + ascent(look) / 2

@@ -3,7 +3,9 @@
 import argparse
 import json
 import subprocess
+import sys
 import tomllib
+from concurrent.futures import ProcessPoolExecutor
 from pathlib import Path
 
 import cairo
@@ -21,6 +23,7 @@ INHERITED = ("rivers", "min_area", "routes", "areas", "wall_rivers", "capitals",
 
 
 def draw_sheet(sheet, tables, png, draft):
+    """Draws one map, if it has no fault; gives back the faults and where each name stands."""
     size = sheet["size"]
     surface = cairo.ImageSurface(cairo.FORMAT_RGB24, size[0] * SCALE, size[1] * SCALE)
     context = cairo.Context(surface)
@@ -29,7 +32,7 @@ def draw_sheet(sheet, tables, png, draft):
 
     kind_of_panel = Plan if sheet.get("plan") else Panel
     main = kind_of_panel(sheet, sheet["number"], tables, rect)
-    title = TitleBox(sheet, main.projection)
+    title = TitleBox(sheet, main.projection, tables)
     blanks = [title.rect(rect, sheet["box_corner"])]
     insets = []
     for part in sheet.get("insets", []):
@@ -48,18 +51,47 @@ def draw_sheet(sheet, tables, png, draft):
         furniture.draw_inset(context, main, inset)
     title.draw(context, blanks[0])
     furniture.draw_frame(context, size, bool(sheet.get("plan")))
-    write_png(surface, png, draft)
     panels = [main, *insets]
-    for panel in panels:
-        for one, other in panel.clashes:
-            print(f"map {sheet['number']}: {one} touches {other}")
-    return {"size": size, "panels": [{"rect": [round(v, 2) for v in panel.bounds], "names": _boxes(panel.names)}
-                                     for panel in panels],
-            "box": {"rect": [round(v, 2) for v in blanks[0]], "names": _boxes(title.lines)}}
+    faults = _faults(sheet, tables, panels)
+    if draft or not faults:
+        write_png(surface, png, draft)
+    return faults, {"size": size, "panels": [_listed(panel) for panel in panels],
+            "box": {"rect": _rounded(blanks[0]), "names": _boxes(title.lines), "marks": sheet.get("marks", []),
+                    "lines": sheet.get("lines", []), "numbers": title.numbers}}
+
+
+def _faults(sheet, tables, panels):
+    """Names without a place, and symbols and lines that the legend leaves out or has for nothing."""
+    faults = [fault for panel in panels for fault in panel.faults]
+    drawn = set().union(*(panel.drawn for panel in panels))
+    faults += [f"{place.name} is drawn nowhere" for place in tables.places(sheet["number"]) if place.name not in drawn]
+    for key, used in (("marks", set().union(*(panel.marks for panel in panels)) - {"none"}),
+                      ("lines", set().union(*(panel.line_kinds for panel in panels)))):
+        faults += [f"the legend does not say what \"{kind}\" is" for kind in sorted(used - set(sheet.get(key, [])))]
+        faults += [f"the legend has \"{kind}\" for nothing" for kind in sorted(set(sheet.get(key, [])) - used)]
+    return faults
+
+
+def _listed(panel):
+    points = [{"name": label.name, "text": label.text, "mark": label.mark,
+               "dot": _rounded((label.x, label.y, label.radius)), "box": _rounded(label.chosen.box),
+               "numbers": [number for number, _ in label.numbers],
+               "areas": [panel.area_at(label.x, label.y), panel.area_at(*_middle(label.chosen.box))]}
+              for label in panel.labels]
+    return {"rect": _rounded(panel.bounds), "names": _boxes(panel.names), "points": points,
+            "places": sorted(panel.drawn)}
+
+
+def _middle(box):
+    return (box[0] + box[2]) / 2, (box[1] + box[3]) / 2
+
+
+def _rounded(numbers):
+    return [round(number, 2) for number in numbers]
 
 
 def _boxes(lines):
-    return [{"text": line.text, "quads": [[[round(x, 2), round(y, 2)] for x, y in quad] for quad in line.quads]}
+    return [{"text": line.text, "quads": [[_rounded(corner) for corner in quad] for quad in line.quads]}
             for line in lines]
 
 
@@ -97,18 +129,28 @@ def main():
     listed = options.out / "labels.json"
     if listed.exists():
         boxes = json.loads(listed.read_text(encoding="utf-8"))
+    jobs = []
     for path in sorted((HERE / "sheets").glob("map*.toml")):
         sheet = read_sheet(path)
         number, file = sheet["number"], path.stem + ".png"
         rows.append([str(number), file, *map(str, sheet["size"]), sheet["description"]])
         if not options.numbers or number in options.numbers:
-            boxes[path.stem] = draw_sheet(sheet, tables, options.out / file, options.draft)
-            print(f"{file}: {(options.out / file).stat().st_size} bytes")
+            jobs.append((sheet, tables, options.out / file, options.draft))
+    faulty = False
+    with ProcessPoolExecutor() as pool:
+        for (sheet, _, file, _), (faults, listing) in zip(jobs, pool.map(draw_sheet, *zip(*jobs))):
+            for fault in faults:
+                print(f"map {sheet['number']}: {fault}", file=sys.stderr)
+            faulty |= bool(faults)
+            boxes[file.stem] = listing
+    if faulty and not options.draft:
+        sys.exit("The lists and the maps named above are not written: mend these faults first.")
     head = ["MapNumber", "file", "width", "height", "MapDesc"]
     (options.out / "maps.tsv").write_text("".join("\t".join(row) + "\n" for row in [head, *rows]), encoding="utf-8")
     listed.write_text(json.dumps(dict(sorted(boxes.items())), ensure_ascii=False, separators=(",", ":"))
-                      .replace('{"text"', '\n{"text"') + "\n", encoding="utf-8")
+                      .replace('{"text"', '\n{"text"').replace('{"name"', '\n{"name"') + "\n", encoding="utf-8")
+    return 1 if faulty else 0
 
 
 if __name__ == "__main__":
-    main()
+    sys.exit(main())

@@ -90,6 +90,52 @@ class Line:
                 context.restore()
 
 
+class Badge:
+    """The number of a stop, white on a disc of its journey's colour."""
+
+    HALF = 5.4
+
+    def __init__(self, number, colour, x, y):
+        """Begins at x; y is the height of its middle."""
+        self.text, self._colour = str(number), colour
+        self._x, self._y = x, y
+        wide = badge_width(number)
+        self.quads = [[(x, y - self.HALF), (x + wide, y - self.HALF), (x + wide, y + self.HALF), (x, y + self.HALF)]]
+
+    def draw(self, context, halo_colour):
+        wide, half = badge_width(self.text), self.HALF
+        context.new_path()
+        context.arc(self._x + half, self._y, half, math.pi / 2, 3 * math.pi / 2)
+        context.arc(self._x + wide - half, self._y, half, -math.pi / 2, math.pi / 2)
+        context.close_path()
+        context.set_source_rgb(*rgb(halo_colour))
+        context.set_line_width(1.8)
+        context.stroke_preserve()
+        context.set_source_rgb(*rgb(self._colour))
+        context.fill()
+        look = TYPES["number"]
+        Line(self.text, look, self._x + (wide - width(self.text, look)) / 2, self._y + look.size * 0.36).draw(
+            context, halo_colour)
+
+
+def badge_width(number):
+    return 2 * Badge.HALF if len(str(number)) == 1 else 2 * Badge.HALF + 3.2
+
+
+def badges_width(numbers, gap=1.4):
+    """How long a row of badges is, with the gap after each."""
+    return sum(badge_width(number) + gap for number, _ in numbers)
+
+
+def badge_row(numbers, x, y, gap=1.4):
+    """Badges of (number, colour) side by side from x on."""
+    row = []
+    for number, colour in numbers:
+        row.append(Badge(number, colour, x, y))
+        x += badge_width(number) + gap
+    return row
+
+
 class PathLine(Line):
     """Text set along a line of points, in its middle, a little above it."""
 

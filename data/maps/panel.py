@@ -10,14 +10,15 @@ import curves
 import routes
 import style
 import symbols
-from area_names import AreaNames
+from area_names import OVERLAP, AreaNames
 from lettering import PathLine, kind
-from placement import SYMBOL, Placer, PointLabel
+from placement import Placer, PointLabel
 from projection import Projection
 from style import rgb
 from waters import Waters, polygons
 
 POINT_ROLES = ("city", "landmark", "mountain")
+LAST_DRAWN = ("refuge", "disputed refuge", "capital")  # symbols that nothing may cover
 STREAM_WIDTHS = {0: 1.7, 1: 1.7, 2: 1.3, 3: 1.0, 4: 0.9, 5: 0.8, 6: 0.7}
 
 
@@ -43,7 +44,10 @@ class Panel:
         self.bounds = (rect[0], rect[1], rect[0] + rect[2], rect[1] + rect[3])
         self._edge = box(*self.bounds).buffer(30)
         self.names = []  # every line of text set in this panel
-        self.clashes = []
+        self.labels = []  # the names of towns and other points
+        self.drawn = set()  # names of the places that stand here
+        self.marks, self.line_kinds = set(), set()  # what the legend must explain
+        self.faults = []  # names that found no place
         self._tints = []
         self._read_waters()
         self._read_routes()
@@ -60,12 +64,16 @@ class Panel:
             self.land, self.lakes, self.rivers = waters.land, waters.lakes, waters.rivers
 
     def _read_routes(self):
-        self.routes, self.stops = [], set()
+        self.routes, self.stops = [], {}  # stops: the numbers and colours of each, by name
+        number = 0
         for index, entry in enumerate(self.sheet.get("routes", [])):
             stops, path = self.tables.route(self.number, entry["name"])
-            self.stops |= set(stops)
+            colour = entry.get("colour", index)
+            for name, _ in stops:
+                number += 1
+                self.stops.setdefault(name, []).append((number, style.ROUTE_COLOURS[colour]))
             points = [self.projection.point(*point) for point in path]
-            self.routes.append(routes.Route(points, entry.get("colour", index), entry.get("offset", 1.7)))
+            self.routes.append(routes.Route(points, colour, entry.get("offset", 1.7)))
 
     # Drawing, from the ground up
 
@@ -98,12 +106,30 @@ class Panel:
         context.fill()
 
     def _draw_areas(self, context):
-        """Tinted areas, each with a deeper rim inside its border."""
-        tinted = self.sheet.get("areas", [])
-        if not tinted:
-            return
-        to_points = self.projection.point
         borders = [curves.smooth(points) for _, sort, points in self._lines if sort == "border"]
+        if self.sheet.get("areas"):
+            self._tint_areas(context, borders)
+        if not borders:
+            return
+        self.line_kinds.add("border")
+        context.save()
+        context.new_path()
+        _trace(context, self.land)
+        context.clip()
+        for points in borders:
+            context.new_path()
+            for point in points:
+                context.line_to(*point)
+            context.set_source_rgb(*rgb(style.BORDER))
+            context.set_line_width(1.1)
+            context.set_dash([5, 2, 1.2, 2])
+            context.stroke()
+        context.restore()
+
+    def _tint_areas(self, context, borders):
+        """Tinted areas, each with a deeper rim inside its border."""
+        tinted = self.sheet["areas"]
+        to_points = self.projection.point
         shared = [_point(to_points(*spot)) for spot in self.sheet.get("wall_rivers", [])]
         walls = [self.lakes] + [line for level, line in self.rivers
                                 if level == 2 or any(line.distance(spot) < 4 for spot in shared)]
@@ -129,15 +155,10 @@ class Panel:
                 context.set_line_join(1)
                 context.stroke()
                 context.restore()
-        for points in borders:
-            context.new_path()
-            for point in points:
-                context.line_to(*point)
-            context.set_source_rgb(*rgb(style.BORDER))
-            context.set_line_width(1.1)
-            context.set_dash([5, 2, 1.2, 2])
-            context.stroke()
-        context.set_dash([])
+
+    def area_at(self, x, y):
+        """The name of the tinted area that holds the point, or None."""
+        return next((name for whole, _, name in self._tints if whole.contains(_point((x, y)))), None)
 
     def _draw_streams(self, context):
         context.set_line_join(1)
@@ -149,6 +170,7 @@ class Panel:
             context.set_source_rgb(*rgb(style.RIVER))
             context.set_line_width(STREAM_WIDTHS[level])
             if level > 4:
+                self.line_kinds.add("wadi")
                 context.set_dash([3.2, 2.6])  # water courses that are dry for most of the year
             context.stroke()
             context.set_dash([])
@@ -180,7 +202,8 @@ class Panel:
         for shape, cost in self._solid_things():
             placer.keep_off(shape.bounds, cost)
         for label in points:
-            placer.keep_off(_rect_around(label.x, label.y, label.radius), SYMBOL)
+            if label.mark != "none":
+                placer.keep_off_dot(label.x, label.y, label.radius)
         for _, x, y, _ in heads:
             placer.keep_off(_rect_around(x, y, 4), 60)
         for rect in self._enlarged_rects():
@@ -195,7 +218,8 @@ class Panel:
         for _, sort, line in self._lines:
             if sort in ("border", "wall"):
                 placer.avoid(LineString(line), 0.15 if sort == "border" else 0.8)
-        self.clashes = placer.place(points)
+        self.faults += placer.place(points)
+        self.labels = points
 
         for line in self.names:
             line.draw(context, self._halo(line))
@@ -207,7 +231,8 @@ class Panel:
             if label.chosen.leader:
                 _draw_leader(context, label)
         for label in points:
-            symbols.draw(context, self._mark(label.name), label.x, label.y)
+            symbols.draw(context, label.mark, label.x, label.y)
+            self.marks.add(label.mark)
         for label in points:
             for line in label.lines:
                 line.draw(context, self._halo(line))
@@ -259,19 +284,20 @@ class Panel:
                 continue
             x, y = self.projection.point(place.latitude, place.longitude)
             if not any(_inside(blank, x, y) for blank in self.blanks):
+                self.drawn.add(place.name)
                 yield place, given
 
     def _mark(self, name):
         place = self.tables.place(name)
         given = self.sheet.get("labels", {}).get(name, {}).get("mark")
         if given:
-            return given
+            return f"disputed {given}" if place.disputed and given == "refuge" else given
         if place.role not in POINT_ROLES:
             return "none"
         if name in self.sheet.get("capitals", []):
             return "capital"
         if place.role == "mountain":
-            return "mountain"
+            return "disputed mountain" if place.disputed else "mountain"
         if place.disputed:
             return "disputed"
         if place.role == "landmark":
@@ -286,12 +312,15 @@ class Panel:
             look = given.get("look") or ("capital" if place.name in self.sheet.get("capitals", []) else
                                          "stop" if place.name in self.stops else place.role)
             x, y = self.projection.point(place.latitude, place.longitude)
+            dx, dy = given.get("shift", (0, 0))  # of two symbols that would lie on each other
             changes = {key: given[key] for key in ("size",) if key in given}
-            side = given.get("side")
-            result.append(PointLabel(place.name, given.get("text", place.text), kind(look, **changes), x, y,
-                                     given.get("radius", symbols.RADIUS[self._mark(place.name)]), side.split() if side else None,
-                                     given.get("leader")))
-        return result
+            if place.name in self.stops:
+                changes["bold"] = True
+            mark, side = self._mark(place.name), given.get("side")
+            result.append(PointLabel(place.name, given.get("text", place.text), kind(look, **changes), x + dx, y + dy,
+                                     given.get("radius", symbols.RADIUS[mark]), side.split() if side else None,
+                                     given.get("leader"), self.stops.get(place.name, []), mark))
+        return sorted(result, key=lambda label: label.mark in LAST_DRAWN)
 
     def _set_area_names(self, points, heads):
         finder = AreaNames(self.bounds)
@@ -300,7 +329,7 @@ class Panel:
         for shape, cost in self._solid_things():
             finder.keep_off(shape, cost)
         for label in points:
-            finder.keep_off(_point((label.x, label.y)).buffer(label.radius + 2), 160)
+            finder.keep_off(_point((label.x, label.y)).buffer(label.radius + 1), OVERLAP)
             finder.keep_off(box(label.x - 30, label.y - 6, label.x + 40, label.y + 6), 5)
         for _, x, y, _ in heads:
             finder.keep_off(_point((x, y)).buffer(6), 40)
@@ -329,6 +358,7 @@ class Panel:
         names.sort(key=lambda name: ("path" not in name[1], name[0].role == "river", name[0].role != "sea"))
         for place, given in names:
             self._stand(finder, self._area_name(finder, place, given))
+        self.faults += finder.faults
 
     def _stand(self, finder, lines):
         finder.stand(lines)
@@ -336,6 +366,8 @@ class Panel:
 
     def _area_name(self, finder, place, given):
         changes = {key: given[key] for key in ("size", "spacing", "bold", "colour", "halo") if key in given}
+        if place.name in self.stops:
+            changes["bold"] = True
         look = kind(given.get("look", place.role), **changes)
         text = given.get("text", place.text)
         if "path" in given:
@@ -350,7 +382,8 @@ class Panel:
                 return finder.along(text, look, nearest, x, y)
         reach = given.get("reach", 0 if {"dx", "dy"} & set(given) else 33)
         inside = next((whole for whole, _, name in self._tints if name == given.get("area")), None)
-        return finder.near(text, look, x, y, math.radians(given.get("angle", 0)), reach, inside)
+        return finder.near(text, look, x, y, math.radians(given.get("angle", 0)), reach, inside,
+                           self.stops.get(place.name, []))
 
 
 def _draw_leader(context, label):

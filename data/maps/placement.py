@@ -5,13 +5,13 @@ from dataclasses import dataclass, field
 
 from shapely.geometry import LineString, Polygon, box
 
-from lettering import Line, ascent, descent, width
+from lettering import Line, ascent, badge_row, badges_width, descent, width
 
 PAD = 1.6
 LEADING = 1.12
 CLASH = 400.0
-SYMBOL = 120.0
-DOUBT = 7.0  # for a name so near another town's symbol that it could be taken for that town's
+NEARER = 0.6  # points by which another town's symbol must be farther from a name than the name's own
+DOUBT, DOUBTFUL = 14.0, 5.0  # cost of a name hardly nearer to its own symbol than to another, and within how many points
 # Where the name may stand (direction in degrees, clockwise from east), and what each costs.
 SIDES = {"E": (0, 0), "NE": (-42, 1.0), "SE": (42, 1.2), "W": (180, 1.5), "NW": (222, 2.0), "SW": (138, 2.2),
          "N": (-90, 2.5), "S": (90, 2.6), "ENE": (-20, .8), "ESE": (20, .9), "WNW": (200, 1.8), "WSW": (160, 1.9),
@@ -30,6 +30,8 @@ class PointLabel:
     radius: float
     sides: list = None
     leader: object = None  # None: if need be; a number: at that distance; False: never
+    numbers: list = field(default_factory=list)  # (number, colour) where it is a stop of a journey
+    mark: str = "none"
     chosen: object = None
     lines: list = field(default_factory=list)
 
@@ -51,6 +53,7 @@ class Spot:
             near = (min(max(label.x, left), left + wide), min(max(label.y, top), top + high))
             self.leader = ((label.x, label.y), near)
         self.cost = cost + SIDES[side][1]
+        self.wrong = []  # why the name cannot stand here
 
     def clash(self, other):
         amount = _overlap(self.box, other.box, PAD)
@@ -79,18 +82,22 @@ class Placer:
     def __init__(self, bounds):
         self.bounds = bounds
         self._quads = []   # names that stand already
-        self._rects = []   # boxes, symbols: (rect, weight)
+        self._rects = []   # boxes, arrow heads: (rect, weight)
+        self._dots = []    # symbols of towns: (x, y, radius)
         self._lines = []   # (line, cost per point of length inside)
 
     def keep_off_quads(self, quads):
-        self._quads += [Polygon(quad) for quad in quads]
+        self._quads += [(Polygon(quad), _bounds(quad)) for quad in quads]
 
     def keep_off(self, rect, weight=CLASH):
         self._rects.append((rect, weight))
 
+    def keep_off_dot(self, x, y, radius):
+        self._dots.append((x, y, radius))
+
     def avoid(self, line, cost):
         if not line.is_empty:
-            self._lines.append((line, cost))
+            self._lines.append((line, line.bounds, cost))
 
     def place(self, labels):
         spots = [self._spots(label) for label in labels]
@@ -98,8 +105,9 @@ class Placer:
         for label, options, index in zip(labels, spots, chosen):
             label.chosen = options[index]
             _set(label)
-        return [(labels[a].name, labels[b].name) for a in range(len(labels)) for b in range(a)
-                if labels[a].chosen.clash(labels[b].chosen)]
+        faults = [f"{label.name} {reason}" for label in labels for reason in label.chosen.wrong]
+        return faults + [f"{labels[a].name} touches {labels[b].name}" for a in range(len(labels)) for b in range(a)
+                         if labels[a].chosen.clash(labels[b].chosen)]
 
     def _spots(self, label):
         size = _size(label)
@@ -113,6 +121,7 @@ class Placer:
                 spots.append(Spot(label, size, side, label.leader, 0, True))
         for spot in spots:
             spot.cost += self._static_cost(spot, label)
+            spot.cost += self._doubt(spot, label) + CLASH * len(spot.wrong)
         spots.sort(key=lambda spot: spot.cost)
         return spots[:60]
 
@@ -120,42 +129,85 @@ class Placer:
         x0, y0, x1, y1 = spot.box
         left, top, right, bottom = self.bounds
         outside = max(0, left + 3 - x0) + max(0, top + 3 - y0) + max(0, x1 - right + 3) + max(0, y1 - bottom + 3)
-        cost = outside and CLASH + 10 * outside
+        cost = 10 * outside
+        if outside:
+            spot.wrong.append("leaves the frame")
         shape = box(x0 - 1, y0 - 1, x1 + 1, y1 + 1)
         for rect, weight in self._rects:
-            own = abs((rect[0] + rect[2]) / 2 - label.x) < 0.1 and abs((rect[1] + rect[3]) / 2 - label.y) < 0.1
-            if not own and _overlap(spot.box, rect, 1.0):
+            if _overlap(spot.box, rect, 1.0):
                 cost += weight
-            if not own and weight == SYMBOL and _overlap(spot.box, rect, 8.0):
-                cost += DOUBT
-            if not own and spot.leader and _crosses(spot.leader, rect):
+                if weight >= CLASH:
+                    spot.wrong.append("lies under a box")
+            if spot.leader and _crosses(spot.leader, rect):
                 cost += weight / 6
-        for quad in self._quads:
-            if quad.intersects(shape):
-                cost += CLASH
+        around = shape.bounds
+        for quad, bounds in self._quads:
+            if _meet(bounds, around) and quad.intersects(shape):
+                spot.wrong.append("lies on another name")
             elif spot.leader and quad.intersects(LineString(spot.leader)):
                 cost += CLASH / 4
-        for line, price in self._lines:
-            if line.intersects(shape):
+        for line, bounds, price in self._lines:
+            if _meet(bounds, around) and line.intersects(shape):
                 cost += price * (4 + line.intersection(shape).length)
         return cost
+
+
+    def _doubt(self, spot, label):
+        """The cost of other towns near the name; one nearer than its own makes the place wrong."""
+        if label.mark == "none":
+            return 0
+        own = _distance(spot.box, label.x, label.y) - label.radius
+        cost = 0
+        for x, y, radius in self._dots:
+            if abs(x - label.x) < 0.1 and abs(y - label.y) < 0.1:
+                continue
+            other = _distance(spot.box, x, y) - radius
+            if other < own + NEARER and not spot.wrong:
+                spot.wrong.append("is nearer to the symbol of another place")
+            if other < own + DOUBTFUL:
+                cost += DOUBT
+            if spot.leader and _crosses(spot.leader, (x - radius, y - radius, x + radius, y + radius)):
+                cost += 20
+        return cost
+
+
+def _bounds(quad):
+    return min(x for x, _ in quad), min(y for _, y in quad), max(x for x, _ in quad), max(y for _, y in quad)
+
+
+def _meet(one, other):
+    return one[0] <= other[2] and other[0] <= one[2] and one[1] <= other[3] and other[1] <= one[3]
+
+
+def _distance(rect, x, y):
+    return math.hypot(max(rect[0] - x, 0, x - rect[2]), max(rect[1] - y, 0, y - rect[3]))
+
+
+def _row_widths(label):
+    rows = [width(row, label.look) for row in label.text.split("\n")]
+    return [rows[0] + badges_width(label.numbers), *rows[1:]]
 
 
 def _size(label):
     rows = label.text.split("\n")
     high = ascent(label.look) + (len(rows) - 1) * label.look.size * LEADING + descent(rows[-1], label.look)
-    return max(width(row, label.look) for row in rows), high
+    return max(_row_widths(label)), high
 
 
 def _set(label):
-    """Turns the chosen box into lines of text, leaning towards the symbol."""
+    """Turns the chosen box into lines of text, leaning towards the symbol; the numbers stand next to it."""
     x0, y0, x1, _ = label.chosen.box
-    rows = label.text.split("\n")
-    for index, row in enumerate(rows):
-        spare = (x1 - x0) - width(row, label.look)
-        lean = 0 if x0 >= label.x - 1 else 1 if x1 <= label.x + 1 else 0.5
+    lean = 0 if x0 >= label.x - 1 else 1 if x1 <= label.x + 1 else 0.5
+    for index, (row, wide) in enumerate(zip(label.text.split("\n"), _row_widths(label))):
+        left = x0 + (x1 - x0 - wide) * lean
         base = y0 + ascent(label.look) + index * label.look.size * LEADING
-        label.lines.append(Line(row, label.look, x0 + spare * lean, base))
+        if label.numbers and index == 0:
+            middle = base - ascent(label.look) / 2
+            before = lean < 1
+            gap = 1.4 if lean == 1 else 0
+            label.lines += badge_row(label.numbers, left if before else left + width(row, label.look) + gap, middle)
+            left += badges_width(label.numbers) if before else 0
+        label.lines.append(Line(row, label.look, left, base))
 
 
 def _settle(spots, rounds=400):

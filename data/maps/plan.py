@@ -16,6 +16,9 @@ ROAD = "#b89c74"
 class Plan(Panel):
     def _draw_works(self, context):
         self._draw_hills(context)
+        self.line_kinds |= {sort for _, sort, _ in self._lines if sort in ("brook", "road", "wall")}
+        if self.sheet.get("conjecture"):
+            self.line_kinds.add("conjecture")
         for wide, colour in VALLEY_STEPS:
             for points in self._of_sort("valley"):
                 self._stroke(context, curves.smooth(points), wide, colour)

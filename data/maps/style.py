@@ -54,6 +54,8 @@ TYPES = {
     "title": Type(SERIF, 21, INK, bold=True, halo=0),
     "subtitle": Type(SERIF, 12.5, "#5a4c38", italic=True, halo=0),
     "legend": Type(SANS, 11, INK, halo=0),
+    "passage": Type(SANS, 9.5, INK, halo=0),
+    "number": Type(SANS, 7.8, PAPER, bold=True, halo=0),
     "scale": Type(SANS, 9.5, "#4d4335", halo=0),
     "credit": Type(SANS, 8.5, "#7d705d", halo=0),
 }

@@ -4,7 +4,7 @@ import math
 from style import CITY_FILL, PAPER, rgb
 
 RADIUS = {"city": 2.5, "stop": 3.0, "capital": 4.6, "disputed": 2.6, "landmark": 2.3, "mountain": 3.4,
-          "refuge": 3.0, "none": 0.5}
+          "refuge": 3.0, "none": 0.5, "disputed mountain": 3.6, "disputed refuge": 3.2}
 
 
 def draw(context, mark, x, y):
@@ -13,9 +13,10 @@ def draw(context, mark, x, y):
         return
     context.new_path()
     context.set_line_join(0)
-    if mark == "mountain":
+    shape = mark.removeprefix("disputed ")
+    if shape == "mountain":
         _polygon(context, [(x, y - radius), (x + radius, y + radius * 0.7), (x - radius, y + radius * 0.7)])
-    elif mark == "refuge":
+    elif shape == "refuge":
         context.rectangle(x - radius + 0.3, y - radius + 0.3, 2 * radius - 0.6, 2 * radius - 0.6)
     elif mark == "landmark":
         _polygon(context, [(x, y - radius - 0.6), (x + radius + 0.6, y), (x, y + radius + 0.6), (x - radius - 0.6, y)])
@@ -26,7 +27,7 @@ def draw(context, mark, x, y):
     context.set_source_rgb(*rgb(PAPER))
     context.set_line_width(2.2)
     context.stroke_preserve()
-    if mark == "disputed":
+    if mark.startswith("disputed"):
         context.set_source_rgb(*rgb(PAPER))
         context.fill_preserve()
         context.set_source_rgb(*rgb(CITY_FILL))

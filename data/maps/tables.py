@@ -15,7 +15,7 @@ class Place:
     @property
     def text(self):
         """The name as it is drawn: a part in parentheses only tells places apart."""
-        return re.sub(r" \(.*\)$", "", self.name)
+        return re.sub(r" \(.*\)$", "", self.name).replace("'", "\u2019")
 
 
 def _rows(path):
@@ -53,7 +53,7 @@ class Tables:
                 for row in self._lines if number in _numbers(row["maps"])]
 
     def route(self, number, name):
-        """The stops by name, and the path to draw as (latitude, longitude)."""
+        """The stops as (name, passage), and the path to draw as (latitude, longitude)."""
         row = next(row for row in self._routes if int(row["map"]) == number and row["route"] == name)
         path = []
         for step in row["path"].split(" > "):
@@ -61,4 +61,5 @@ class Tables:
                 path.append(_pair(step[1:]))
             else:
                 path.append((self.place(step).latitude, self.place(step).longitude))
-        return row["stops"].split(" > "), path
+        stops = list(zip(row["stops"].split(" > "), row["references"].split(" > "), strict=True))
+        return stops, path

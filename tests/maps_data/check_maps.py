@@ -1,6 +1,8 @@
 #!/usr/bin/env python3
-"""Checks the eleven map pictures and their list, and that no two names on a map lie on each other."""
+"""Checks the eleven map pictures and their list, the places of the names on them, and the facts they show."""
 import json
+import math
+import re
 import struct
 import sys
 from itertools import combinations
@@ -11,8 +13,22 @@ NAMES = [
     "Division of the Kingdom", "New Testament Palestine", "New Testament Jerusalem", "Paul's First Journey",
     "Paul's Second Journey", "Paul's Third Journey", "Paul's Journey to Rome",
 ]
+# In which tinted area a town stands, by map: what the text says.
+AREAS = {
+    "map04": {"Ramoth-gilead": "Gad", "Mahanaim": "Gad", "Succoth": "Gad", "Heshbon": "Reuben", "Bezer": "Reuben",
+              "Dibon": "Reuben", "Shechem": "Ephraim", "Gezer": "Ephraim", "Shiloh": "Ephraim", "Aijalon": "Dan",
+              "Joppa": "Dan", "Golan": "Manasseh, east", "Edrei": "Manasseh, east", "Jabesh-gilead": "Manasseh, east",
+              "Kedesh": "Naphtali", "Hebron": "Judah", "Jerusalem": "Benjamin", "Jericho": "Benjamin",
+              "Bethel": "Benjamin", "Beersheba": "Simeon"},
+    "map05": {"Bethel": "Israel", "Jericho": "Israel", "Mizpah": "Judah", "Geba": "Judah", "Gath": "Philistia",
+              "Ramoth-gilead": "Israel", "Tyre": "Phoenicia", "Lebo-hamath": None},
+    "map06": {"Gaza": None, "Ashkelon": None, "Ptolemais": None, "Mount Carmel": None, "Azotus": "Judea",
+              "Caesarea": "Samaria", "Nazareth": "Galilee", "Machaerus": "Perea",
+              "Caesarea Philippi": "Tetrarchy of Philip", "Scythopolis": "Decapolis", "Gadara": "Decapolis"},
+}
+NAME_WITH_ITS_DOT = {"map04": ["Heshbon", "Gezer"]}  # towns by a border whose names must not lie beyond it
 HEAD = ["MapNumber", "file", "width", "height", "MapDesc"]
-MOST_BYTES = 1_400_000
+MOST_BYTES = 1_600_000  # the database has its fixed length, and this leaves its tables room to grow
 LANDSCAPE, PORTRAIT = (1000, 780), (700, 800)  # largest natural sizes
 SHARPNESS = 1.5  # stored pixels to one of the natural size, at least
 LONGEST_DESCRIPTION = 160
@@ -82,7 +98,7 @@ def check_description(number, text, name):
 def check_names(folder):
     """Names that overlap, or that the frame cuts or touches, in labels.json."""
     faults = []
-    sheets = json.loads((folder / "labels.json").read_text(encoding="utf-8"))
+    sheets = _sheets(folder)
     if len(sheets) != len(NAMES):
         faults.append("labels.json has not eleven maps")
     for sheet, drawn in sheets.items():
@@ -97,6 +113,101 @@ def check_names(folder):
                 faults += [f"{sheet}: \"{one['text']}\" lies under a box" for one in names
                            if any(_touch(one["quads"], [_corners(rect)]) for rect in covers)]
     return faults
+
+
+def check_points(folder):
+    """Names nearer to another town's symbol than to their own, equal names, straight apostrophes, unnamed symbols."""
+    faults = []
+    for sheet, drawn in _sheets(folder).items():
+        used = set()
+        for panel in drawn["panels"]:
+            points = [point for point in panel["points"] if point["mark"] != "none"]
+            used |= {point["mark"] for point in points}
+            for point in points:
+                own = _gap(point["box"], point["dot"])
+                faults += [f"{sheet}: \"{point['name']}\" is nearer to the symbol of {other['name']}"
+                           for other in points if other is not point and _gap(point["box"], other["dot"]) <= own]
+            texts = [point["text"] for point in panel["points"]]
+            faults += [f"{sheet}: two places are called \"{text}\"" for text in sorted(set(texts))
+                       if texts.count(text) > 1]
+        faults += [f"{sheet}: the legend lacks or needs not: {mark}" for mark in used ^ set(drawn["box"]["marks"])]
+        faults += [f"{sheet}: straight apostrophe in \"{name['text']}\""
+                   for panel in [*drawn["panels"], drawn["box"]] for name in panel["names"] if "'" in name["text"]]
+    return faults
+
+
+def check_areas(folder):
+    """Towns that do not lie in the area in which the text puts them."""
+    faults = []
+    for sheet, drawn in _sheets(folder).items():
+        points = [point for panel in drawn["panels"] for point in panel["points"]]
+        for name, area in AREAS.get(sheet, {}).items():
+            faults += [f"{sheet}: {name} lies in {point['areas'][0]}, not {area}" for point in points
+                       if point["name"] == name and point["areas"][0] != area]
+            if name not in [point["name"] for point in points]:
+                faults.append(f"{sheet}: {name} is missing")
+        faults += [f"{sheet}: the name of {point['name']} lies in {point['areas'][1]}" for point in points
+                   if point["name"] in NAME_WITH_ITS_DOT.get(sheet, []) and point["areas"][0] != point["areas"][1]]
+    return faults
+
+
+def check_sources(folder):
+    """Places drawn on no panel of their maps, facts without a source, stops out of order or without their number."""
+    places, lines, routes = (_table(folder / "sources" / f"{name}.tsv") for name in ("places", "lines", "routes"))
+    sheets = _sheets(folder)
+    faults = [f"{row['name']}: no source" for row in [*places, *lines] if not row["source"]]
+    faults += [f"{row['name']}: an own place without its reason" for row in places
+               if row["source"] == "own" and not row["note"]]
+    for row in places:
+        for number in row["maps"].split(","):
+            drawn = set().union(*(panel["places"] for panel in sheets[f"map{int(number):02}"]["panels"]))
+            if row["name"] not in drawn:
+                faults.append(f"map {number}: {row['name']} is drawn nowhere")
+    for sheet, drawn in sheets.items():
+        faults += _check_stops(sheet, drawn, [row for row in routes if int(row["map"]) == int(sheet[3:])])
+    return faults
+
+
+def _check_stops(sheet, drawn, routes):
+    faults, stops, passages = [], [], []
+    for row in routes:
+        names, found = row["stops"].split(" > "), row["references"].split(" > ")
+        if len(names) != len(found):
+            faults.append(f"{sheet}: {row['route']}: {len(names)} stops and {len(found)} passages")
+        last = {}
+        for passage in found:
+            match = re.fullmatch(r"(\w+) (\d+):(\d+)", passage)
+            place = match and (int(match[2]), int(match[3]))
+            if not match or place < last.get(match[1], place):
+                faults.append(f"{sheet}: {row['route']}: {passage} is no passage, or out of order")
+            else:
+                last[match[1]] = place
+        stops += names
+        passages += found
+    if drawn["box"]["numbers"] != [[number + 1, passage] for number, passage in enumerate(passages)]:
+        faults.append(f"{sheet}: the legend does not number the stops in order")
+    shown = {name["text"] for panel in drawn["panels"] for name in panel["names"]}
+    faults += [f"{sheet}: stop {number + 1}, {name}, bears no number" for number, name in enumerate(stops)
+               if str(number + 1) not in shown]
+    for point in [point for panel in drawn["panels"] for point in panel["points"]]:
+        if point["numbers"] != [number + 1 for number, name in enumerate(stops) if name == point["name"]]:
+            faults.append(f"{sheet}: {point['name']} bears {point['numbers']}")
+    return faults
+
+
+def _sheets(folder):
+    return json.loads((folder / "labels.json").read_text(encoding="utf-8"))
+
+
+def _table(path):
+    head, *rows = [line.split("\t") for line in path.read_text(encoding="utf-8").splitlines()]
+    return [dict(zip(head, row)) for row in rows]
+
+
+def _gap(rect, dot):
+    """Points between a name's box and the rim of a symbol."""
+    x, y, radius = dot
+    return math.hypot(max(rect[0] - x, 0, x - rect[2]), max(rect[1] - y, 0, y - rect[3])) - radius
 
 
 def _corners(rect):
@@ -130,7 +241,8 @@ def _overlap(one, other):
 
 def main():
     folder = Path(sys.argv[1]) if len(sys.argv) > 1 else Path(__file__).parents[2] / "data" / "maps"
-    faults = check_rows(folder) + check_names(folder)
+    faults = [fault for check in (check_rows, check_names, check_points, check_areas, check_sources)
+              for fault in check(folder)]
     for fault in faults:
         print(fault)
     print(f"{len(faults)} faults in the maps of {folder.name}")

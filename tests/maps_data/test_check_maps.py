@@ -1,5 +1,6 @@
 """The maps as they are committed have no fault, and each fault put into a copy of them is found."""
 import json
+import os
 import shutil
 from pathlib import Path
 
@@ -14,6 +15,7 @@ MAPS = Path(__file__).parents[2] / "data" / "maps"
 def copy(tmp_path):
     for file in [*MAPS.glob("map*.png"), MAPS / "maps.tsv", MAPS / "labels.json"]:
         shutil.copy(file, tmp_path)
+    shutil.copytree(MAPS / "sources", tmp_path / "sources")
     return tmp_path
 
 
@@ -34,6 +36,13 @@ def put(row, column, value):
 def test_committed_maps_have_no_fault():
     assert check_maps.check_rows(MAPS) == []
     assert check_maps.check_names(MAPS) == []
+    assert check_maps.check_points(MAPS) == []
+    assert check_maps.check_areas(MAPS) == []
+    assert check_maps.check_sources(MAPS) == []
+
+
+def test_maps_can_be_drawn_by_one_command():
+    assert os.access(MAPS / "draw_maps.py", os.X_OK)
 
 
 def test_main_says_whether_there_are_faults(copy, monkeypatch, capsys):
@@ -143,6 +152,81 @@ def test_covered_name_is_found(copy):
 def test_missing_map_is_found(copy):
     change_names(copy, lambda sheets: sheets.pop("map11"))
     assert "labels.json has not eleven maps" in check_maps.check_names(copy)
+
+
+def point_of(sheets, sheet, name):
+    return next(point for panel in sheets[sheet]["panels"] for point in panel["points"] if point["name"] == name)
+
+
+def test_name_nearer_to_another_symbol_is_found(copy):
+    def change(sheets):
+        x, y, _ = point_of(sheets, "map08", "Perga")["dot"]
+        point_of(sheets, "map08", "Attalia")["box"] = [x + 4, y - 5, x + 40, y + 5]
+    change_names(copy, change)
+    assert check_maps.check_points(copy) == ['map08: "Attalia" is nearer to the symbol of Perga']
+
+
+def test_equal_names_are_found(copy):
+    def change(sheets):
+        for name in ("Antioch (Syria)", "Antioch (Pisidia)"):
+            point_of(sheets, "map08", name)["text"] = "Antioch"
+    change_names(copy, change)
+    assert check_maps.check_points(copy) == ['map08: two places are called "Antioch"']
+
+
+def test_straight_apostrophe_is_found(copy):
+    change_names(copy, lambda sheets: sheets["map08"]["box"]["names"][0].update(text="Paul's First Journey"))
+    assert check_maps.check_points(copy) == ['map08: straight apostrophe in "Paul\'s First Journey"']
+
+
+def test_symbol_outside_the_legend_is_found(copy):
+    change_names(copy, lambda sheets: sheets["map04"]["box"]["marks"].remove("refuge"))
+    assert check_maps.check_points(copy) == ["map04: the legend lacks or needs not: refuge"]
+
+
+@pytest.mark.parametrize("place, fault", [
+    (0, "map04: Gezer lies in Dan, not Ephraim"),
+    (1, "map04: the name of Gezer lies in Dan"),
+])
+def test_town_or_name_in_a_wrong_area_is_found(copy, place, fault):
+    change_names(copy, lambda sheets: point_of(sheets, "map04", "Gezer")["areas"].__setitem__(place, "Dan"))
+    assert fault in check_maps.check_areas(copy)
+
+
+def test_missing_town_is_found(copy):
+    change_names(copy, lambda sheets: point_of(sheets, "map06", "Gaza").update(name="Gath"))
+    assert check_maps.check_areas(copy) == ["map06: Gaza is missing"]
+
+
+def test_dropped_place_is_found(copy):
+    change_names(copy, lambda sheets: sheets["map05"]["panels"][0]["places"].remove("Lebo-hamath"))
+    assert check_maps.check_sources(copy) == ["map 5: Lebo-hamath is drawn nowhere"]
+
+
+@pytest.mark.parametrize("file, before, after, fault", [
+    ("places.tsv", "\tlabel\tAssyria", "\t\tAssyria", "Asshur: no source"),
+    ("places.tsv", "\town\tcamp; disputed", "\town\t", "Alush: an own place without its reason"),
+    ("lines.tsv", "\town: round Ramoth", "\t", "Gad, north-east: no source"),
+    ("routes.tsv", "Acts 13:4 >", "Acts 13:40 >", "Acts 13:5 is no passage, or out of order"),
+    ("routes.tsv", "Acts 13:4 >", "Acts 13 >", "Acts 13 is no passage, or out of order"),
+    ("routes.tsv", "Seleucia > Salamis", "Seleucia", "9 passages"),
+    ("routes.tsv", "Gn 28:10 >", "Gn 28:11 >", "map02: the legend does not number the stops in order"),
+])
+def test_fault_in_the_tables_is_found(copy, file, before, after, fault):
+    path = copy / "sources" / file
+    text = path.read_text(encoding="utf-8")
+    assert before in text
+    path.write_text(text.replace(before, after, 1), encoding="utf-8")
+    assert any(fault in found for found in check_maps.check_sources(copy))
+
+
+def test_stop_without_its_number_is_found(copy):
+    def change(sheets):
+        point_of(sheets, "map08", "Perga")["numbers"] = [5]
+        for panel in sheets["map08"]["panels"]:
+            panel["names"] = [name for name in panel["names"] if name["text"] != "13"]
+    change_names(copy, change)
+    assert check_maps.check_sources(copy) == ["map08: stop 13, Perga, bears no number", "map08: Perga bears [5]"]
 
 
 @pytest.mark.parametrize("other, overlap", [
