@@ -270,6 +270,7 @@ TEST_F(ChildMapDspTest, EmptyPictureLeavesItsButtonsWhole)
 {
     ChildMapDsp& map = openMap(emptyMap);
     expectFitted(map, {49, 66});
+    settle();
     for (QWidget* button : std::initializer_list<QWidget*>{&cmdZoom(), &cmdPicCopy()})
         EXPECT_EQ(button->visibleRegion(), QRegion(button->rect())) << button->objectName().toStdString();
     for (const QScrollBar* bar : map.findChildren<QScrollBar*>())
