@@ -38,6 +38,23 @@ else()
     check_pie_supported()
 endif()
 
+# use_precompiled_headers(NAME): compiles what the windows include of Qt once for all libraries, in two fifths of the time.
+# Not with ccache, which could do nothing then, and not with the tests, so that every file names what it needs.
+function(use_precompiled_headers name)
+    if(CCACHE OR KESTREL_TESTS)
+        return()
+    endif()
+    get_property(first GLOBAL PROPERTY KESTREL_PRECOMPILED)
+    if(first)
+        target_precompile_headers(${name} REUSE_FROM ${first})
+        return()
+    endif()
+    target_precompile_headers(${name} PRIVATE <QApplication> <QComboBox> <QLabel> <QMainWindow> <QMdiArea> <QMdiSubWindow>
+        <QMenu> <QMouseEvent> <QPainter> <QPlainTextEdit> <QScrollBar> <QStyleOption> <QTimer> <QTreeWidget>
+        <functional> <memory> <optional> <string> <vector>)
+    set_property(GLOBAL PROPERTY KESTREL_PRECOMPILED ${name})
+endfunction()
+
 # kestrel_library(NAME [QT] [FOLDER folder] [LINK target...]): the library of src/NAME, or of src/FOLDER where CMake has
 # the name for itself, made of whatever sources stand there.
 function(kestrel_library name)
@@ -54,6 +71,9 @@ function(kestrel_library name)
     target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
     target_link_libraries(${name} PUBLIC ${ARG_LINK})
     set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_QT})
+    if(ARG_QT)
+        use_precompiled_headers(${name})
+    endif()
 endfunction()
 
 # kestrel_test(NAME [QT] [LINK target...]): one test program of the sources in tests/NAME.
