@@ -16,6 +16,10 @@ int main(int, char* argv[])
     endWhenThreadsFail();
     ignoreSenselessScaling();
     Application application(argv);
+    if (!isScreenUsable()) { // no message box could be read
+        std::fputs("kestrel-reader: the screen's dots to an inch (Xft.dpi) make no sense\n", stderr);
+        return 1;
+    }
     Program program(QCoreApplication::applicationDirPath());
     if (!program.start())
         return 1;

@@ -1,7 +1,9 @@
 #include "app/Scaling.h"
 
 #include <QByteArray>
+#include <QGuiApplication>
 #include <QList>
+#include <QScreen>
 
 namespace {
 
@@ -13,9 +15,12 @@ struct Setting
     double max;
 };
 
+constexpr double minFactor = 0.25;
+constexpr double maxFactor = 8;
+
 constexpr Setting settings[] = {
-    {"QT_SCALE_FACTOR", 0.25, 8},
-    {"QT_SCREEN_SCALE_FACTORS", 0.25, 8},
+    {"QT_SCALE_FACTOR", minFactor, maxFactor},
+    {"QT_SCREEN_SCALE_FACTORS", minFactor, maxFactor},
     {"QT_FONT_DPI", 24, 768},
 };
 
@@ -37,4 +42,10 @@ void ignoreSenselessScaling()
     for (const Setting& setting : settings)
         if (qEnvironmentVariableIsSet(setting.name) && !makesSense(setting, qgetenv(setting.name)))
             qunsetenv(setting.name);
+}
+
+bool isScreenUsable()
+{
+    const double factor = QGuiApplication::primaryScreen()->devicePixelRatio();
+    return factor >= minFactor && factor <= maxFactor;
 }

@@ -35,6 +35,22 @@ def test_a_scale_with_sense_is_kept(start, installed, desktop):
     assert "Geometry: 625x" in desktop.run("xdotool", "getactivewindow", "getwindowgeometry")
 
 
+@pytest.fixture
+def screen_of_100000_dots(desktop):
+    """A desktop whose own settings make no sense; QT_FONT_DPI is one program's."""
+    desktop.run("xprop", "-root", "-f", "RESOURCE_MANAGER", "8s", "-set", "RESOURCE_MANAGER", "Xft.dpi:\t100000\n")
+    yield
+    desktop.run("xprop", "-root", "-remove", "RESOURCE_MANAGER")
+
+
+@pytest.mark.usefixtures("screen_of_100000_dots")
+def test_a_screen_without_sense_is_named(desktop, installed):
+    reader = Reader(desktop, installed)
+    _, errors = reader.process.communicate(timeout=20)
+    assert reader.process.returncode == 1
+    assert errors == "kestrel-reader: the screen's dots to an inch (Xft.dpi) make no sense\n"
+
+
 # --- Few files ---
 
 @pytest.mark.parametrize("files", [6, 8, 10, 11, 12, 13, 16])
