@@ -50,10 +50,12 @@ def check_corrected(text, corrections, corrected):
 def tell(kind, out, data):
     """Writes the help into the program's folder, and what packages and ./run say of the text into that of the data."""
     help_text = (SOURCE / "data/help/kestrel.html").read_text(encoding="utf-8")
-    begin = help_text.index(HELP_BEGIN) + len(HELP_BEGIN)
-    end = help_text.index(HELP_END)
     if kind != "published":  # of which the help tells as it stands
-        help_text = help_text[:begin] + (TEXT / kind / "help.html").read_text(encoding="utf-8") + help_text[end:]
+        for credits in ("help.html", "help.pt.html"):  # in the order of the languages
+            begin = help_text.index(HELP_BEGIN)
+            end = help_text.index(HELP_END, begin)
+            told = (TEXT / kind / credits).read_text(encoding="utf-8")
+            help_text = help_text[:begin] + told + help_text[end + len(HELP_END):]
     write(out / "KESTREL.HLP", help_text)
     for name in ("description.txt", "copyright"):
         general = (SOURCE / "packaging" / name).read_text(encoding="utf-8")

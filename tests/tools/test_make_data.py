@@ -181,6 +181,12 @@ def told(tmp_path):
     return [credits, *((tmp_path / "data" / name).read_text() for name in ("description.txt", "copyright", "shown.txt"))]
 
 
+def told_in_portuguese(tmp_path):
+    """The same credits in the other half of the help."""
+    help_text = (tmp_path / "out/KESTREL.HLP").read_text()
+    return help_text[help_text.index("<h2>O texto da Bíblia</h2>"):help_text.index("<h2>Os mapas</h2>")]
+
+
 def test_of_the_published_text_its_credits_are_told(make, checkout, tmp_path, text, corrected):
     (checkout / "data/text/corrections.tsv").write_text(HEADER)
     expect_sums(checkout, text, sha256(corrected))
@@ -193,6 +199,8 @@ def test_of_another_text_nothing_is_told_that_is_not_known(make, tmp_path, unkno
     assert make(KESTREL_TEXT=str(unknown)).returncode == 0
     credits, description, licences, _ = told(tmp_path)
     assert "with a text that its builder chose" in credits and "Bíblia Livre" not in credits
+    assert "um texto escolhido por quem a montou" in told_in_portuguese(tmp_path)
+    assert "Bíblia Livre" not in told_in_portuguese(tmp_path)
     assert "with a text that its builder chose" in description
     assert "with a text that its builder chose" in licences and "CC-BY-3.0-BR" not in licences
 
@@ -206,6 +214,8 @@ def test_the_english_stand_in_makes_a_whole_database_and_says_what_it_is(make, t
     assert rows == (31102, 31102)
     assert all("King James Version" in part for part in told(tmp_path))
     assert "Bíblia Livre" not in told(tmp_path)[0]
+    assert "versão inglesa do Rei Tiago" in told_in_portuguese(tmp_path)
+    assert "Bíblia Livre" not in told_in_portuguese(tmp_path)
 
 
 def test_without_tools_it_says_what_to_do(tmp_path, checkout):
