@@ -8,6 +8,8 @@ set(made ${CMAKE_BINARY_DIR}/packaging)
 set(program_dir lib/kestrel-reader)
 set(doc_dir share/doc/kestrel-reader)
 
+configure_file(man/kestrel-reader.1 ${made}/kestrel-reader.1 @ONLY) # with the version
+
 # Made when installing, since only a package needs them.
 install(CODE "
     file(MAKE_DIRECTORY \"${made}\")
@@ -15,7 +17,7 @@ install(CODE "
     execute_process(COMMAND \"${CMAKE_COMMAND}\" -E env QT_QPA_PLATFORM=offscreen
                             \"$<TARGET_FILE:export_pictures>\" \"${made}\"
                     COMMAND_ERROR_IS_FATAL ANY)
-    execute_process(COMMAND gzip -9nc \"${CMAKE_SOURCE_DIR}/man/kestrel-reader.1\"
+    execute_process(COMMAND gzip -9nc \"${made}/kestrel-reader.1\"
                     OUTPUT_FILE \"${made}/kestrel-reader.1.gz\" COMMAND_ERROR_IS_FATAL ANY)
     execute_process(COMMAND gzip -9nc \"${CMAKE_SOURCE_DIR}/packaging/changelog\"
                     OUTPUT_FILE \"${made}/changelog.gz\" COMMAND_ERROR_IS_FATAL ANY)")

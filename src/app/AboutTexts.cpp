@@ -1,5 +1,6 @@
 #include "app/AboutTexts.h"
 
+#include "app/Version.h"
 #include "widgets/Maker.h"
 #include <QStringList>
 
@@ -20,7 +21,7 @@ QString postalAddress()
 QString informationText()
 {
     return joined({
-        "Version: 98.5.0pt",
+        QString("Version: %1pt").arg(programVersion),
         "",
         "Please report bugs and suggestions to the programmer:",
         postalAddress(),

@@ -72,7 +72,7 @@ def test_version_is_the_same_everywhere(deb, tree):
     changelog = gzip.decompress((tree / "usr/share/doc/kestrel-reader/changelog.gz").read_bytes()).decode()
     assert changelog.startswith(f"kestrel-reader ({version}) ")
     assert f"\n## {version}\n" in (TOP / "CHANGELOG.md").read_text(encoding="utf-8")
-    assert f'"Version: {version}pt"' in (TOP / "src/app/AboutTexts.cpp").read_text(encoding="utf-8")
+    assert f"VERSION {version} " in (TOP / "CMakeLists.txt").read_text(encoding="utf-8")
     manual = gzip.decompress((tree / "usr/share/man/man1/kestrel-reader.1.gz").read_bytes()).decode()
     assert f'"Kestrel Reader {version}"' in manual
 
