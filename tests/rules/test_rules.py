@@ -102,6 +102,19 @@ def test_subjects_of_commits(subject, sound):
     assert (subjects.breach(subject) is None) == sound
 
 
+def test_a_subject_in_the_history_is_judged_by_when_it_was_written(house):
+    def commit(subject, date):
+        identity = ["-c", "user.name=a", "-c", "user.email=a@example.org"]
+        subprocess.run(["git", "-C", house, *identity, "commit", "-q", "--allow-empty", "-m", subject, "--date", date], check=True)
+
+    subprocess.run(["git", "-C", house, "init", "-q"], check=True)
+    commit("No folder, but of old", "2026-11-01T00:00:00Z")
+    commit("read: Step", "2027-01-01T00:00:00Z")
+    assert subjects.breaches(house) == []
+    commit("No folder", "2027-01-01T00:00:00Z")
+    assert '"No folder": it does not read "folder: Do this"' in told(subjects, house)
+
+
 def test_an_archive_without_history_has_no_subjects_to_judge(house):
     assert subjects.breaches(house) == []
 
