@@ -15,6 +15,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
+#include <QTimer>
 #include <QWheelEvent>
 
 /// The running program under test: the real frame and its real windows over the assembled database, driven by
@@ -24,6 +25,9 @@ class Session : public testing::Test
 protected:
     void SetUp() override
     {
+        // A program that ended in a test before has told Qt to leave all loops, until exec() starts one anew.
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        QCoreApplication::exec();
         program = std::make_unique<Program>(KESTREL_INSTALL_DIR);
         program->showFrame();
         QApplication::setActiveWindow(&frame());
