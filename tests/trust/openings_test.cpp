@@ -12,7 +12,7 @@ int rounds()
 {
     bool isNumber = false;
     const int given = qEnvironmentVariableIntValue("KESTREL_OPENINGS", &isNumber);
-    return isNumber ? given : 60;
+    return isNumber ? given : 20;
 }
 
 class Openings : public Session
