@@ -77,6 +77,14 @@ def test_version_is_the_same_everywhere(deb, tree):
     assert f'"Kestrel Reader {version}"' in manual
 
 
+def test_it_says_which_text_it_holds(deb, tree):
+    told = TOP / "data/text" / (TOP / "build/data/kind.txt").read_text().strip()
+    description = (told / "description.txt").read_text(encoding="utf-8")
+    assert description.split() == field(deb, "Description").split()[-len(description.split()):]
+    licences = (tree / "usr/share/doc/kestrel-reader/copyright").read_text(encoding="utf-8")
+    assert licences.endswith("\n" + (told / "copyright").read_text(encoding="utf-8"))
+
+
 def test_lintian_has_no_error_and_no_warning(deb):
     silent("lintian", "--allow-root", "--fail-on", "error,warning", deb)
 
