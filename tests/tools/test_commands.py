@@ -67,7 +67,7 @@ def assembled(folder):
     return sorted(path.name for path in (folder / "build/kestrel").iterdir())
 
 
-@pytest.mark.parametrize("name", ["it's \"odd\" $HOME [a*] coração", "-dash"])
+@pytest.mark.parametrize("name", ["it's an odd, & (coração)", "-dash"])
 def test_a_checkout_may_lie_anywhere(place, environment, tmp_path, name):
     folder = place(tmp_path / "usr" / name)
     # by a relative name, which CDPATH also leads to from elsewhere
@@ -83,6 +83,15 @@ def test_a_checkout_may_lie_anywhere(place, environment, tmp_path, name):
     assert "Making the data" in said
     assert "Building 2 of 2 (release)" in answer.stderr
     assert len(said) + len(answer.stderr.splitlines()) < 15
+
+
+@pytest.mark.parametrize("sign", '"$;*?#<>[]\\')
+def test_where_nothing_can_be_built_it_says_so_at_once(place, environment, tmp_path, sign):
+    folder = place(tmp_path / f"a{sign}b")
+    answer = run_setup(folder, environment)
+    assert answer.returncode == 1
+    assert answer.stderr == f"setup: CMake cannot build in a folder whose path holds {sign}; move the checkout: {folder}\n"
+    assert not (folder / "build").exists()
 
 
 def test_two_at_once_take_turns(place, environment, tmp_path):
