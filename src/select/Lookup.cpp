@@ -8,13 +8,6 @@ namespace {
 
 const std::string verses = "SELECT * FROM NewTestament WHERE ";
 
-// SQLite ends a text at a NUL, which no key holds: such a reference asks for no verse at all.
-std::string queryFor(const QString& reference)
-{
-    return reference.contains(QChar::Null) ? verses + "VerseNumber = 0"
-                                           : verses + "VerseId LIKE '" + reference.toStdString() + "*'";
-}
-
 bool isShown(const QString& key, const QString& reference)
 {
     return key == reference || key == reference + ":";
@@ -27,7 +20,7 @@ void displayVerse(ChildRead& reading, const QString& reference)
     const int current = qMax(1, reading.currentNumber());
     if (!isShown(reading.currentKey(), reference)) {
         Hourglass hourglass;
-        const bool found = reading.fetch(queryFor(reference));
+        const bool found = reading.fetch(verses + "VerseId LIKE '" + reference.toStdString() + "*'");
         hourglass.restore();
         if (!found) {
             MsgBox::show("Incorrect user input. No such verse.", MsgIcon::Exclamation, MsgButtons::Ok,

@@ -55,7 +55,8 @@ def test_the_wheel_over_the_box_chooses_nothing(reader, desktop):
     reader.find("frame", "Reading Window -- Mt:1:1")
 
 
-@pytest.mark.parametrize("reference, error", [("Mt'", "unrecognized token"), ("Mt:[", "Invalid pattern string")])
+@pytest.mark.parametrize("reference, error", [("Mt'", "unrecognized token"), ("Mt:[", "Invalid pattern string"),
+                                              ("Mt:24:43';", "SQL logic error")])
 @pytest.mark.parametrize("by_button", [True, False])
 def test_a_text_that_breaks_the_query_ends_the_program_with_the_engines_text(reader, desktop, reference, error, by_button):
     reader.open_selection()
