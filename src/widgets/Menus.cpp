@@ -19,7 +19,10 @@ void listWindows(QMenu& menu, const Shell& shell)
         QAction* entry = menu.addAction(QString("&%1 %2").arg(++number).arg(caption));
         entry->setCheckable(true);
         entry->setChecked(window->isActive());
-        QObject::connect(entry, &QAction::triggered, window, &Form::restoreAndActivate);
+        QObject::connect(entry, &QAction::triggered, window, [window] {
+            if (!isBehindModalWindow(*window))
+                window->restoreAndActivate();
+        });
     }
 }
 
