@@ -8,6 +8,7 @@
 #include "app/MDIParent.h"
 #include "app/Program.h"
 #include "read/Chapter.h"
+#include "store/DataSource.h"
 #include <benchmark/benchmark.h>
 #include <QAction>
 #include <QFileInfo>
