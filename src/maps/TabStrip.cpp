@@ -1,5 +1,7 @@
 #include "maps/TabStrip.h"
 
+#include "widgets/Modality.h"
+#include <QSignalBlocker>
 #include <QStyleOptionTabWidgetFrame>
 #include <QStylePainter>
 
@@ -9,6 +11,17 @@ TabStrip::TabStrip(QWidget* parent)
     setDrawBase(false);
     setExpanding(false);
     setUsesScrollButtons(false);
+    connect(this, &QTabBar::currentChanged, this, &TabStrip::stayBehindModalWindow);
+}
+
+void TabStrip::stayBehindModalWindow(int index)
+{
+    if (isBehindModalWindow(*this)) {
+        const QSignalBlocker silently(this);
+        setCurrentIndex(m_chosen);
+    } else {
+        m_chosen = index;
+    }
 }
 
 void TabStrip::paintEvent(QPaintEvent* event)

@@ -13,4 +13,10 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    /// An assistive program can press a tab behind a modal window; the chosen one stays chosen then.
+    void stayBehindModalWindow(int index);
+
+    int m_chosen = 0;
 };

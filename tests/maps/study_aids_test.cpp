@@ -2,6 +2,7 @@
 
 #include "maps/CaptionFrame.h"
 #include "support/CutTexts.h"
+#include "support/OnceModal.h"
 #include "widgets/DataControl.h"
 #include "widgets/Maker.h"
 #include <QAccessible>
@@ -558,4 +559,26 @@ TEST_F(ChildMapSelTest, TellsAScreenReaderItsNames)
     EXPECT_EQ(spoken(&List1())->text(QAccessible::Name), "Verse references");
     EXPECT_EQ(spoken(&lstMaps())->text(QAccessible::Name), "Maps");
     EXPECT_EQ(spoken(&lstMaps())->childCount(), 11);
+}
+
+/// By an assistive program, which a modal window does not keep from the controls behind it.
+TEST_F(ChildMapSelTest, ATabBehindTheAboutWindowStaysAsItIs)
+{
+    QAccessibleInterface* maps = QAccessible::queryAccessibleInterface(&TabStrip1())->child(1);
+    const auto pressMaps = [maps] {
+        maps->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    };
+    bool pressed = false;
+    const auto looking = onceModal([&](QWidget& about) {
+        pressMaps();
+        settle();
+        pressed = true;
+        about.close();
+    });
+    click(*frame().cmdAbout);
+    EXPECT_TRUE(pressed);
+    EXPECT_EQ(TabStrip1().currentIndex(), 0);
+    EXPECT_TRUE(Frame1().isVisible());
+    pressMaps();
+    EXPECT_EQ(TabStrip1().currentIndex(), 1);
 }
