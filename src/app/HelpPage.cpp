@@ -11,8 +11,8 @@ QString helpPageOf(const QWidget* widget)
             const Form* active = Form::activeIn(*frame->area());
             return active ? active->objectName() : frame->objectName();
         }
-        if (qobject_cast<const QMessageBox*>(widget))
-            continue;
+        if (qobject_cast<const QMessageBox*>(widget) || widget->windowType() == Qt::Popup)
+            continue; // belongs to the window that it stands over
         if (qobject_cast<const Form*>(widget) || widget->isWindow())
             return widget->objectName();
     }

@@ -199,7 +199,7 @@ def test_a_file_that_may_not_be_read_counts_as_missing(start, desktop, copy, tmp
 
 # --- Too little memory ---
 
-@pytest.mark.parametrize("megabytes", [40, 100, 108, 116, 128, 160, 230, 236, 240, 400])
+@pytest.mark.parametrize("megabytes", [40, 100, 108, 116, 124, 132, 160, 230, 236, 240, 400])
 def test_with_any_amount_of_memory_it_runs_or_ends(desktop, installed, tmp_path, megabytes):
     """From far too little to enough: an error, or the right verse; never an endless wait. What Qt and the
     system's libraries write to standard error then, and how they end, is theirs."""

@@ -132,7 +132,7 @@ def test_data_that_were_cut_off_are_made_again(place, environment, tmp_path):
     assert {name: (folder / "build/kestrel" / name).read_bytes() for name in ASSEMBLED} == whole
 
 
-@pytest.mark.parametrize("megabytes, named", [(1, "Cannot write"), (5, "build_database failed"), (12, "No space left")])
+@pytest.mark.parametrize("megabytes, named", [(1, "Cannot write"), (5, "build_database failed"), (11, "No space left")])
 def test_a_full_disk_is_named_and_room_helps(place, environment, tmp_path, megabytes, named):
     folder = place(tmp_path / "checkout")
     disk = folder / "build"
