@@ -1,4 +1,4 @@
-// A window with nothing in it: what the toolkit alone needs in memory, to compare the program with.
+// A window with nothing in it: what Qt alone needs in memory, to compare the program with.
 #include <QApplication>
 #include <QWidget>
 
