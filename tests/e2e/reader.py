@@ -11,7 +11,7 @@ STAMP = "1998-05-05 05:00:00"
 # Qt asks the accessibility bus about every key, and says so when a busy machine lets it wait for the answer.
 BUS_IS_BUSY = "QSpiApplication::keyEventError"
 
-CONTROLS = ("push button", "check box", "radio button", "combo box", "text", "list", "tree", "page tab list")
+CONTROLS = ("push button", "check box", "radio button", "combo box", "text", "list", "tree", "page tab list", "link")
 WITH_ENTRIES = ("combo box", "list", "tree", "text")
 LAYOUT = ("filler", "layered pane", "unknown")
 
@@ -106,8 +106,14 @@ class Reader:
             return f"({error})"
 
     def press(self, name, role="push button", within=None):
-        """Clicks the middle of a control with the mouse."""
-        self.click(self.find(role, name, within))
+        """Clicks a control with the mouse: in its middle, or on the mark of a button that may be wider than its text."""
+        node = self.find(role, name, within)
+        if role in ("radio button", "check box"):
+            import pyatspi
+            box = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+            self.desktop.click(box.x + 8, box.y + box.height / 2)
+        else:
+            self.click(node)
 
     def act(self, name, within, role="push button"):
         """Presses a button as a screen reader does."""

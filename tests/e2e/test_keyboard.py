@@ -75,7 +75,7 @@ WINDOWS = [
     (maps, ["page tab list: Maps", "list: Maps"]),
     (download, ["page tab list: Download Other Translations", "push button: Visit the Web Site"]),
     (Reader.open_map, ["push button: Zoom In/Restore Normal Size", "push button: Copy Map to Clipboard"]),
-    (Reader.open_about, ["push button: OK", "push button: E-mail: author@kestrel-reader.example", "push button: More Info",
+    (Reader.open_about, ["push button: OK", "link: E-mail: author@kestrel-reader.example", "push button: More Info",
                          "push button: DonationWare", "push button: QORV CD-ROM Offer"]),
     (help_window, ["label: This help", "push button: Back", "text: Find:", "push button: Next", "push button: Previous",
                    "push button: Larger", "push button: Smaller", "push button: Normal Size", "push button: Português",

@@ -1,4 +1,5 @@
 """The way through a window with Tab, as it is and as it should be."""
+from reader import CONTROLS
 
 
 def walk(reader, window, key):
@@ -22,7 +23,7 @@ def stops(reader, window):
         state, role = node.getState(), node.getRoleName()
         # of radio buttons only the chosen one is a stop: the arrow keys go to the others
         is_other_choice = role == "radio button" and not state.contains(pyatspi.STATE_CHECKED)
-        is_stop = role in ("push button", "check box", "radio button", "combo box", "text", "list", "tree", "page tab list")
+        is_stop = role in CONTROLS
         if is_stop and not is_other_choice and all(map(state.contains, wanted)):
             found.append(f"{role}: {node.name}")
         if not is_stop:
