@@ -13,6 +13,13 @@ bool isHelpKey(const QKeyEvent& key)
            !key.isAutoRepeat();
 }
 
+/// Leaves the key itself to the widget that has the focus.
+bool keepFromShortcuts(QKeyEvent& key)
+{
+    key.accept();
+    return key.type() == QEvent::ShortcutOverride;
+}
+
 void tellOfClick(QObject* watched, const QFocusEvent& event)
 {
     auto* control = qobject_cast<QWidget*>(watched);
@@ -38,8 +45,10 @@ bool KeyPreview::eventFilter(QObject* watched, QEvent* event)
     if (!isKey || watched != activeWidget())
         return false;
     auto& key = static_cast<QKeyEvent&>(*event);
+    Form* form = Form::of(activeWidget());
+    if (form && form->isMovedByKeyboard())
+        return keepFromShortcuts(key);
     if (isHelpKey(key)) // the control sees it all the same, and first
         QMetaObject::invokeMethod(&m_help, &Help::open, Qt::QueuedConnection);
-    Form* form = Form::of(activeWidget());
     return form && form->preview(key);
 }

@@ -214,10 +214,14 @@ void Form::becomeActive(bool active)
     m_clicked.clear();
 }
 
+// QMdiSubWindow grabs the mouse while it is moved or sized by keyboard.
+bool Form::isMovedByKeyboard() const
+{
+    return mouseGrabber() && mouseGrabber() == subWindow();
+}
+
 bool Form::preview(QKeyEvent& event)
 {
-    if (mouseGrabber() && mouseGrabber() == subWindow())
-        return false; // QMdiSubWindow grabs the mouse while it is moved or sized by keyboard
     if (hasAccessKeys() && pressAccessKey(*this, event))
         return true;
     return event.type() == QEvent::KeyPress && Form_KeyDown(event);
@@ -272,6 +276,11 @@ bool Form::eventFilter(QObject* watched, QEvent* event)
         m_pressedAt = subWindow()->geometry();
     if (watched == subWindow() && event->type() == QEvent::MouseButtonRelease)
         m_pressedAt = QRect();
+    if (watched == subWindow() && event->type() == QEvent::FocusOut && isMovedByKeyboard()) {
+        // QMdiSubWindow would go on, follow the mouse and keep it from everything else.
+        QKeyEvent end(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(watched, &end);
+    }
     return QWidget::eventFilter(watched, event);
 }
 

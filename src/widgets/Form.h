@@ -59,8 +59,10 @@ public:
     /// The frame tells the window that it became the active one, or that another did.
     void becomeActive(bool active);
     bool isActive() const { return m_active; }
+    /// Whether the keyboard moves or sizes the window now: every key belongs to that, until the focus leaves.
+    bool isMovedByKeyboard() const;
     /// The frame tells the window of a key that is about to go to its control with the focus; true keeps the
-    /// key from it. Nothing happens while the window is moved or sized by keyboard.
+    /// key from it. The window must not be moved or sized by keyboard.
     bool preview(QKeyEvent& event);
     /// The frame tells the window that the mouse gave the focus to one of its controls. If that activates the
     /// window, the focus stays there whatever Form_Activate does with it.

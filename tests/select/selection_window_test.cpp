@@ -37,6 +37,14 @@ protected:
         return frame().readingWindow().currentKey();
     }
 
+    void moveByKeyboard(Form& form, const QString& operation = "&Move")
+    {
+        for (QAction* action : outer(form).systemMenu()->actions())
+            if (action->text() == operation)
+                action->trigger();
+        ASSERT_EQ(QWidget::mouseGrabber(), &outer(form)) << operation.toStdString();
+    }
+
     QTreeWidgetItem* node(const QString& text)
     {
         for (QTreeWidgetItemIterator it(&tree()); *it; ++it)
@@ -542,16 +550,43 @@ TEST_F(Selection, EnterAndEscBelongToTheWindowWhileItIsMovedByKeyboard)
     for (const char* operation : {"&Move", "&Size"})
         for (const Qt::Key end : {Qt::Key_Return, Qt::Key_Escape}) {
             window->activate();
-            for (QAction* action : outer(*window).systemMenu()->actions())
-                if (action->text() == operation)
-                    action->trigger();
-            ASSERT_EQ(QWidget::mouseGrabber(), &outer(*window)) << operation;
+            moveByKeyboard(*window, operation);
             press(end);
             EXPECT_EQ(open<ChildRead>(), nullptr) << operation;
             EXPECT_EQ(QWidget::mouseGrabber(), nullptr) << operation;
         }
     press(Qt::Key_Return);
     EXPECT_NE(open<ChildRead>(), nullptr);
+}
+
+TEST_F(Selection, EveryKeyBelongsToTheWindowWhileItIsMovedByKeyboard)
+{
+    window->activate();
+    moveByKeyboard(*window);
+    for (const Qt::Key key : {Qt::Key_F1, Qt::Key_F2, Qt::Key_F3, Qt::Key_F8})
+        press(key);
+    press(Qt::Key_F4, Qt::ControlModifier);
+    press(Qt::Key_N, Qt::ControlModifier);
+    press(Qt::Key_H, Qt::AltModifier);
+    settle();
+    EXPECT_EQ(QWidget::mouseGrabber(), &outer(*window));
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(frame().windows().size(), 1);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(QWidget::mouseGrabber(), nullptr);
+}
+
+TEST_F(Selection, AMoveByKeyboardEndsWhenAnotherWindowIsActivated)
+{
+    window->activate();
+    const QPoint place = outer(*window).pos();
+    moveByKeyboard(*window);
+    press(Qt::Key_Right);
+    EXPECT_NE(outer(*window).pos(), place);
+    frame().openSearch(); // as an assistive program's press does
+    settle();
+    EXPECT_EQ(QWidget::mouseGrabber(), nullptr);
+    EXPECT_EQ(activeForm()->objectName(), "frmAdvSearch");
 }
 
 TEST_F(Selection, TheTreeFollowsTheWindowsSize)
