@@ -64,7 +64,7 @@ def test_the_buttons_beside_an_empty_map_are_whole_and_can_be_clicked(start, cop
         assert box.y + box.height < outer.y + outer.height and box.x + box.width < outer.x + outer.width
     subprocess.run(["xclip", "-selection", "clipboard"], env=desktop.environment, input=b"before", check=True,
                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    assert desktop.clipboard() == "before"
+    program.wait_for(lambda: desktop.clipboard() == "before", "xclip's text on the clipboard")
     x, y = box.x + box.width // 2, box.y + box.height - 3
     desktop.click(x, y)
     program.wait_for(lambda: desktop.clipboard() == "", "an empty clipboard")

@@ -28,7 +28,10 @@ def wrapped(installed, tmp_path):
 
 
 def frame(reader):
-    return reader.find("frame", starts="Kestrel Reader: Portuguese Version")
+    """The frame, once it has the keys: the window manager gives them to it after it is shown."""
+    found = reader.find("frame", starts="Kestrel Reader: Portuguese Version")
+    reader.desktop.wait_for_focus(found.name)
+    return found
 
 
 def first_result(reader, desktop, key):
