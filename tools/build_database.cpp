@@ -4,7 +4,6 @@
 #include "database/Png.h"
 #include "importer/Files.h"
 #include "importer/InputError.h"
-
 #include <exception>
 #include <iostream>
 

@@ -2,7 +2,6 @@
 
 #include "importer/Files.h"
 #include "importer/Importer.h"
-
 #include <exception>
 #include <iostream>
 

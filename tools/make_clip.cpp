@@ -3,7 +3,6 @@
 #include "animation/Avi.h"
 #include "animation/SearchScene.h"
 #include "importer/Files.h"
-
 #include <exception>
 #include <iostream>
 #include <QBuffer>

@@ -1,5 +1,4 @@
 #include "desktop/InstanceName.h"
-
 #include <cerrno>
 #include <cstddef>
 #include <cstring>

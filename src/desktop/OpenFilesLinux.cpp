@@ -1,5 +1,4 @@
 #include "desktop/OpenFiles.h"
-
 #include <unistd.h>
 #include <vector>
 

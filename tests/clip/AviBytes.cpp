@@ -1,4 +1,5 @@
 #include "clip/AviBytes.h"
+
 #include <QBuffer>
 #include <QImage>
 #include <QtEndian>

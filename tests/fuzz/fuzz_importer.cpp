@@ -9,7 +9,6 @@
 #include "importer/Typography.h"
 #include "importer/Unicode.h"
 #include "importer/VerseList.h"
-
 #include <cstdint>
 #include <cstdlib>
 

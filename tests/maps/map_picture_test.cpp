@@ -1,5 +1,4 @@
 #include "maps/MapPicture.h"
-
 #include "widgets/Twips.h"
 #include <gtest/gtest.h>
 #include <QAccessible>

@@ -1,5 +1,4 @@
 #include "maps/MapsTest.h"
-
 #include <QAccessible>
 #include <QClipboard>
 #include <QLabel>

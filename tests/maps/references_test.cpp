@@ -1,5 +1,4 @@
 #include "maps/MapsTest.h"
-
 #include "maps/TopicText.h"
 #include <QComboBox>
 #include <QFile>

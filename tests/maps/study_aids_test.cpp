@@ -1,6 +1,5 @@
-#include "maps/MapsTest.h"
-
 #include "maps/CaptionFrame.h"
+#include "maps/MapsTest.h"
 #include "support/CutTexts.h"
 #include "support/OnceModal.h"
 #include "widgets/DataControl.h"

@@ -1,5 +1,4 @@
 #include "maps/TopicText.h"
-
 #include <gtest/gtest.h>
 
 TEST(TopicText, FramesEveryReferenceWithSpaces)

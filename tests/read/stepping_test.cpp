@@ -1,5 +1,4 @@
 #include "read/Stepping.h"
-
 #include <gtest/gtest.h>
 
 TEST(Stepping, WrapsAtBothEndsByEquality)

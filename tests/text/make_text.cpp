@@ -9,7 +9,6 @@
 #include "importer/Lines.h"
 #include "importer/VerseList.h"
 #include "Words.h"
-
 #include <exception>
 #include <iostream>
 #include <map>

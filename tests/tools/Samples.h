@@ -2,7 +2,6 @@
 
 #include "importer/Files.h"
 #include "importer/VerseList.h"
-
 #include <cstdlib>
 #include <filesystem>
 #include <QCryptographicHash>

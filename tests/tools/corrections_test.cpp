@@ -1,8 +1,6 @@
-#include "tools/Samples.h"
-
 #include "importer/Corrections.h"
 #include "importer/InputError.h"
-
+#include "tools/Samples.h"
 #include <gtest/gtest.h>
 
 namespace {

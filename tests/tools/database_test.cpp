@@ -1,10 +1,8 @@
-#include "tools/Samples.h"
-
 #include "database/Database.h"
 #include "importer/Files.h"
 #include "importer/Importer.h"
 #include "importer/InputError.h"
-
+#include "tools/Samples.h"
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <sqlite3.h>

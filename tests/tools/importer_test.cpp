@@ -1,11 +1,9 @@
-#include "tools/Samples.h"
-
 #include "importer/Files.h"
 #include "importer/Importer.h"
 #include "importer/InputError.h"
 #include "importer/Typography.h"
 #include "importer/Unicode.h"
-
+#include "tools/Samples.h"
 #include <gtest/gtest.h>
 
 namespace {

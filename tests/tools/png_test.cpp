@@ -1,8 +1,6 @@
-#include "tools/Samples.h"
-
 #include "database/Png.h"
 #include "importer/InputError.h"
-
+#include "tools/Samples.h"
 #include <gtest/gtest.h>
 #include <QBuffer>
 #include <QImage>

@@ -2,7 +2,6 @@
 #include "importer/Files.h"
 #include "importer/VerseList.h"
 #include "text/Phrases.h"
-
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <map>

@@ -1,5 +1,4 @@
 #include "importer/Typography.h"
-
 #include <gtest/gtest.h>
 
 namespace {

@@ -1,8 +1,6 @@
-#include "tools/Samples.h"
-
 #include "importer/InputError.h"
 #include "importer/VerseList.h"
-
+#include "tools/Samples.h"
 #include <algorithm>
 #include <functional>
 #include <gmock/gmock.h>

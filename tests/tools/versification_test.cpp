@@ -1,6 +1,5 @@
 #include "importer/Versification.h"
 #include "store/BookCatalog.h"
-
 #include <gtest/gtest.h>
 #include <map>
 #include <set>

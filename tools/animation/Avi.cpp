@@ -83,7 +83,7 @@ std::string pictureFormat(const Clip& clip)
     constexpr std::size_t headerSize = 40;
     const std::string planes = number16(1);
     const std::string bitsPerPixel = number16(24);
-    const auto pixels = static_cast<std::size_t>(clip.width * clip.height);
+    const auto pixels = static_cast<std::size_t>(clip.width) * static_cast<std::size_t>(clip.height);
     const std::string resolutionAndPalette(16, '\0');
     return chunk("strf", number32(headerSize) + number32(static_cast<std::size_t>(clip.width)) +
                              number32(static_cast<std::size_t>(clip.height)) + planes + bitsPerPixel +

@@ -2,7 +2,6 @@
 
 #include "importer/InputError.h"
 #include "store/BookCatalog.h"
-
 #include <algorithm>
 #include <set>
 #include <sqlite3.h>

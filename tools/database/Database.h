@@ -3,7 +3,6 @@
 #include "database/Maps.h"
 #include "database/Topics.h"
 #include "importer/VerseList.h"
-
 #include <filesystem>
 #include <vector>
 

@@ -2,7 +2,6 @@
 
 #include "importer/InputError.h"
 #include "importer/Lines.h"
-
 #include <charconv>
 
 namespace {

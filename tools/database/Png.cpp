@@ -1,7 +1,6 @@
 #include "database/Png.h"
 
 #include "importer/InputError.h"
-
 #include <cmath>
 #include <cstdint>
 

@@ -3,7 +3,6 @@
 #include "importer/InputError.h"
 #include "importer/Lines.h"
 #include "importer/Versification.h"
-
 #include <algorithm>
 
 namespace {

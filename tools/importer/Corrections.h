@@ -1,7 +1,6 @@
 #pragma once
 
 #include "importer/VerseList.h"
-
 #include <string>
 #include <string_view>
 #include <vector>

@@ -1,7 +1,6 @@
 #include "importer/Files.h"
 
 #include "importer/InputError.h"
-
 #include <fstream>
 #include <iterator>
 

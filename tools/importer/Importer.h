@@ -1,7 +1,6 @@
 #pragma once
 
 #include "importer/VerseList.h"
-
 #include <filesystem>
 #include <vector>
 

@@ -1,7 +1,6 @@
 #include "importer/Typography.h"
 
 #include "importer/Unicode.h"
-
 #include <algorithm>
 
 namespace {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "importer/Versification.h"
-
 #include <string>
 #include <string_view>
 #include <vector>
