@@ -4,6 +4,7 @@
 #include "app/frmDN.h"
 #include "app/frmQORV.h"
 #include "app/LinkLabel.h"
+#include "desktop/MsgBox.h"
 #include "support/OnceModal.h"
 #include "support/Session.h"
 #include "widgets/Maker.h"
@@ -321,7 +322,7 @@ TEST_F(About, MoreInfoShowsTheInformationBox)
     EXPECT_EQ(boxes.shown[0].text, informationText());
     EXPECT_EQ(boxes.shown[0].icon, MsgIcon::Information);
     EXPECT_EQ(boxes.shown[0].buttons, MsgButtons::Ok);
-    EXPECT_EQ(boxes.shown[0].title, "Kestrel Reader: Portuguese Version");
+    EXPECT_EQ(boxes.shown[0].title, applicationTitle);
 }
 
 TEST_F(About, InformationHasVersionFirstAndEndsWithTheLastDownload)

@@ -1,5 +1,6 @@
 // Launching the text editor: the command's own rules, and real processes.
 #include "app/Notepad.h"
+#include "desktop/MsgBox.h"
 #include "support/Session.h"
 #include "widgets/ProgramFlags.h"
 #include "widgets/SoftBttn.h"
@@ -34,7 +35,7 @@ void expectQuestion(const MsgBox::Message& box)
     EXPECT_EQ(box.text, question);
     EXPECT_EQ(box.icon, MsgIcon::Question);
     EXPECT_EQ(box.buttons, MsgButtons::YesNo);
-    EXPECT_EQ(box.title, "Kestrel Reader: Portuguese Version");
+    EXPECT_EQ(box.title, applicationTitle);
 }
 
 void expectFailure(const MsgBox::Message& box)
@@ -42,7 +43,7 @@ void expectFailure(const MsgBox::Message& box)
     EXPECT_EQ(box.text, failure);
     EXPECT_EQ(box.icon, MsgIcon::Exclamation);
     EXPECT_EQ(box.buttons, MsgButtons::Ok);
-    EXPECT_EQ(box.title, "Kestrel Reader: Portuguese Version");
+    EXPECT_EQ(box.title, applicationTitle);
 }
 
 } // namespace

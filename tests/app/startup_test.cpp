@@ -2,6 +2,7 @@
 #include "app/Program.h"
 #include "app/StartupChecks.h"
 #include "desktop/BasePath.h"
+#include "desktop/MsgBox.h"
 #include "support/Recorders.h"
 #include <gtest/gtest.h>
 #include <QDir>
@@ -83,14 +84,14 @@ TEST_F(StartUp, RefusesWithoutTheClip)
 {
     QFile::remove(path("SEARCH.AVI"));
     EXPECT_EQ(refusal(), noClip);
-    EXPECT_EQ(boxes.shown[0].title, "Kestrel Reader: Portuguese Version");
+    EXPECT_EQ(boxes.shown[0].title, applicationTitle);
 }
 
 TEST_F(StartUp, RefusesWithoutTheDatabase)
 {
     QFile::remove(path("KESTRPT.DAT"));
     EXPECT_EQ(refusal(), noDatabase);
-    EXPECT_EQ(boxes.shown[0].title, "Kestrel Reader: Portuguese Version");
+    EXPECT_EQ(boxes.shown[0].title, applicationTitle);
 }
 
 TEST_F(StartUp, NamesOnlyTheClipWhenBothFilesAreMissing)
@@ -108,7 +109,7 @@ TEST_F(StartUp, RefusesADatabaseOneSecondOff)
     boxes.shown.clear();
     setTime(databaseTime.addSecs(-1));
     EXPECT_EQ(refusal(), modified);
-    EXPECT_EQ(boxes.shown[0].title, "Kestrel Reader: Portuguese Version");
+    EXPECT_EQ(boxes.shown[0].title, applicationTitle);
 }
 
 TEST_F(StartUp, ShowsNoFrameBehindAMessageThatStandsForLong)

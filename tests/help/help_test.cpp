@@ -1,4 +1,5 @@
 // The help: its text, the ways to it, and its window.
+#include "desktop/MsgBox.h"
 #include "help/Help.h"
 #include "help/HelpBrowser.h"
 #include "help/HelpFile.h"
@@ -393,7 +394,7 @@ TEST_F(HelpSession, MissingFileGivesAMessageAndNothingElse)
     EXPECT_EQ(boxes.shown[0].text, "Couldn't find file 'KESTREL.HLP'. Please run Setup.");
     EXPECT_EQ(boxes.shown[0].icon, MsgIcon::Exclamation);
     EXPECT_EQ(boxes.shown[0].buttons, MsgButtons::Ok);
-    EXPECT_EQ(boxes.shown[0].title, "Kestrel Reader: Portuguese Version");
+    EXPECT_EQ(boxes.shown[0].title, applicationTitle);
     EXPECT_EQ(helpWindow(), nullptr);
 }
 

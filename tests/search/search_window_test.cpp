@@ -11,6 +11,8 @@ using SearchWindow = SearchSession;
 namespace {
 
 const QString allVerses = "SELECT * FROM NewTestament";
+const int inputHeight = toPixels(2920);
+const int resultsHeight = toPixels(5325);
 
 /// Records when a widget comes and goes.
 class Appearances : public QObject
@@ -115,20 +117,20 @@ TEST_F(SearchWindow, OpensAtTheTopLeftInItsShortSize)
 {
     const int width = toTwips(cmdOK().geometry().right() + 1) + 160;
     EXPECT_EQ(outer(window()).pos(), QPoint(0, 0));
-    EXPECT_EQ(outer(window()).size(), QSize(toPixels(width), toPixels(2920)));
+    EXPECT_EQ(outer(window()).size(), QSize(toPixels(width), inputHeight));
 }
 
 TEST_F(SearchWindow, KeepsItsSizeInEachLayout)
 {
     const int width = outer(window()).width();
     outer(window()).resize(900, 500);
-    EXPECT_EQ(outer(window()).size(), QSize(width, toPixels(2920)));
+    EXPECT_EQ(outer(window()).size(), QSize(width, inputHeight));
     search("amor");
-    EXPECT_EQ(outer(window()).size(), QSize(width, toPixels(5325)));
+    EXPECT_EQ(outer(window()).size(), QSize(width, resultsHeight));
     outer(window()).resize(300, 200);
-    EXPECT_EQ(outer(window()).size(), QSize(width, toPixels(5325)));
+    EXPECT_EQ(outer(window()).size(), QSize(width, resultsHeight));
     newSearch();
-    EXPECT_EQ(outer(window()).size(), QSize(width, toPixels(2920)));
+    EXPECT_EQ(outer(window()).size(), QSize(width, inputHeight));
 }
 
 TEST_F(SearchWindow, ComesBackToItsSizeAfterBeingMaximised)
@@ -140,12 +142,12 @@ TEST_F(SearchWindow, ComesBackToItsSizeAfterBeingMaximised)
     EXPECT_TRUE(outer(window()).isMaximized());
     EXPECT_GT(list().width(), width) << "the list takes the room";
     outer(window()).showNormal();
-    EXPECT_EQ(outer(window()).size(), QSize(width, toPixels(5325)));
+    EXPECT_EQ(outer(window()).size(), QSize(width, resultsHeight));
     EXPECT_LT(list().width(), width);
     outer(window()).showMinimized();
     EXPECT_TRUE(outer(window()).isMinimized());
     outer(window()).showNormal();
-    EXPECT_EQ(outer(window()).size(), QSize(width, toPixels(5325)));
+    EXPECT_EQ(outer(window()).size(), QSize(width, resultsHeight));
 }
 
 TEST_F(SearchWindow, BeginsANewSearchAndRepeatsTheLastWhileItIsMaximised)
@@ -170,7 +172,7 @@ TEST_F(SearchWindow, BeginsANewSearchAndRepeatsTheLastWhileItIsMaximised)
     EXPECT_TRUE(list().hasFocus());
     newSearch();
     outer(window()).showNormal();
-    EXPECT_EQ(outer(window()).size(), QSize(width, toPixels(2920)));
+    EXPECT_EQ(outer(window()).size(), QSize(width, inputHeight));
 }
 
 TEST_F(SearchWindow, SearchesByEnterWhileItIsMinimised)
@@ -186,7 +188,7 @@ TEST_F(SearchWindow, SearchesByEnterWhileItIsMinimised)
     EXPECT_TRUE(outer(window()).isMinimized());
     frame().openSearch();
     EXPECT_TRUE(isInResultsMode());
-    EXPECT_EQ(outer(window()).size(), QSize(width, toPixels(5325)));
+    EXPECT_EQ(outer(window()).size(), QSize(width, resultsHeight));
     EXPECT_TRUE(list().hasFocus());
 }
 
@@ -201,7 +203,7 @@ TEST_F(SearchWindow, OpensMaximisedBesideAMaximisedWindowAndComesBackToItsSize)
     EXPECT_TRUE(Text1().hasFocus());
     outer(window()).showNormal();
     const int width = toTwips(cmdOK().geometry().right() + 1) + 160;
-    EXPECT_EQ(outer(window()).geometry(), QRect(0, 0, toPixels(width), toPixels(2920)));
+    EXPECT_EQ(outer(window()).geometry(), QRect(0, 0, toPixels(width), inputHeight));
 }
 
 TEST_F(SearchWindow, CutsAndOverlapsNothingInEitherLayout)

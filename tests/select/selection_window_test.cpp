@@ -1,4 +1,5 @@
 // The selection window and the lookup of typed references, through events.
+#include "desktop/MsgBox.h"
 #include "read/VerseLabel.h"
 #include "support/Session.h"
 #include "text/Phrases.h"
@@ -628,7 +629,7 @@ TEST_F(Selection, TheExamplesAreShown)
     ASSERT_EQ(boxes.shown.size(), 1);
     EXPECT_EQ(boxes.shown[0].icon, MsgIcon::Information);
     EXPECT_EQ(boxes.shown[0].buttons, MsgButtons::Ok);
-    EXPECT_EQ(boxes.shown[0].title, "Kestrel Reader: Portuguese Version");
+    EXPECT_EQ(boxes.shown[0].title, applicationTitle);
     EXPECT_EQ(
         boxes.shown[0].text,
         "EXAMPLES\r\n\r\n"
