@@ -14,12 +14,15 @@ endif()
 # The program as the tests meet it: assembled by this build, over a text of the tests' own.
 set(KESTREL_TEST_DIR ${CMAKE_BINARY_DIR}/test/kestrel)
 
-add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
-if(KESTREL_WERROR)
-    add_compile_options(-Werror)
-endif()
+# What every target is warned of, and what the program and its tools are besides: a test may compare an int with a size.
+add_library(warnings INTERFACE)
 # g++ 12 sees overlaps in joined strings where there are none.
-add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+target_compile_options(warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
+                       $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict> $<$<BOOL:${KESTREL_WERROR}>:-Werror>)
+link_libraries(warnings)
+add_library(strict_warnings INTERFACE)
+target_compile_options(strict_warnings INTERFACE -Wconversion -Wsign-conversion -Wold-style-cast -Woverloaded-virtual
+                       -Wsuggest-override $<$<CXX_COMPILER_ID:GNU>:-Wuseless-cast>)
 add_compile_definitions(QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
                         QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
 if(KESTREL_SANITIZE)
@@ -69,7 +72,7 @@ function(kestrel_library name)
     endif()
     add_library(${name} STATIC ${sources})
     target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
-    target_link_libraries(${name} PUBLIC ${ARG_LINK})
+    target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE strict_warnings)
     set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_QT})
     if(ARG_QT)
         use_precompiled_headers(${name})

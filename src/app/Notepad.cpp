@@ -56,7 +56,7 @@ const QStringList& standInEditors()
 QString textEditor()
 {
     for (const QString& name : QStringList("notepad.exe") + standInEditors())
-        if (const QString path = QStandardPaths::findExecutable(name); !path.isEmpty())
+        if (QString path = QStandardPaths::findExecutable(name); !path.isEmpty())
             return path;
     return {};
 }

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr qint64 maxClipBytes = 32 * 1024 * 1024;
+constexpr qint64 maxClipBytes = qint64(32) * 1024 * 1024;
 
 QByteArray readClip(const QString& path)
 {

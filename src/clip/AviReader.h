@@ -12,9 +12,9 @@ struct AviClip
 };
 
 namespace AviLimits {
-constexpr int frames = 1'000;                     ///< sound or damaged
-constexpr int side = 4'096;                       ///< pixels
-constexpr qint64 decodedBytes = 64 * 1024 * 1024; ///< all frames together
+constexpr int frames = 1'000;                             ///< sound or damaged
+constexpr int side = 4'096;                               ///< pixels
+constexpr qint64 decodedBytes = qint64(64) * 1024 * 1024; ///< all frames together
 } // namespace AviLimits
 
 /// Reads the frames of an AVI clip: motion JPEG, or uncompressed pictures of 24 or 32 bits.

@@ -7,7 +7,7 @@
 /// table, and a thousand times the time for a word thirty times as long; within these limits any page shows
 /// in a moment.
 namespace HelpLimits {
-constexpr qint64 bytes = 4 * 1024 * 1024;
+constexpr qint64 bytes = qint64(4) * 1024 * 1024;
 constexpr int pages = 200;
 constexpr int tags = 20'000;
 constexpr int cells = 5'000;

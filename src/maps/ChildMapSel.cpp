@@ -167,7 +167,7 @@ void ChildMapSel::TabStrip1_Click()
 
 void ChildMapSel::optEvents_Click(int index)
 {
-    fillTopics(groups[index].type);
+    fillTopics(groups[static_cast<std::size_t>(index)].type);
 }
 
 void ChildMapSel::Combo2_Click()

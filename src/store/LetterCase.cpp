@@ -64,6 +64,11 @@ constexpr Capitals capitals[] = {
     {0xA7F5, 0xA7F5, 1, 1},
 };
 
+constexpr char32_t moved(char32_t c, int distance)
+{
+    return static_cast<char32_t>(static_cast<int>(c) + distance);
+}
+
 constexpr bool isLatin1Pair(char32_t capital)
 {
     return capital >= 0xC0 && capital <= 0xDE && capital != 0xD7;
@@ -79,7 +84,7 @@ char32_t toSmallLetterBeyondAscii(char32_t c)
         std::upper_bound(std::begin(capitals), std::end(capitals), c,
                          [](char32_t value, const Capitals& range) { return value < range.first; });
     const Capitals& range = *std::prev(after);
-    return range.contain(c) ? c + range.distance : c;
+    return range.contain(c) ? moved(c, range.distance) : c;
 }
 
 char32_t toOtherCase(char32_t c)
@@ -91,8 +96,8 @@ char32_t toOtherCase(char32_t c)
     if (c < 0xFF)
         return isLatin1Pair(c - 0x20) ? c - 0x20 : c;
     for (const Capitals& range : capitals) {
-        if (range.contain(c - range.distance))
-            return c - range.distance;
+        if (const char32_t capital = moved(c, -range.distance); range.contain(capital))
+            return capital;
     }
     return c;
 }

@@ -51,7 +51,7 @@ void TextSearch::chooseBits()
     const std::string& piece = m_pattern.piece();
     for (const char *at = piece.data(), *end = at + piece.size(); at != end;) {
         const char32_t letter = nextCharacter(at, end);
-        m_bits.resize(at - piece.data(), '\xFF');
+        m_bits.resize(static_cast<std::size_t>(at - piece.data()), '\xFF');
         if (toOtherCase(letter) != letter)
             m_bits.back() = '\xDF';
     }
@@ -109,7 +109,8 @@ double TextSearch::share() const
             hits[i] = difference == 0;
         }
         const unsigned char* hit = hits;
-        while ((hit = static_cast<const unsigned char*>(std::memchr(hit, 1, hits + stride - hit)))) {
+        const auto rest = [&] { return static_cast<std::size_t>(hits + stride - hit); };
+        while ((hit = static_cast<const unsigned char*>(std::memchr(hit, 1, rest())))) {
             if (pieceStandsAt(at + (hit - hits)))
                 return at + (hit - hits);
             ++hit;

@@ -91,12 +91,14 @@ void VerseBlock::countBytes()
 
 std::size_t VerseBlock::rowNotBelow(std::int64_t number) const
 {
-    return std::lower_bound(m_numbers.begin(), m_numbers.end(), number) - m_numbers.begin();
+    const auto found = std::lower_bound(m_numbers.begin(), m_numbers.end(), number);
+    return static_cast<std::size_t>(found - m_numbers.begin());
 }
 
 std::size_t VerseBlock::rowAbove(std::int64_t number) const
 {
-    return std::upper_bound(m_numbers.begin(), m_numbers.end(), number) - m_numbers.begin();
+    const auto found = std::upper_bound(m_numbers.begin(), m_numbers.end(), number);
+    return static_cast<std::size_t>(found - m_numbers.begin());
 }
 
 std::size_t VerseBlock::rowAt(const char* address, std::size_t from) const

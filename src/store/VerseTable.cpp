@@ -163,7 +163,7 @@ try {
         const Use use = constraint.usable ? useOf(constraint.iColumn, constraint.op) : None;
         if (use == None)
             continue;
-        plan += use;
+        plan += static_cast<char>(use);
         info->aConstraintUsage[i].argvIndex = static_cast<int>(plan.size());
         // Comparisons only narrow the rows, and SQLite tests them again, by its own rules for values of
         // different types. LIKE is decided here for good.
