@@ -1,4 +1,5 @@
 #include "desktop/InstanceName.h"
+
 #include <cerrno>
 #include <cstddef>
 #include <cstring>

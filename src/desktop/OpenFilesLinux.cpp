@@ -1,4 +1,5 @@
 #include "desktop/OpenFiles.h"
+
 #include <unistd.h>
 #include <vector>
 

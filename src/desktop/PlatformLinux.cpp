@@ -1,7 +1,8 @@
 // What Platform asks of Linux and its desktops.
+#include "desktop/Platform.h"
+
 #include "desktop/BasePath.h"
 #include "desktop/InstanceName.h"
-#include "desktop/Platform.h"
 #include <memory>
 #include <QCoreApplication>
 #include <QCryptographicHash>
