@@ -9,6 +9,7 @@
 #include "help/Help.h"
 #include "widgets/Hourglass.h"
 #include "widgets/Menus.h"
+#include "widgets/Modality.h"
 #include "widgets/SoftBttn.h"
 #include "widgets/Twips.h"
 #include <QApplication>
@@ -198,6 +199,9 @@ void MDIParent::MDIForm_Unload()
 
 bool MDIParent::event(QEvent* event)
 {
+    // The area would make that window active which was loaded last, though it was only shown behind.
+    if (event->type() == QEvent::WindowActivate && m_activeForm)
+        m_activeForm->becomeCurrent();
     const bool handled = QMainWindow::event(event);
     // A click on the frame beside a modal window is no activation; it must not close the About window.
     if (event->type() == QEvent::WindowActivate && !QApplication::activeModalWidget())
@@ -211,9 +215,15 @@ void MDIParent::closeEvent(QCloseEvent* event)
     MDIForm_Unload();
 }
 
-void MDIParent::childActivated()
+void MDIParent::childActivated(QMdiSubWindow* window)
 {
-    // Asks the area, because subWindowActivated() carries nullptr while another application is active.
+    // Behind a modal window the area takes the window that was loaded last for the active one, when another
+    // application was in front; meanwhile it has none. The frame keeps its own.
+    if (m_activeForm && (isBehindModalWindow(*this) || (!window && !isActiveWindow()))) {
+        if (window)
+            m_activeForm->becomeCurrent();
+        return;
+    }
     Form* form = Form::activeIn(*m_area);
     if (form == m_activeForm && form)
         return;

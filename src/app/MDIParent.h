@@ -16,6 +16,7 @@ class Help;
 class KeyPreview;
 class Program;
 class QMdiArea;
+class QMdiSubWindow;
 class QMenu;
 class SoftBttn;
 
@@ -69,7 +70,7 @@ private:
     void giveFocusBack(QWidget* focused);
     template <class Window, class... Arguments>
     Window& single(QPointer<Window>& window, Arguments&... arguments);
-    void childActivated();
+    void childActivated(QMdiSubWindow* window);
     void showMenus(const QList<QMenu*>& menus);
 
     Program& m_program;

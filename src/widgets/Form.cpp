@@ -146,6 +146,12 @@ void Form::activate()
     takeFocus();
 }
 
+void Form::becomeCurrent()
+{
+    if (subWindow())
+        subWindow()->mdiArea()->setActiveSubWindow(subWindow());
+}
+
 void Form::takeFocus()
 {
     if (isAncestorOf(QApplication::focusWidget()))

@@ -44,6 +44,9 @@ public:
     void setState(WindowState state);
     /// Shows the window, brings it to the front and gives it the keyboard focus.
     void activate();
+    /// Makes the window the area's active one again, when the frame comes back to the front; its focus is the
+    /// area's business.
+    void becomeCurrent();
     /// What every window does that hands something to this one: restore it if it is minimised, then activate
     /// it. If it lies outside what the frame shows, the frame is scrolled to it.
     void restoreAndActivate();

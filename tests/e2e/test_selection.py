@@ -1,4 +1,6 @@
 """The selection window: where the focus goes, what a failed lookup shows, and keys that belong to the frame's area."""
+import time
+
 import pytest
 
 
@@ -10,6 +12,22 @@ def test_the_reading_window_stands_behind_the_message(reader, desktop):
     desktop.key("Return")
     reader.find("frame", "Reading Window -- Mt:1:1")
     reader.find("menu item", "Edit")
+
+
+def test_another_program_in_front_of_the_message_makes_no_window_active(reader, desktop, drop_target):
+    desktop.run("xdotool", "search", "--onlyvisible", "--name", "Freeware$", "windowactivate", "--sync")
+    reader.type_reference("Xy:1:1")
+    box = reader.find("alert", "Try Again!")
+    reading = reader.find("frame", starts="Reading Window -- ")
+    menu_bar = reader.find("menu bar")
+    for _ in range(2):
+        for in_front in ("^Drop target$", "^Try Again!$"):
+            desktop.run("xdotool", "search", "--onlyvisible", "--name", in_front, "windowactivate", "--sync")
+            time.sleep(0.5)  # the program is told of it
+            assert [menu.name for menu in menu_bar] == ["File", "Search", "Tools", "Window", "Help"]
+            assert reading.name == "Reading Window -- "
+    reader.click(reader.find("push button", "OK", box))
+    reader.wait_for_focus_in(reader.find("frame", "Reading Window -- Mt:1:1"))
 
 
 def test_f2_brings_the_focus_back_to_the_box(reader, desktop):
