@@ -13,6 +13,7 @@
 #include "widgets/EnterKey.h"
 #include "widgets/Fonts.h"
 #include "widgets/Hourglass.h"
+#include "widgets/KeptSelection.h"
 #include "widgets/Layout.h"
 #include "widgets/ListBox.h"
 #include "widgets/ListLines.h"
@@ -95,6 +96,8 @@ frmAdvSearch::frmAdvSearch(Shell& shell, SearchMemory& memory)
 void frmAdvSearch::placeControls()
 {
     Line1->setFrameStyle(QFrame::HLine | QFrame::Sunken);
+    for (QLineEdit* text : {Text1, Text2})
+        new KeptSelection(*text, *text);
     for (QWidget* input : std::initializer_list<QWidget*>{Text1, Text2, Combo1, Combo2})
         setBackgrounds(*input);
     Label3->setBuddy(Combo2);

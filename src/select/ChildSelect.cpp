@@ -6,6 +6,7 @@
 #include "select/Lookup.h"
 #include "store/BookCatalog.h"
 #include "widgets/EnterKey.h"
+#include "widgets/KeptSelection.h"
 #include "widgets/Layout.h"
 #include "widgets/Shell.h"
 #include "widgets/SoftBttn.h"
@@ -29,6 +30,7 @@ ChildSelect::ChildSelect(Shell& shell)
     Combo1->setInsertPolicy(QComboBox::NoInsert);
     Combo1->setCompleter(nullptr); // the text is the reader's own, to the letter
     Combo1->lineEdit()->setAccessibleName("Reference");
+    new KeptSelection(*Combo1, *Combo1->lineEdit());
     layOut({
         {Combo1, "Combo1", "Reference", {60, 100, 2000, 315}},
         {cmdGo, "cmdGo", "", {2200, 60, 400, 400}},

@@ -270,6 +270,19 @@ TEST_F(Selection, TheReferenceWithAColonAfterItCountsAsShownToo)
     EXPECT_EQ(activeForm(), &reading);
 }
 
+TEST_F(Selection, AMoveByKeyboardOrAMenuLeavesTheTextSelected)
+{
+    moveByKeyboard(*window);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Return})
+        press(key);
+    QTest::keyClicks(QApplication::focusWidget(), "Lk");
+    EXPECT_EQ(combo().currentText(), "Lk");
+    box->setSelection(1, 1);
+    frame().menuBar()->setFocus(Qt::MenuBarFocusReason);
+    combo().setFocus(Qt::MenuBarFocusReason);
+    EXPECT_EQ(box->selectedText(), "k");
+}
+
 TEST_F(Selection, LowerCaseFindsTheVerse)
 {
     EXPECT_EQ(lookUp("mt:24:43"), "Mt:24:43");
