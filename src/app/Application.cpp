@@ -2,6 +2,7 @@
 
 #include "app/ButtonAccess.h"
 #include "app/FrameStyle.h"
+#include "app/LineEditAccess.h"
 #include "desktop/MsgBox.h"
 #include "widgets/Fonts.h"
 #include "widgets/Hourglass.h"
@@ -25,6 +26,7 @@ Application::Application(char* programName[])
     // or shown as far as it goes, and a message box tells when another program took the clipboard.
     QLoggingCategory::setFilterRules("qt.gui.imageio*=false\nqt.qpa.clipboard=false");
     QAccessible::installFactory(buttonAccess);
+    QAccessible::installFactory(lineEditAccess);
     setStyle(new FrameStyle);
     // Fusion caches a pixmap of each message box's buttons. Qt's own limit of 10 MB lets the memory grow
     // without making anything faster.

@@ -5,6 +5,7 @@
 #include "widgets/SoftBttn.h"
 #include <QAccessibleWidget>
 #include <QCheckBox>
+#include <QPushButton>
 #include <QRadioButton>
 
 namespace {
@@ -48,6 +49,8 @@ public:
         state.checkable = m_button.isCheckable();
         state.checked = m_button.isChecked();
         state.pressed = m_button.isDown();
+        const auto* push = qobject_cast<const QPushButton*>(&m_button);
+        state.defaultButton = push && push->isDefault();
         return state;
     }
 
@@ -55,6 +58,13 @@ public:
     {
         const QStringList own = {m_button.isCheckable() ? toggleAction() : pressAction()};
         return m_button.isEnabled() ? own + QAccessibleWidget::actionNames() : QStringList();
+    }
+
+    QStringList keyBindingsForAction(const QString& name) const override
+    {
+        const bool presses = name == pressAction() || name == toggleAction();
+        return presses && !m_button.shortcut().isEmpty() ? QStringList{m_button.shortcut().toString()}
+                                                         : QAccessibleWidget::keyBindingsForAction(name);
     }
 
     // In a moment, because the assistive program waits for the answer to its call, and what a button does may
@@ -79,7 +89,8 @@ private:
 
 QAccessibleInterface* buttonAccess(const QString& className, QObject* object)
 {
-    static const QStringList classes = {"SoftBttn", "LinkLabel", "QCheckBox", "QRadioButton"};
+    static const QStringList classes = {"SoftBttn",     "LinkLabel",   "QCheckBox",
+                                        "QRadioButton", "QPushButton", "QToolButton"};
     auto* button = qobject_cast<QAbstractButton*>(object);
     return button && classes.contains(className) ? new ButtonAccess(*button) : nullptr;
 }

@@ -15,7 +15,7 @@ QAccessibleInterface* readerOf(const QString&, QObject* object)
 } // namespace
 
 TextBoxReader::TextBoxReader(TextBox& box)
-    : QAccessibleWidget(&box, QAccessible::EditableText)
+    : GuardedAccess(&box, QAccessible::EditableText)
 {
 }
 
@@ -29,12 +29,12 @@ void* TextBoxReader::interface_cast(QAccessible::InterfaceType type)
 {
     if (type == QAccessible::TextInterface)
         return static_cast<QAccessibleTextInterface*>(this);
-    return QAccessibleWidget::interface_cast(type);
+    return GuardedAccess::interface_cast(type);
 }
 
 QAccessible::State TextBoxReader::state() const
 {
-    QAccessible::State state = QAccessibleWidget::state();
+    QAccessible::State state = GuardedAccess::state();
     state.readOnly = true;
     state.multiLine = true;
     state.selectableText = true;
@@ -43,7 +43,7 @@ QAccessible::State TextBoxReader::state() const
 
 QString TextBoxReader::text(QAccessible::Text which) const
 {
-    return which == QAccessible::Value ? box().toPlainText() : QAccessibleWidget::text(which);
+    return which == QAccessible::Value ? box().toPlainText() : GuardedAccess::text(which);
 }
 
 void TextBoxReader::selection(int index, int* start, int* end) const
@@ -72,7 +72,7 @@ void TextBoxReader::removeSelection(int index)
 
 void TextBoxReader::setSelection(int index, int start, int end)
 {
-    if (index != 0)
+    if (index != 0 || isBehind())
         return;
     QTextCursor cursor = cursorAt(start);
     cursor.setPosition(cursorAt(end).position(), QTextCursor::KeepAnchor);
@@ -86,7 +86,8 @@ int TextBoxReader::cursorPosition() const
 
 void TextBoxReader::setCursorPosition(int position)
 {
-    box().setTextCursor(cursorAt(position));
+    if (!isBehind())
+        box().setTextCursor(cursorAt(position));
 }
 
 QString TextBoxReader::text(int start, int end) const
@@ -152,6 +153,8 @@ int TextBoxReader::offsetAtPoint(const QPoint& point) const
 
 void TextBoxReader::scrollToSubstring(int start, int end)
 {
+    if (isBehind())
+        return;
     const QTextCursor before = box().textCursor();
     for (const int offset : {end, start}) { // the start comes last, and wins where both have no room
         box().setTextCursor(cursorAt(offset));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QAccessibleWidget>
+#include "widgets/GuardedAccess.h"
 
 class QTextCursor;
 class TextBox;
@@ -10,7 +10,7 @@ class TextBox;
 /// begin where the first one does.
 ///
 /// Offsets are positions in the document, where a line ends with one character.
-class TextBoxReader : public QAccessibleWidget, public QAccessibleTextInterface
+class TextBoxReader : public GuardedAccess, public QAccessibleTextInterface
 {
 public:
     explicit TextBoxReader(TextBox& box);

@@ -1,6 +1,7 @@
 #include "widgets/ListBox.h"
 
 #include "widgets/EnterKey.h"
+#include "widgets/GuardedSelection.h"
 #include "widgets/ListModel.h"
 #include "widgets/Text.h"
 #include <QAccessible>
@@ -35,6 +36,7 @@ ListBox::ListBox(QWidget* parent)
     , m_model(new ListModel(this))
 {
     setModel(m_model);
+    GuardedSelection::install(*this);
     setItemDelegate(new LineDelegate(this));
     setUniformItemSizes(true); // or every line would be measured
     setEditTriggers(NoEditTriggers);

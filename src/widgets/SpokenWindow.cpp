@@ -1,22 +1,22 @@
 #include "widgets/SpokenWindow.h"
 
-#include <QAccessibleWidget>
+#include "widgets/GuardedAccess.h"
 #include <QApplication>
 #include <QMdiSubWindow>
 
 namespace {
 
-class SpokenWindow : public QAccessibleWidget
+class SpokenWindow : public GuardedAccess
 {
 public:
     explicit SpokenWindow(QMdiSubWindow* window)
-        : QAccessibleWidget(window, QAccessible::Window)
+        : GuardedAccess(window, QAccessible::Window)
     {
     }
 
     QString text(QAccessible::Text which) const override
     {
-        return which == QAccessible::Name ? subWindow().windowTitle() : QAccessibleWidget::text(which);
+        return which == QAccessible::Name ? subWindow().windowTitle() : GuardedAccess::text(which);
     }
 
     QAccessible::State state() const override

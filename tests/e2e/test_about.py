@@ -73,6 +73,68 @@ def test_behind_a_message_nothing_reacts_either(reader):
     reader.absent("alert", "Try Again!")
 
 
+def selected(view):
+    import pyatspi
+    return [line.name for line in view if line.getState().contains(pyatspi.STATE_SELECTED)]
+
+
+def disturb(field):
+    """Everything that an assistive program can do with a text field."""
+    text, editable = field.queryText(), field.queryEditableText()
+    editable.setTextContents("Jn")
+    editable.insertText(0, "Jn", 2)
+    editable.deleteText(0, 1)
+    text.setCaretOffset(1)
+    text.addSelection(0, 1)
+    text.setSelection(0, 0, 1)
+    text.removeSelection(0)
+    field.queryComponent().grabFocus()
+
+
+def stand(field):
+    """What a text field holds, its caret, and what of it is selected."""
+    text = field.queryText()
+    return text.getText(0, -1), text.caretOffset, [text.getSelection(n) for n in range(text.getNSelections())]
+
+
+def open_examples(reader):
+    reader.act("Examples", reader.find("frame", "Select Verse for Reading"))
+    reader.find("alert", "Kestrel Reader: Portuguese Version")
+    reader.desktop.wait_for_focus("Portuguese Version")
+
+
+@pytest.mark.parametrize("modal", ["the About window", "a message"])
+def test_behind_it_no_text_and_no_line_can_be_changed_and_no_focus_moved(reader, modal):
+    search = reader.open_search()
+    reader.desktop.type("abc")
+    fields = [reader.find("text", name, search)
+              for name in ("Search for verses containing the following text:", "Second word or phrase")]
+    aids = reader.open_aids()
+    views = [reader.find("list", "Verse references", aids)]
+    window = reader.open_selection()
+    fields.append(reader.find("text", "Reference", window))
+    before = [[*map(stand, fields)], [*map(selected, views)], windows_of(reader)]
+    open_examples(reader) if modal == "a message" else reader.open_about()
+    for field in fields:
+        disturb(field)
+    for view in views:
+        view[view.childCount - 1].queryAction().doAction(0)
+        view.queryTable().addRowSelection(0)
+    for node in (aids, search):
+        node.queryComponent().grabFocus()
+    time.sleep(0.5)
+    assert [*map(stand, fields)] == before[0]
+    assert [*map(selected, views)] == before[1]
+    reader.key("Escape")
+    reader.wait_for(lambda: windows_of(reader) == before[2], "the modal window to close")
+    reader.desktop.wait_for_focus("Kestrel Reader: Portuguese Version")
+    reader.wait_for_focus_in(window)
+    assert [*map(stand, fields)] == before[0]
+    fields[-1].queryEditableText().setTextContents("Mk:3:5")  # and now it is changed
+    reader.key("Return")
+    reader.find("frame", "Reading Window -- Mk:3:5")
+
+
 def test_two_presses_at_once_open_one_window(reader):
     frame = reader.find("frame", starts="Kestrel Reader: Portuguese Version")
     for name in ("About/QORV CD-ROM Offer", "Search", "About/QORV CD-ROM Offer"):
