@@ -218,8 +218,9 @@ void MDIParent::closeEvent(QCloseEvent* event)
 void MDIParent::childActivated(QMdiSubWindow* window)
 {
     // Behind a modal window the area takes the window that was loaded last for the active one, when another
-    // application was in front; meanwhile it has none. The frame keeps its own.
-    if (m_activeForm && (isBehindModalWindow(*this) || (!window && !isActiveWindow()))) {
+    // application was in front; meanwhile it has none. The frame keeps its own, unless that is closed.
+    const bool stands = m_activeForm && m_activeForm->isVisible();
+    if (stands && (isBehindModalWindow(*this) || (!window && !isActiveWindow()))) {
         if (window)
             m_activeForm->becomeCurrent();
         return;
