@@ -1,8 +1,8 @@
-"""Documents name files and tests that are there."""
+"""Documents name files, tests and commits that are there."""
 import re
 
 from names import names_of_tests
-from tree import lines
+from tree import git, lines
 
 PATH = (r"(src|tests|tools|docs|data|bench|cmake|packaging|man|packages|\.github)/|[A-Z]+\.md$|"
         r"(run|test|setup|package|dev|CMakeLists\.txt|CMakePresets\.json)$")
@@ -29,8 +29,30 @@ def dead_test(suites, name):
     return suite not in suites or (test != "*" and test not in suites[suite])
 
 
+def rows_without_test(top):
+    """Rows of docs/behaviour.md whose last column names nothing that holds them."""
+    path, found = top / "docs/behaviour.md", []
+    for number, line in lines(path) if path.exists() else ():
+        cells = line.strip().strip("|").split(" | ")
+        is_row = line.startswith("| ") and not line.startswith("| What binds")
+        if is_row and (len(cells) < 2 or not re.search(r"`[^`]+`", cells[-1])):
+            found.append(f"{path}:{number}: names no test that holds this; write one, and its name here")
+    return found
+
+
+def unknown_commits(top):
+    """Commits to imitate that are not in the history, where that is here whole."""
+    path = top / "CONTRIBUTING.md"
+    if not path.exists() or git(top, "rev-parse", "--is-shallow-repository").strip() != "false":
+        return []
+    subjects = git(top, "log", "--format=%s")
+    named = re.findall(r'\*Imitate:\*\s+"([^"]+)"', path.read_text(encoding="utf-8"))
+    return [f'{path}: no commit\'s subject holds "{subject}"' for subject in (" ".join(name.split()) for name in named)
+            if subject not in subjects]
+
+
 def breaches(top):
-    found, suites = [], names_of_tests(top)
+    found, suites = rows_without_test(top) + unknown_commits(top), names_of_tests(top)
     for document in documents(top):
         for number, line in lines(document):
             for name in re.findall(r"`([^`\s]+)`", line) + re.findall(r"\]\(([^):]+)\)", line):

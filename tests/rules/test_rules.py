@@ -79,6 +79,8 @@ def test_a_sound_house_keeps_them(house, rule):
     (documents, "docs/new.md", "see [it](0001-gone.md)\n", "docs/new.md:1: there is no 0001-gone.md"),
     (documents, "docs/new.md", "`Chapter.IsLost`\n", "docs/new.md:1: there is no test Chapter.IsLost"),
     (documents, "docs/new.md", "`Verses.*`\n", "docs/new.md:1: there is no test Verses.*"),
+    (documents, "docs/behaviour.md", "| It is odd | see below |\n", "docs/behaviour.md:1: names no test that holds this"),
+    (documents, "docs/behaviour.md", "| `It` is odd | |\n", "docs/behaviour.md:1: names no test that holds this"),
 ])
 def test_a_breach_is_named_with_what_to_do(house, rule, name, text, says):
     write(house, name, text)
@@ -102,16 +104,44 @@ def test_subjects_of_commits(subject, sound):
     assert (subjects.breach(subject) is None) == sound
 
 
-def test_a_subject_in_the_history_is_judged_by_when_it_was_written(house):
-    def commit(subject, date):
+@pytest.fixture
+def commit(house):
+    def make(subject, date="2027-01-01T00:00:00Z"):
         identity = ["-c", "user.name=a", "-c", "user.email=a@example.org"]
         subprocess.run(["git", "-C", house, *identity, "commit", "-q", "--allow-empty", "-m", subject, "--date", date], check=True)
 
     subprocess.run(["git", "-C", house, "init", "-q"], check=True)
+    return make
+
+
+def test_a_behaviour_may_be_held_by_a_test_or_a_file_of_them(house):
+    rows = "| What binds | Held by |\n|---|---|\n| Odd | `Chapter.IsGathered` |\n| So | `tests/read/chapter_test.cpp` |\n"
+    write(house, "docs/behaviour.md", rows)
+    assert told(documents, house) == ""
+
+
+def test_a_commit_to_imitate_is_in_the_history(house, commit):
+    commit("read: Step over the seam; tests: Say so")
+    write(house, "CONTRIBUTING.md", '**A step.** *Imitate:* "read: Step over\nthe seam".\n')
+    assert told(documents, house) == ""
+    write(house, "CONTRIBUTING.md", '**A step.** *Imitate:* "read: Leap over the seam".\n')
+    assert told(documents, house) == 'CONTRIBUTING.md: no commit\'s subject holds "read: Leap over the seam"'
+
+
+def test_without_the_whole_history_no_commit_is_missed(house, commit, tmp_path_factory):
+    commit("read: Step over the seam")
+    commit("read: Stop")
+    shallow = tmp_path_factory.mktemp("clone") / "shallow"
+    subprocess.run(["git", "clone", "-q", "--depth", "1", f"file://{house}", shallow], check=True)
+    write(shallow, "CONTRIBUTING.md", '*Imitate:* "read: Step over the seam".\n')
+    assert documents.unknown_commits(shallow) == []
+
+
+def test_a_subject_in_the_history_is_judged_by_when_it_was_written(house, commit):
     commit("No folder, but of old", "2026-11-01T00:00:00Z")
-    commit("read: Step", "2027-01-01T00:00:00Z")
+    commit("read: Step")
     assert subjects.breaches(house) == []
-    commit("No folder", "2027-01-01T00:00:00Z")
+    commit("No folder")
     assert '"No folder": it does not read "folder: Do this"' in told(subjects, house)
 
 
