@@ -78,7 +78,7 @@ def test_a_bad_reference_is_refused_and_the_verse_before_stays(reader, desktop):
     shown(reader, "Lk:2:7")
 
 
-def test_an_apostrophe_ends_the_program_with_the_engines_text(reader, desktop):
+def test_an_apostrophe_ends_the_program_with_sqlites_text(reader, desktop):
     reader.type_reference("Mt'")
     text = reader.text_of_box("Kestrel Reader: Portuguese Version")
     assert "error" in text or "token" in text

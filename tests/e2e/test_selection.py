@@ -76,7 +76,7 @@ def test_the_wheel_over_the_box_chooses_nothing(reader, desktop):
 @pytest.mark.parametrize("reference, error", [("Mt'", "unrecognized token"), ("Mt:[", "Invalid pattern string"),
                                               ("Mt:24:43';", "SQL logic error")])
 @pytest.mark.parametrize("by_button", [True, False])
-def test_a_text_that_breaks_the_query_ends_the_program_with_the_engines_text(reader, desktop, reference, error, by_button):
+def test_a_text_that_breaks_the_query_ends_the_program_with_sqlites_text(reader, desktop, reference, error, by_button):
     reader.open_selection()
     desktop.type(reference)
     if by_button:

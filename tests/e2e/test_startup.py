@@ -93,7 +93,7 @@ def test_odd_folders(start, installed, tmp_path, name):
 
 
 @pytest.mark.parametrize("damage", ["noise", "cut", "empty"])
-def test_a_damaged_database_of_the_right_length_and_time_gives_the_engines_message(start, copy, desktop, damage):
+def test_a_damaged_database_of_the_right_length_and_time_gives_sqlites_message(start, copy, desktop, damage):
     database = copy / "KESTRPT.DAT"
     sound = database.read_bytes()
     bytes_ = {"noise": bytes((i * 7919 >> 3) & 255 for i in range(len(sound))),

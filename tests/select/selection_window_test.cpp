@@ -431,7 +431,7 @@ TEST_F(Selection, NoTypedReferenceJoinsTheList)
     EXPECT_EQ(combo().count(), 66);
 }
 
-TEST_F(Selection, AnApostropheEndsTheProgramWithTheEnginesOwnText)
+TEST_F(Selection, AnApostropheEndsTheProgramWithSqlitesOwnText)
 {
     boxes.whileShown = [this] { expectReadingWindowBehindTheBox("Reading Window -- Mt:1:1"); };
     QTimer::singleShot(0, [this] {

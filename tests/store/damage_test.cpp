@@ -146,7 +146,7 @@ TEST_F(DamagedCopies, ThatAreShorterThanTheyShouldBe)
     EXPECT_EQ(errorOf(m_folder.file("damaged"), "SELECT * FROM NewTestament").number(), SQLITE_CORRUPT);
 }
 
-TEST(NoDatabase, IsRefusedInTheEnginesWords)
+TEST(NoDatabase, IsRefusedInSqlitesWords)
 {
     const TestFolder folder;
     std::ofstream(folder.file()) << std::string(10'000, 'x');

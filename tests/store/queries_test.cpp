@@ -238,7 +238,7 @@ TEST_F(WholeBible, ReportsInvalidPatternsAsError93WhereverTheyStand)
     }
 }
 
-TEST_F(WholeBible, AnApostropheBreaksTheQueryWithTheEnginesOwnText)
+TEST_F(WholeBible, AnApostropheBreaksTheQueryWithSqlitesOwnText)
 {
     const DataError error = errorOf(bible, "SELECT * FROM NewTestament WHERE VerseId LIKE 'd'água*'");
     EXPECT_EQ(error.number(), SQLITE_ERROR);
