@@ -29,7 +29,7 @@ def checkout(tool, monkeypatch, tmp_path):
 
     monkeypatch.setattr(tool, "TOP", tmp_path)
     git("init")
-    for name in ("src/read/Chapter.cpp", "src/main.cpp", "data/topics/events.txt", "README.md"):
+    for name in ("src/read/Chapter.cpp", "src/main.cpp", "data/topics/events.txt", "README.md", "tests/windows.tsv"):
         write(name, "1\n")
     git("add", ".")
     git("commit", "-m", "first")
@@ -55,6 +55,12 @@ def test_what_is_committed_edited_or_new_counts_as_changed(tool, checkout):
     write("tests/maps/new_test.cpp", "new\n")
     write("src/main.cpp", "2\n")
     assert tool.changed_folders() == {"read", "topics", "maps"}
+
+
+def test_the_table_of_windows_means_the_tests_that_go_through_them(tool, checkout):
+    _, write = checkout
+    write("tests/windows.tsv", "2\n")
+    assert tool.changed_folders() == {"app", "fonts", "help"}
 
 
 def test_a_name_that_matches_nothing_lists_the_folders(tool, monkeypatch, capsys):

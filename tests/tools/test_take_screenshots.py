@@ -19,9 +19,11 @@ def tool(monkeypatch):
 def test_a_light_picture_is_refused_with_what_to_install(tool, tmp_path):
     light = tmp_path / "light.png"
     subprocess.run(["convert", "-size", "20x20", "xc:#efefef", light], check=True)
+    (tmp_path / "another.png").write_bytes(light.read_bytes())
     with pytest.raises(SystemExit) as ended:
         tool.refuse_light(light)
     assert "nothing was saved: install Debian's packages qt6-gtk-platformtheme" in ended.value.code
+    assert list(tmp_path.iterdir()) == []
 
 
 def test_a_dark_one_with_a_pale_page_is_taken(tool, tmp_path):
