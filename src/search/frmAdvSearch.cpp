@@ -31,9 +31,7 @@
 
 namespace {
 
-// Outer heights of the two layouts, in twips.
-constexpr int inputHeight = 2920;
-constexpr int resultsHeight = 5325;
+// In twips.
 constexpr int listWidth = 8355;
 constexpr int listHeight = 2130;
 

@@ -21,6 +21,10 @@ class frmAdvSearch : public Form
     Q_OBJECT
 
 public:
+    /// Outer heights of the two layouts, in twips.
+    static constexpr int inputHeight = 2920;
+    static constexpr int resultsHeight = 5325;
+
     /// memory: of the last query; must outlive the window.
     frmAdvSearch(Shell& shell, SearchMemory& memory);
 
