@@ -1,12 +1,13 @@
 #include "maps/TopicText.h"
 
-QStringList referenceEntries(QString verseList)
+QStringList referenceEntries(const QString& verseList)
 {
     QStringList entries;
-    while (!verseList.isEmpty()) {
-        const qsizetype end = verseList.indexOf('\\');
-        entries += " " + verseList.left(end) + " ";
-        verseList = end < 0 ? QString() : verseList.mid(end + 1);
+    for (qsizetype start = 0; start < verseList.size();) {
+        const qsizetype backslash = verseList.indexOf('\\', start);
+        const qsizetype end = backslash < 0 ? verseList.size() : backslash;
+        entries += " " + verseList.mid(start, end - start) + " ";
+        start = end + 1;
     }
     return entries;
 }

@@ -1,5 +1,6 @@
 #include "maps/TopicText.h"
 #include <gtest/gtest.h>
+#include <QElapsedTimer>
 
 TEST(TopicText, FramesEveryReferenceWithSpaces)
 {
@@ -22,6 +23,18 @@ TEST(TopicText, AdjacentBackslashesAddAnEntryOfTwoSpaces)
 {
     EXPECT_EQ(referenceEntries("Mt:5:3\\\\Lk:6:20"), QStringList({" Mt:5:3 ", "  ", " Lk:6:20 "}));
     EXPECT_EQ(referenceEntries("\\Mt:5:3"), QStringList({"  ", " Mt:5:3 "}));
+}
+
+// A walk that copies its rest at each reference copies 250,000 million characters for this list.
+TEST(TopicText, WalksALongListOnce)
+{
+    const int count = 500'000;
+    QElapsedTimer timer;
+    timer.start();
+    const QStringList entries = referenceEntries(QString("a\\").repeated(count));
+    EXPECT_LT(timer.elapsed(), 5'000);
+    ASSERT_EQ(entries.size(), count);
+    EXPECT_EQ(entries.back(), " a ");
 }
 
 TEST(TopicText, EntryOpensTheVerseBeforeItsFirstHyphen)
