@@ -79,7 +79,8 @@ def _listed(panel):
                "areas": [panel.area_at(label.x, label.y), panel.area_at(*_middle(label.chosen.box))]}
               for label in panel.labels]
     return {"rect": _rounded(panel.bounds), "names": _boxes(panel.names), "points": points,
-            "places": sorted(panel.drawn)}
+            "places": sorted(panel.drawn),
+            "enlarged": [_rounded(rect) for rect in panel.enlarged_rects()]}
 
 
 def _middle(box):

@@ -206,8 +206,8 @@ class Panel:
                 placer.keep_off_dot(label.x, label.y, label.radius)
         for _, x, y, _ in heads:
             placer.keep_off(_rect_around(x, y, 4), 60)
-        for rect in self._enlarged_rects():
-            placer.avoid(box(*rect).boundary, 1.0)
+        for rect in self.enlarged_rects():
+            placer.keep_clear_of(box(*rect).boundary)
         for route in self.routes:
             placer.avoid(route.line, 0.9)
         placer.avoid(self.land.boundary, 0.25)
@@ -245,7 +245,7 @@ class Panel:
             taken = keep_off + [(x, y, 4) for _, x, y, _ in heads]
             every = entry.get("every", 100)
             for head in route.arrows(every, entry.get("clear", 8), taken, self.bounds):
-                if not any(_inside(blank, *head[:2]) for blank in [*self.blanks, *self._enlarged_rects()]):
+                if not any(_inside(blank, *head[:2]) for blank in [*self.blanks, *self.enlarged_rects()]):
                     heads.append((route.colour, *head))
         return heads
 
@@ -253,7 +253,8 @@ class Panel:
         """(shape, cost) of what names had better not cover."""
         return [(island, 30) for island in polygons(self.land) if island.area < 400]
 
-    def _enlarged_rects(self):
+    def enlarged_rects(self):
+        """What each inset shows, as rectangles of this panel in points."""
         for part in self.enlarged:
             x0, y1 = self.projection.point(part.south, part.west)
             x1, y0 = self.projection.point(part.north, part.east)
@@ -333,7 +334,7 @@ class Panel:
             finder.keep_off(box(label.x - 30, label.y - 6, label.x + 40, label.y + 6), 5)
         for _, x, y, _ in heads:
             finder.keep_off(_point((x, y)).buffer(6), 40)
-        for rect in self._enlarged_rects():
+        for rect in self.enlarged_rects():
             finder.avoid(box(*rect).boundary, 2.0)
         for route in self.routes:
             finder.avoid(route.line, 1.6)

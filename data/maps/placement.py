@@ -85,6 +85,7 @@ class Placer:
         self._rects = []   # boxes, arrow heads: (rect, weight)
         self._dots = []    # symbols of towns: (x, y, radius)
         self._lines = []   # (line, cost per point of length inside)
+        self._frames = []  # round what an inset enlarges
 
     def keep_off_quads(self, quads):
         self._quads += [(Polygon(quad), _bounds(quad)) for quad in quads]
@@ -98,6 +99,9 @@ class Placer:
     def avoid(self, line, cost):
         if not line.is_empty:
             self._lines.append((line, line.bounds, cost))
+
+    def keep_clear_of(self, frame):
+        self._frames.append(frame)
 
     def place(self, labels):
         spots = [self._spots(label) for label in labels]
@@ -146,6 +150,8 @@ class Placer:
                 spot.wrong.append("lies on another name")
             elif spot.leader and quad.intersects(LineString(spot.leader)):
                 cost += CLASH / 4
+        if any(frame.intersects(box(*spot.box)) for frame in self._frames):
+            spot.wrong.append("lies across the frame of what an inset enlarges")
         for line, bounds, price in self._lines:
             if _meet(bounds, around) and line.intersects(shape):
                 cost += price * (4 + line.intersection(shape).length)

@@ -26,7 +26,7 @@ AREAS = {
               "Caesarea": "Samaria", "Nazareth": "Galilee", "Machaerus": "Perea",
               "Caesarea Philippi": "Tetrarchy of Philip", "Scythopolis": "Decapolis", "Gadara": "Decapolis"},
 }
-NAME_WITH_ITS_DOT = {"map04": ["Heshbon", "Gezer"]}  # towns by a border whose names must not lie beyond it
+NAME_WITH_ITS_DOT = {"map04": ["Heshbon", "Gezer", "Shechem"]}  # towns by a border whose names must not lie beyond it
 HEAD = ["MapNumber", "file", "width", "height", "MapDesc"]
 MOST_BYTES = 1_600_000  # the database has its fixed length, and this leaves its tables room to grow
 LANDSCAPE, PORTRAIT = (1000, 780), (700, 800)  # largest natural sizes
@@ -136,6 +136,13 @@ def check_points(folder):
     return faults
 
 
+def check_frames(folder):
+    """Names of towns that lie across the frame of what an inset enlarges."""
+    return [f"{sheet}: \"{point['name']}\" lies across the frame of an enlarged part"
+            for sheet, drawn in _sheets(folder).items() for panel in drawn["panels"] for point in panel["points"]
+            for rect in panel["enlarged"] if _crosses(point["box"], rect)]
+
+
 def check_areas(folder):
     """Towns that do not lie in the area in which the text puts them."""
     faults = []
@@ -210,6 +217,13 @@ def _gap(rect, dot):
     return math.hypot(max(rect[0] - x, 0, x - rect[2]), max(rect[1] - y, 0, y - rect[3])) - radius
 
 
+def _crosses(one, rect):
+    """Neither within the rectangle nor wholly outside it."""
+    apart = one[2] < rect[0] or one[0] > rect[2] or one[3] < rect[1] or one[1] > rect[3]
+    within = one[0] > rect[0] and one[2] < rect[2] and one[1] > rect[1] and one[3] < rect[3]
+    return not apart and not within
+
+
 def _corners(rect):
     left, top, right, bottom = rect
     return [[left, top], [right, top], [right, bottom], [left, bottom]]
@@ -241,7 +255,7 @@ def _overlap(one, other):
 
 def main():
     folder = Path(sys.argv[1]) if len(sys.argv) > 1 else Path(__file__).parents[2] / "data" / "maps"
-    faults = [fault for check in (check_rows, check_names, check_points, check_areas, check_sources)
+    faults = [fault for check in (check_rows, check_names, check_points, check_frames, check_areas, check_sources)
               for fault in check(folder)]
     for fault in faults:
         print(fault)

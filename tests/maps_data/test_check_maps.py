@@ -37,6 +37,7 @@ def test_committed_maps_have_no_fault():
     assert check_maps.check_rows(MAPS) == []
     assert check_maps.check_names(MAPS) == []
     assert check_maps.check_points(MAPS) == []
+    assert check_maps.check_frames(MAPS) == []
     assert check_maps.check_areas(MAPS) == []
     assert check_maps.check_sources(MAPS) == []
 
@@ -164,6 +165,14 @@ def test_name_nearer_to_another_symbol_is_found(copy):
         point_of(sheets, "map08", "Attalia")["box"] = [x + 4, y - 5, x + 40, y + 5]
     change_names(copy, change)
     assert check_maps.check_points(copy) == ['map08: "Attalia" is nearer to the symbol of Perga']
+
+
+def test_name_across_the_frame_of_an_enlarged_part_is_found(copy):
+    def change(sheets):
+        left, top, _, bottom = sheets["map06"]["panels"][0]["enlarged"][1]
+        point_of(sheets, "map06", "Gaza")["box"] = [left - 20, top + 1, left + 20, bottom - 1]
+    change_names(copy, change)
+    assert check_maps.check_frames(copy) == ['map06: "Gaza" lies across the frame of an enlarged part']
 
 
 def test_equal_names_are_found(copy):

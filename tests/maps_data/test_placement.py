@@ -9,6 +9,8 @@ pytest.importorskip("cairo")
 pytest.importorskip("shapely")
 sys.path.insert(0, str(Path(__file__).parents[2] / "data" / "maps"))
 
+from shapely.geometry import LineString
+
 import draw_maps
 from area_names import AreaNames, centred
 from lettering import kind
@@ -44,6 +46,13 @@ def test_name_on_a_name_that_stands_is_a_fault():
     placer = Placer((0, 0, 300, 200))
     placer.keep_off_quads([[(0, 0), (300, 0), (300, 200), (0, 200)]])
     assert placer.place([town("Derbe", 100, 100)]) == ["Derbe lies on another name"]
+
+
+def test_name_across_the_frame_of_an_enlarged_part_is_a_fault():
+    placer = Placer((0, 0, 300, 200))
+    placer.keep_clear_of(LineString([(115, 0), (115, 200)]))
+    assert placer.place([town("Derbe", 100, 100, sides=["E"], leader=False)]) == [
+        "Derbe lies across the frame of what an inset enlarges"]
 
 
 def test_number_of_a_stop_makes_its_name_longer():
