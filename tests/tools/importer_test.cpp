@@ -86,6 +86,16 @@ TEST_F(Importer, NamesAFileThatCannotBeRead)
     EXPECT_EQ(complaint<InputError>([&] { importText(missing, {}); }),
               "Cannot read " + missing.string() + ".");
     EXPECT_EQ(complaint<InputError>([&] { importText(folder, {}); }), "Cannot read " + folder.string() + ".");
+    EXPECT_EQ(complaint<InputError>([] { importText("/dev/zero", {}); }), "Cannot read /dev/zero.");
+}
+
+TEST_F(Importer, RefusesAFileThatWouldFillTheMemory)
+{
+    const std::filesystem::path huge = folder / "huge.tsv";
+    writeFile(huge, "");
+    std::filesystem::resize_file(huge, std::uintmax_t{8} << 30); // without blocks on the disk
+    EXPECT_EQ(complaint<InputError>([&] { importText(huge, {}); }),
+              huge.string() + " is larger than 64 MB, which no input is.");
 }
 
 TEST_F(Importer, NamesAFileThatCannotBeWritten)

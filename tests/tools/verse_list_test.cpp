@@ -58,6 +58,13 @@ TEST(VerseList, ReadsWhatItWrites)
     EXPECT_EQ(writeVerseList(read), writeVerseList(verses));
 }
 
+TEST(VerseList, TakesAVerseAsLongAsTheProgramReads)
+{
+    Lines lines = goodLines();
+    lines[1] = "Gn\t1\t2\t" + std::string(8191, 'a');
+    EXPECT_EQ(complaintAbout(joined(lines)), "");
+}
+
 TEST(VerseList, RefusesAnEmptyList)
 {
     EXPECT_EQ(complaintAbout(""), "list, line 1: Gn:1:1 is missing; the list ends here.");
@@ -119,5 +126,9 @@ INSTANTIATE_TEST_SUITE_P(
         BadList{"CarriageReturn", [](Lines& l) { l[0] += "\r"; },
                 "list, line 1: there is a carriage return; lines must end with a line feed alone."},
         BadList{"ByteOrderMark", [](Lines& l) { l[0].insert(0, "\xef\xbb\xbf"); },
-                "list, line 1: there is no verse \xef\xbb\xbfGn:1:1."}),
+                "list, line 1: there is a byte order mark; take it away."},
+        BadList{"VerseTooLong", [](Lines& l) { l[1] = "Gn\t1\t2\t" + std::string(8192, 'a'); },
+                "list, line 2: Gn:1:2 is too long; the program reads verses of 8191 bytes at most."},
+        BadList{"LineTooLong", [](Lines& l) { l[1] = std::string(1 << 20, 'a'); },
+                "list, line 2: the line is too long."}),
     [](const auto& row) { return std::string(row.param.name); });

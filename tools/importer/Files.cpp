@@ -1,14 +1,26 @@
 #include "importer/Files.h"
 
 #include "importer/InputError.h"
+#include <cstdint>
 #include <fstream>
 #include <iterator>
 
+namespace {
+
+constexpr std::uintmax_t mostBytes = 64 << 20; // the text has 4 MB, a map's picture a fifth of one
+
+} // namespace
+
 std::string readFile(const std::filesystem::path& path)
 {
-    // A folder opens, but does not read.
+    // A folder opens, but does not read; a pipe may never end.
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error))
+        throw InputError("Cannot read " + path.string() + ".");
+    if (std::filesystem::file_size(path, error) > mostBytes)
+        throw InputError(path.string() + " is larger than 64 MB, which no input is.");
     std::ifstream file(path, std::ios::binary);
-    if (!file.is_open() || std::filesystem::is_directory(path))
+    if (!file.is_open())
         throw InputError("Cannot read " + path.string() + ".");
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }

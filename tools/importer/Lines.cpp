@@ -5,8 +5,14 @@
 
 namespace {
 
+constexpr std::size_t longestLine = 1 << 16; // a verse before and after its correction, and room to spare
+
 void checkCharacters(std::string_view line, const std::string& place)
 {
+    if (line.size() > longestLine)
+        throw InputError(place + "the line is too long.");
+    if (line.starts_with("\xef\xbb\xbf"))
+        throw InputError(place + "there is a byte order mark; take it away.");
     const auto characters = fromUtf8(line);
     if (!characters)
         throw InputError(place + "this is not valid UTF-8.");

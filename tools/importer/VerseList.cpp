@@ -2,8 +2,11 @@
 
 #include "importer/InputError.h"
 #include "importer/Lines.h"
+#include "store/Limits.h"
 
 namespace {
+
+constexpr std::size_t longestVerse = limits::maxVerseBytes - 1; // the database puts a blank before it
 
 /// Says what is wrong with a line that does not hold the verse expected at this position.
 std::string misplaced(const std::string& found, std::size_t expected)
@@ -42,6 +45,9 @@ std::vector<Verse> readVerseList(std::string_view bytes, const std::string& file
             throw InputError(place + misplaced(found, verses.size()));
         if (columns[3].find_first_not_of(' ') == std::string_view::npos)
             throw InputError(place + found + " has no text.");
+        if (columns[3].size() > longestVerse)
+            throw InputError(place + found + " is too long; the program reads verses of " +
+                             std::to_string(longestVerse) + " bytes at most.");
         verses.push_back({keys[verses.size()], std::string(columns[3])});
     }
     if (verses.size() < keys.size())
