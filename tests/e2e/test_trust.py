@@ -193,6 +193,29 @@ def test_files_removed_after_the_start_are_not_missed(start, copy):
     reader.look_up("Rv", "Rv:1:1")
 
 
+@pytest.mark.parametrize("size, content", [(0, b""), (5000, b""), (None, b"\0"), (None, b"x")],
+                         ids=["emptied", "cut off", "zeros", "noise"])
+def test_a_database_spoilt_in_place_leaves_the_verses_and_ends_the_study_aids_with_a_message(
+        start, copy, desktop, size, content):
+    reader = start(copy)
+    frame(reader)
+    reader.look_up(VERSE)
+    path = copy / "KESTRPT.DAT"
+    if size is None:
+        with path.open("r+b") as file:
+            file.write(content * path.stat().st_size)
+    else:
+        os.truncate(path, size)
+    reader.look_up("Rv", "Rv:1:1")
+    assert reader.search(TWICE) == TWICE_FOUND
+    reader.open_selection()  # in the other windows F8 is not theirs
+    reader.key("F8")
+    text = reader.text_of_box("Kestrel Reader: Portuguese Version")
+    assert re.search("malformed|not a database|disk I/O", text), text
+    desktop.key("Return")
+    assert reader.wait() == 1
+
+
 def test_killed_in_the_splash_it_starts_again(start, copy):
     first = start(copy)
     first.find(None, "Kestrel Reader (PT)")
