@@ -19,7 +19,7 @@ import windows
 
 
 def breaches(top, build):
-    found = formatting.breaches(top)
+    found = [] if formatting.unfit() else formatting.breaches(top)
     for rule in (floors, names, documents, windows, subjects):
         found += rule.breaches(top)
     return found + headers.breaches(top, build)
@@ -27,6 +27,8 @@ def breaches(top, build):
 
 def main():
     found = breaches(*(pathlib.Path(argument).resolve() for argument in sys.argv[1:]))
+    if formatting.unfit():
+        print(formatting.unfit())
     print("\n".join(found) if found else "formatting, floors, names, documents, windows, subjects and headers keep the rules")
     return 1 if found else 0
 

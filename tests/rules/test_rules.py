@@ -67,7 +67,7 @@ def test_a_sound_house_keeps_them(house, rule):
     (floors, "src/store/Up.h", '#include "read/Chapter.h"\n', "src/store/Up.h:1: store/ must not include read/"),
     (floors, "src/search/Beside.h", '#include "read/Chapter.h"\n', "src/search/Beside.h:1: search/ must not include read/"),
     (floors, "src/read/Sql.h", "#include <sqlite3.h>\n", "src/read/Sql.h:1: SQLite's header is included in store/ only"),
-    (formatting, "src/store/Crooked.h", "int  crooked ;\n", "src/store/Crooked.h:1: not formatted; tools/format mends it"),
+    (formatting, "src/store/Crooked.h", "int  crooked ;\n", "src/store/Crooked.h:1: not formatted; tools/format_sources mends it"),
     (names, "tools/new_script", "#!/bin/sh\n", "tools/new_script: begins with #! but cannot be run: chmod +x"),
     (names, "tests/read/more_test.cpp", "TEST(Chapter, isGathered)\n", "Chapter.isGathered: a test is named by a sentence"),
     (names, "tests/read/ChapterTests.cpp", "TEST(Chapter, Is)\n", "tests/read/ChapterTests.cpp: a file of tests is named after"),
@@ -156,3 +156,11 @@ def test_the_script_ends_with_a_fault_and_says_all_of_it(house):
     answer = subprocess.run([sys.executable, script, house, house], capture_output=True, text=True, check=False)
     assert answer.returncode == 1
     assert "must not include read/" in answer.stdout and "not formatted" in answer.stdout
+
+
+@pytest.mark.parametrize("version, says", [("14.0.6", None), ("19.1.7", "formatting is left out: clang-format is 19 here, not 14")])
+def test_only_the_formatter_that_laid_the_tree_out_judges_it(tmp_path, monkeypatch, version, says):
+    write(tmp_path, "clang-format", f"#!/bin/sh\necho 'Debian clang-format version {version}'\n")
+    (tmp_path / "clang-format").chmod(0o755)
+    monkeypatch.setenv("PATH", str(tmp_path), prepend=":")
+    assert formatting.unfit() == says
