@@ -94,8 +94,7 @@ double TextSearch::share() const
     return looked ? static_cast<double>(found) / static_cast<double>(looked) : 0;
 }
 
-[[gnu::target_clones("avx2", "default")]] const char* TextSearch::findPiece(const char* at,
-                                                                            const char* end) const
+WIDER_WITH_AVX2 const char* TextSearch::findPiece(const char* at, const char* end) const
 {
     constexpr std::ptrdiff_t stride = 256;
     const auto length = static_cast<std::ptrdiff_t>(m_pattern.piece().size());

@@ -3,6 +3,14 @@
 #include "store/LikePattern.h"
 #include "store/VerseBlock.h"
 
+/// The compiler makes one version for any x86-64 processor and one for those with AVX2, whose registers are
+/// twice as wide; the program picks one as it starts. Other processors have one width.
+#ifdef __x86_64__
+#define WIDER_WITH_AVX2 [[gnu::target_clones("avx2", "default")]]
+#else
+#define WIDER_WITH_AVX2
+#endif
+
 /// Finds the rows of a block whose text matches a pattern, in order. The block must outlive it.
 ///
 /// Instead of trying the pattern on every row it sweeps over all texts for the two rarest bytes of the
@@ -32,9 +40,7 @@ private:
 
     void chooseProbes();
     void chooseBits();
-    // The compiler makes one version for any x86-64 processor and one for those with AVX2, whose registers
-    // are twice as wide; the program picks one as it starts.
-    [[gnu::target_clones("avx2", "default")]] const char* findPiece(const char* at, const char* end) const;
+    WIDER_WITH_AVX2 const char* findPiece(const char* at, const char* end) const;
     bool pieceStandsAt(const char* at) const;
 
     const VerseBlock& m_block;
