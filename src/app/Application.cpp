@@ -22,16 +22,18 @@ Application::Application(char* programName[])
     setApplicationName("kestrel-reader");
     setApplicationDisplayName(""); // captions are the windows' own
     setDesktopFileName("io.github.kestrelreader.KestrelReader");
-    // Qt's warnings on standard error about two things that the windows handle: a damaged picture is left out
-    // or shown as far as it goes, and a message box tells when another program took the clipboard.
-    QLoggingCategory::setFilterRules("qt.gui.imageio*=false\nqt.qpa.clipboard=false");
+    // Qt's warnings on standard error about what is handled: a damaged picture is left out or shown as far as it
+    // goes, a message box tells when another program took the clipboard, and an assistive program that asks for
+    // a window just closed is told that there is none.
+    QLoggingCategory::setFilterRules(
+        "qt.gui.imageio*=false\nqt.qpa.clipboard=false\nqt.accessibility.atspi*=false");
     QAccessible::installFactory(buttonAccess);
     QAccessible::installFactory(lineEditAccess);
     setStyle(new FrameStyle);
     // Fusion caches a pixmap of each message box's buttons. Qt's own limit of 10 MB lets the memory grow
     // without making anything faster.
     QPixmapCache::setCacheLimit(512); // kB
-    Fonts::install();
+    Fonts::install(applicationDirPath() + "/fonts");
     setFont(Fonts::captionsOf(9));
 }
 

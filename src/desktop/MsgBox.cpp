@@ -21,14 +21,15 @@ QMessageBox::Icon iconOf(MsgIcon icon)
     return QMessageBox::Information;
 }
 
-/// The window manager draws the title, in bold letters between an icon and three buttons, and cuts it where
-/// the box is narrower. QMessageBox takes its width from the text alone, so a spacer widens the box.
+/// Whoever draws the title cuts it where the box is narrower: a window manager, in bold letters between an
+/// icon and three buttons; Qt itself, on Wayland, in larger letters in the middle of the bar, as far as its
+/// three buttons. QMessageBox takes its width from the text alone, so a spacer widens the box.
 void makeRoomForTitle(QMessageBox& box)
 {
     QFont bold = box.font();
     bold.setBold(true);
-    constexpr int beside = 4 * 28; // pixels
-    const int room = QFontMetrics(bold).horizontalAdvance(box.windowTitle()) + beside;
+    constexpr int beside = 2 * 3 * 28; // pixels: what the middle leaves at the right, it leaves at the left
+    const int room = QFontMetrics(bold).horizontalAdvance(box.windowTitle()) * 5 / 4 + beside;
     auto& layout = *qobject_cast<QGridLayout*>(box.layout());
     layout.addItem(new QSpacerItem(room, 0), layout.rowCount(), 0, 1, layout.columnCount());
 }
