@@ -5,6 +5,7 @@ A process of its own, because whoever listens has to wait for events all the tim
 import json
 
 import pyatspi
+from reader import role_of
 
 KINDS = {"object:property-change:accessible-name": "name", "object:state-changed:focused": "focus"}
 
@@ -13,7 +14,7 @@ def tell(event):
     try:
         if event.type == "object:state-changed:focused" and not event.detail1:
             return  # the focus went away; where it goes is told next
-        print(json.dumps([KINDS[str(event.type)], event.source.getRoleName(), event.source.name]), flush=True)
+        print(json.dumps([KINDS[str(event.type)], role_of(event.source), event.source.name]), flush=True)
     except Exception:  # an object that went away before it could be asked
         pass
 

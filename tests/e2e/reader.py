@@ -16,6 +16,12 @@ WITH_ENTRIES = ("combo box", "list", "tree", "text")
 LAYOUT = ("filler", "layered pane", "unknown")
 
 
+def role_of(node):
+    """What kind of object it is, in the words of Qt 6.4; later ones call a push button a button."""
+    role = node.getRoleName()
+    return "push button" if role == "button" else role
+
+
 def install(source, target, stamp=STAMP):
     """Copies the assembled program to another folder, as Setup would: the database with its time."""
     target = pathlib.Path(target)
@@ -68,7 +74,7 @@ class Reader:
         import pyatspi
 
         def matches(node):
-            if role and node.getRoleName() != role:
+            if role and role_of(node) != role:
                 return False
             if name is not None and node.name != name:
                 return False
@@ -99,7 +105,7 @@ class Reader:
             node = node or self.application()
             if not node or depth > 8:
                 return ""
-            lines = [f"{'  ' * depth}{node.getRoleName()}: {node.name!r}"]
+            lines = [f"{'  ' * depth}{role_of(node)}: {node.name!r}"]
             lines += [self.outline(child, depth + 1) for child in node if child][:100]
             return "\n".join(line for line in lines if line)
         except Exception as error:
@@ -219,7 +225,7 @@ class Reader:
         Containers that only hold a layout together are left out; entries of lists and trees are not gone into.
         """
         import pyatspi
-        state, role = node.getState(), node.getRoleName()
+        state, role = node.getState(), role_of(node)
         if showing and not state.contains(pyatspi.STATE_SHOWING):
             return []
         if role == "scroll bar" and not node.name:  # whether a text needs one is its font's business
@@ -240,10 +246,10 @@ class Reader:
         import pyatspi
 
         def is_help_text(node):
-            return node.getRoleName() == "label" and node.getState().contains(pyatspi.STATE_FOCUSABLE)
+            return role_of(node) == "label" and node.getState().contains(pyatspi.STATE_FOCUSABLE)
 
         def walk(node):
-            state, role = node.getState(), node.getRoleName()
+            state, role = node.getState(), role_of(node)
             if (role in CONTROLS or is_help_text(node)) and state.contains(pyatspi.STATE_FOCUSED):
                 return role, node.name
             if role in WITH_ENTRIES or not state.contains(pyatspi.STATE_SHOWING):

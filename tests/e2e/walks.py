@@ -1,5 +1,5 @@
 """The way through a window with Tab, as it is and as it should be."""
-from reader import CONTROLS
+from reader import CONTROLS, role_of
 
 
 def walk(reader, window, key):
@@ -20,7 +20,7 @@ def stops(reader, window):
     found = []
 
     def gather(node):
-        state, role = node.getState(), node.getRoleName()
+        state, role = node.getState(), role_of(node)
         # of radio buttons only the chosen one is a stop: the arrow keys go to the others
         is_other_choice = role == "radio button" and not state.contains(pyatspi.STATE_CHECKED)
         is_stop = role in CONTROLS
