@@ -138,7 +138,7 @@ protected:
             frmStart* window = program->startWindow();
             ASSERT_NE(window, nullptr);
             QPointer<frmStart> open = window;
-            QApplication::setActiveWindow(window);
+            makeActive(window);
             use(*window);
             used = true;
             if (open && open->isVisible())
@@ -158,7 +158,7 @@ protected:
         const auto looking = onceModal([&](QWidget& window) {
             auto* letter = qobject_cast<QDialog*>(&window);
             ASSERT_NE(letter, nullptr);
-            QApplication::setActiveWindow(letter);
+            makeActive(letter);
             use(*letter);
             used = true;
             QTest::keyClick(letter->focusWidget(), Qt::Key_Escape);
@@ -296,7 +296,7 @@ TEST_F(About, EscClosesALetterWithAnyModifier)
     for (const auto modifiers : {Qt::ShiftModifier, Qt::ControlModifier})
         whileAboutIsOpen([&](frmStart& window) {
             const auto looking = onceModal([&](QWidget& letter) {
-                QApplication::setActiveWindow(&letter);
+                makeActive(&letter);
                 press(Qt::Key_Escape, modifiers);
                 EXPECT_FALSE(letter.isVisible());
                 letter.close();
@@ -474,7 +474,7 @@ TEST_F(AboutControlsOfTheSplash, AreHiddenAndDisabled)
 {
     ASSERT_TRUE(program->start());
     frmStart& splash = *program->startWindow();
-    QApplication::setActiveWindow(&splash);
+    makeActive(&splash);
     const QList<QWidget*> controls = {splash.cmdOK,       splash.cmdMore, splash.cmdQORV,
                                       splash.cmdDonation, splash.cmdMail, splash.Image2};
     for (const QWidget* control : controls) {

@@ -15,7 +15,7 @@ protected:
         QFile::link(KESTREL_INSTALL_DIR "/KESTRPT.DAT", folder.filePath("KESTRPT.DAT"));
         program = std::make_unique<Program>(folder.path());
         program->showFrame();
-        QApplication::setActiveWindow(&frame());
+        makeActive(&frame());
         QTest::qWait(0);
     }
 

@@ -187,7 +187,7 @@ protected:
         QFile::link(KESTREL_INSTALL_DIR "/KESTRPT.DAT", folder.filePath("KESTRPT.DAT"));
         program = std::make_unique<Program>(folder.path());
         program->showFrame();
-        QApplication::setActiveWindow(&frame());
+        makeActive(&frame());
         QTest::qWait(0);
     }
 
@@ -207,7 +207,7 @@ protected:
         QTest::qWait(0);
         EXPECT_NE(helpWindow(), nullptr);
         helpWindow()->showPage(page);
-        QApplication::setActiveWindow(helpWindow());
+        makeActive(helpWindow());
         return *helpWindow();
     }
 
@@ -217,7 +217,7 @@ protected:
 TEST_F(HelpSession, OpensAtThePageOfTheActiveChildWindow)
 {
     EXPECT_EQ(pageOnF1(), "ChildSelect");
-    QApplication::setActiveWindow(&frame());
+    makeActive(&frame());
     frame().readingWindow().restoreAndActivate();
     control<SoftBttn>(frame().readingWindow(), "cmdNext").setFocus();
     EXPECT_EQ(pageOnF1(), "ChildRead");
@@ -249,13 +249,13 @@ TEST_F(HelpSession, OpensAtTheAboutWindowsPageWhileThatIsOpen)
 {
     QString page;
     const auto looking = onceModal([&](QWidget&) {
-        QApplication::setActiveWindow(program->startWindow());
+        makeActive(program->startWindow());
         program->startWindow()->cmdMore->setFocus();
         page = pageOnF1();
         EXPECT_TRUE(helpWindow()->isVisible());
         EXPECT_TRUE(program->startWindow()->isVisible());
         EXPECT_TRUE(helpWindow()->isEnabled());
-        QApplication::setActiveWindow(helpWindow());
+        makeActive(helpWindow());
         QTest::keyClick(helpWindow(), Qt::Key_Escape);
         EXPECT_TRUE(program->startWindow()->isVisible()) << "closing the help closed the About window";
         QTest::keyClick(program->startWindow(), Qt::Key_Escape);
@@ -270,14 +270,14 @@ TEST_F(HelpSession, OpensAtThePageOfBothLetters)
     const auto looking = onceModal([&](QWidget&) {
         for (SoftBttn* button : {program->startWindow()->cmdDonation, program->startWindow()->cmdQORV}) {
             const auto reading = onceModal([&](QWidget& letter) {
-                QApplication::setActiveWindow(&letter);
+                makeActive(&letter);
                 pages << pageOnF1();
-                QApplication::setActiveWindow(&letter);
+                makeActive(&letter);
                 QTest::keyClick(letter.focusWidget(), Qt::Key_Escape);
             });
             click(*button);
         }
-        QApplication::setActiveWindow(program->startWindow());
+        makeActive(program->startWindow());
         QTest::keyClick(program->startWindow(), Qt::Key_Escape);
     });
     click(*frame().cmdAbout);
@@ -289,7 +289,7 @@ TEST_F(HelpSession, OpensAtThePageBehindAMessageWhileThatIsOpen)
     MsgBox::setBackEnd({}); // the real boxes
     QString page;
     const auto looking = onceModal([&](QWidget& box) {
-        QApplication::setActiveWindow(&box);
+        makeActive(&box);
         page = pageOnF1();
         EXPECT_TRUE(box.isVisible());
         box.close();
@@ -302,12 +302,12 @@ TEST_F(HelpSession, CanBeUsedBesideAModalWindowAndStaysWhenThatCloses)
 {
     openHelp("Keys"); // stands alone, and is then called again from the modal window
     EXPECT_EQ(helpWindow()->windowHandle()->transientParent(), nullptr);
-    QApplication::setActiveWindow(&frame());
+    makeActive(&frame());
     const auto looking = onceModal([&](QWidget&) {
-        QApplication::setActiveWindow(program->startWindow());
+        makeActive(program->startWindow());
         EXPECT_EQ(pageOnF1(), "frmStart");
         EXPECT_EQ(helpWindow()->windowHandle()->transientParent(), program->startWindow()->windowHandle());
-        QApplication::setActiveWindow(program->startWindow());
+        makeActive(program->startWindow());
         QTest::keyClick(program->startWindow(), Qt::Key_Escape);
     });
     click(*frame().cmdAbout);
@@ -351,7 +351,7 @@ TEST_F(HelpSession, ControlSeesTheKeyAllTheSame)
 TEST_F(HelpSession, ThereIsOneWindowThatKeepsItsPlace)
 {
     HelpWindow& first = openHelp("Keys");
-    QApplication::setActiveWindow(&frame());
+    makeActive(&frame());
     frame().readingWindow().restoreAndActivate();
     control<SoftBttn>(frame().readingWindow(), "cmdNext").setFocus();
     EXPECT_EQ(pageOnF1(), "ChildRead");

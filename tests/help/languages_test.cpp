@@ -49,13 +49,13 @@ protected:
     HelpWindow& openHelp(const QLocale& desktop)
     {
         QLocale::setDefault(desktop);
-        QApplication::setActiveWindow(&frame());
+        makeActive(&frame());
         press(Qt::Key_F1);
         QTest::qWait(0);
         HelpWindow* window = frame().help().window();
         if (!window)
             throw std::runtime_error("the help is not open");
-        QApplication::setActiveWindow(window);
+        makeActive(window);
         return *window;
     }
 

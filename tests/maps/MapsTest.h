@@ -35,7 +35,7 @@ protected:
         program = std::make_unique<Program>(directory);
         program->showFrame();
         frame().resize(1024, 740);
-        QApplication::setActiveWindow(&frame());
+        makeActive(&frame());
         QTest::qWait(0);
     }
 

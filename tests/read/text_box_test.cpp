@@ -1,5 +1,6 @@
 // The text box: exact text and offsets, selecting by keyboard, copying, scrolling, colours.
 #include "read/TextBox.h"
+#include "support/ActiveWindow.h"
 #include "support/Recorders.h"
 #include <cmath>
 #include <gtest/gtest.h>
@@ -23,7 +24,7 @@ protected:
         layout->addWidget(other);
         other->setFocusPolicy(Qt::StrongFocus);
         window.show();
-        QApplication::setActiveWindow(&window);
+        makeActive(&window);
         box->setFocus();
     }
 

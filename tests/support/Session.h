@@ -2,6 +2,7 @@
 
 #include "app/MDIParent.h"
 #include "app/Program.h"
+#include "support/ActiveWindow.h"
 #include "support/Controls.h"
 #include "support/Recorders.h"
 #include <gtest/gtest.h>
@@ -30,7 +31,7 @@ protected:
         QCoreApplication::exec();
         program = std::make_unique<Program>(KESTREL_INSTALL_DIR);
         program->showFrame();
-        QApplication::setActiveWindow(&frame());
+        makeActive(&frame());
         QTest::qWait(0);
     }
 
@@ -142,9 +143,9 @@ protected:
     /// Another program comes to the front, and this one again.
     void switchProgramsAndBack()
     {
-        QApplication::setActiveWindow(nullptr);
+        makeActive(nullptr);
         settle();
-        QApplication::setActiveWindow(&frame());
+        makeActive(&frame());
         settle();
     }
 

@@ -1,5 +1,6 @@
 #include "support/Windows.h"
 
+#include "support/ActiveWindow.h"
 #include "support/OnceModal.h"
 #include "support/Session.h"
 #include <QFile>
@@ -41,7 +42,7 @@ bool pressFrom(const WindowRow& row, qsizetype key, const std::function<void(QWi
         Session::settle();
         QWidget* window = find(row.name);
         if (window) {
-            QApplication::setActiveWindow(window->window());
+            makeActive(window->window());
             use(*window);
         }
         return window;
@@ -50,9 +51,9 @@ bool pressFrom(const WindowRow& row, qsizetype key, const std::function<void(QWi
     bool wasModal = false;
     const auto modal = onceModal([&](QWidget& window) {
         wasModal = true;
-        QApplication::setActiveWindow(&window);
+        makeActive(&window);
         found = pressFrom(row, key + 1, use);
-        QApplication::setActiveWindow(&window);
+        makeActive(&window);
         QTest::keyClick(&window, Qt::Key_Escape);
     });
     const QKeyCombination combination = QKeySequence::fromString(row.keys.at(key))[0];

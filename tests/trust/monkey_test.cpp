@@ -148,7 +148,7 @@ protected:
         if (QWidget* popup = QApplication::activePopupWidget())
             return popup->focusWidget() ? popup->focusWidget() : popup;
         if (!QApplication::activeWindow())
-            QApplication::setActiveWindow(&frame());
+            makeActive(&frame());
         if (QWidget* focus = QApplication::focusWidget())
             return focus;
         return QApplication::activeWindow() ? QApplication::activeWindow() : &frame();
@@ -347,7 +347,7 @@ protected:
             tell("close the help window");
             if (HelpWindow* help = frame().help().window())
                 help->close();
-            QApplication::setActiveWindow(&frame());
+            makeActive(&frame());
             break;
         }
     }

@@ -18,7 +18,7 @@ protected:
             ASSERT_TRUE(QFile::copy(QDir(KESTREL_INSTALL_DIR).filePath(name), folder.filePath(name)));
         program = std::make_unique<Program>(folder.path());
         program->showFrame();
-        QApplication::setActiveWindow(&frame());
+        makeActive(&frame());
         QTest::qWait(0);
     }
 

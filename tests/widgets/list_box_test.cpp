@@ -1,4 +1,5 @@
 // The list box by mouse and keys: what counts as a click, and which line is selected then.
+#include "support/ActiveWindow.h"
 #include "widgets/ListBox.h"
 #include "widgets/ListLines.h"
 #include <gtest/gtest.h>
@@ -16,7 +17,7 @@ protected:
         setLines(5);
         list.resize(200, 160);
         list.show();
-        QApplication::setActiveWindow(&list);
+        makeActive(&list);
         list.setFocus();
         QObject::connect(&list, &ListBox::lineClicked, [this] { clicks << list.selected(); });
     }
