@@ -15,6 +15,7 @@ int main(int, char* argv[])
     }
     endWhenThreadsFail();
     ignoreSenselessScaling();
+    Application::keepQuietAboutLocale();
     Application application(argv);
     if (!isScreenUsable()) { // no message box could be read
         std::fputs("kestrel-reader: the screen's dots to an inch (Xft.dpi) make no sense\n", stderr);

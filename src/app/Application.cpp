@@ -16,15 +16,20 @@
 
 int Application::argumentCount = 1;
 
+void Application::keepQuietAboutLocale()
+{
+    QLoggingCategory::setFilterRules("default.warning=false");
+}
+
 Application::Application(char* programName[])
     : QApplication(argumentCount, programName)
 {
     setApplicationName("kestrel-reader");
     setApplicationDisplayName(""); // captions are the windows' own
     setDesktopFileName("io.github.kestrelreader.KestrelReader");
-    // Qt's warnings on standard error about what is handled: a damaged picture is left out or shown as far as it
-    // goes, a message box tells when another program took the clipboard, and an assistive program that asks for
-    // a window just closed is told that there is none.
+    // Qt's warnings on standard error about what is handled: a damaged picture is left out or shown as far as
+    // it goes, a message box tells when another program took the clipboard, and an assistive program that
+    // asks for a window just closed is told that there is none.
     QLoggingCategory::setFilterRules(
         "qt.gui.imageio*=false\nqt.qpa.clipboard=false\nqt.accessibility.atspi*=false");
     QAccessible::installFactory(buttonAccess);

@@ -1,5 +1,7 @@
 #include "widgets/Fonts.h"
 
+#include <QDir>
+#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QStringList>
 
@@ -33,8 +35,11 @@ QFont Fonts::captionsOf(int points)
     return font;
 }
 
-void Fonts::install()
+void Fonts::install(const QString& folder)
 {
+    const QDir fonts(folder);
+    for (const QString& file : fonts.entryList({"*.ttf"}))
+        QFontDatabase::addApplicationFont(fonts.filePath(file));
     // Measured against the named faces on the Bible's text: within 1 % of Tahoma's width, the same as Times
     // New Roman's.
     QFont::insertSubstitutions(tahoma, {"Liberation Sans", "DejaVu Sans Condensed"});

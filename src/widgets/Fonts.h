@@ -15,7 +15,8 @@ QFont tahomaOf(int points);
 /// The same for controls, whose sizes are fixed: a wider font that stands in is made as narrow as they need.
 QFont captionsOf(int points);
 
-/// Declares the substitutes; once, before the first window.
-void install();
+/// Declares the substitutes, and adds the fonts of `folder`, which a copy that is taken along has; once,
+/// before the first window.
+void install(const QString& folder);
 
 } // namespace Fonts
