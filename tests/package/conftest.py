@@ -65,6 +65,7 @@ def start(desktop):
         programs.append(subprocess.Popen(command, cwd="/", stderr=subprocess.PIPE, text=True, env={
             "PATH": "/usr/bin:/bin", "LC_ALL": "C.UTF-8", "DISPLAY": desktop.environment["DISPLAY"],
             "XDG_RUNTIME_DIR": desktop.folder, **environment}))
+        return programs[-1]
 
     yield start_one
     errors = []
