@@ -176,6 +176,7 @@ void HelpWindow::makeToolbar()
 {
     auto* toolbar = addToolBar("Help Toolbar");
     toolbar->setObjectName("toolbar");
+    toolbar->setAccessibleName(toolbar->windowTitle()); // as Qt did by itself before 6.8
     toolbar->setMovable(false);
     toolbar->addActions({back, forward});
     toolbar->addSeparator();

@@ -10,6 +10,8 @@ STAMP = "1998-05-05 05:00:00"
 
 # Qt asks the accessibility bus about every key, and says so when a busy machine lets it wait for the answer.
 BUS_IS_BUSY = "QSpiApplication::keyEventError"
+# Qt 6.8 says so of the keyboard that wtype makes for its keys.
+NO_KEYMAP = "qt.qpa.wayland: unknown keymap format: 0"
 
 CONTROLS = ("push button", "check box", "radio button", "combo box", "text", "list", "tree", "page tab list", "link")
 WITH_ENTRIES = ("combo box", "list", "tree", "text")
@@ -228,6 +230,8 @@ class Reader:
         state, role = node.getState(), role_of(node)
         if showing and not state.contains(pyatspi.STATE_SHOWING):
             return []
+        if role == "frame" and depth and not node.name:
+            role = "panel"  # a QFrame is one since Qt 6.8
         if role == "scroll bar" and not node.name:  # whether a text needs one is its font's business
             return []
         has_words = role not in LAYOUT
@@ -295,4 +299,4 @@ class Reader:
         if self.process.poll() is None:
             self.process.terminate()
         _, errors = self.process.communicate(timeout=PATIENCE)
-        return "".join(line for line in errors.splitlines(True) if not line.startswith(BUS_IS_BUSY))
+        return "".join(line for line in errors.splitlines(True) if not line.startswith((BUS_IS_BUSY, NO_KEYMAP)))

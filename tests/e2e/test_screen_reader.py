@@ -57,7 +57,7 @@ frame: Advanced Search
   text: Search for verses containing the following text:
   combo box: And containing
   text: Second word or phrase
-  frame:
+  panel:
   label: Select book(s) to scan:
   combo box: The Four Gospels
   check box: Match whole word(s) only
@@ -70,7 +70,7 @@ frame: Advanced Search
   text: Search for verses containing the following text: (disabled)
   combo box: And containing (disabled)
   text: Second word or phrase (disabled)
-  frame:
+  panel:
   label: Select book(s) to scan:
   combo box: The Four Gospels (disabled)
   check box: Match whole word(s) only (disabled)
