@@ -14,6 +14,23 @@
 #include <QTimer>
 #include <QWidget>
 
+namespace {
+
+/// One for every selection: dark blue with white letters (7 to 1) where the keys go, paler with black ones
+/// (6 to 1) elsewhere, both on light and on dark desktops.
+QPalette selectionColors()
+{
+    QPalette colors;
+    const QColor pale(0x6391c0);
+    colors.setColor(QPalette::Highlight, QColor(0x12559c));
+    colors.setColor(QPalette::HighlightedText, Qt::white);
+    colors.setColor(QPalette::Inactive, QPalette::Highlight, pale);
+    colors.setColor(QPalette::Inactive, QPalette::HighlightedText, Qt::black);
+    return colors;
+}
+
+} // namespace
+
 int Application::argumentCount = 1;
 
 void Application::keepQuietAboutLocale()
@@ -35,6 +52,7 @@ Application::Application(char* programName[])
     QAccessible::installFactory(buttonAccess);
     QAccessible::installFactory(lineEditAccess);
     setStyle(new FrameStyle);
+    setPalette(selectionColors());
     // Fusion caches a pixmap of each message box's buttons. Qt's own limit of 10 MB lets the memory grow
     // without making anything faster.
     QPixmapCache::setCacheLimit(512); // kB

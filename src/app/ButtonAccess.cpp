@@ -40,7 +40,9 @@ public:
         // Its own text goes before the title of a group box around it, which QAccessibleWidget would give.
         if (kind == QAccessible::Name && m_button.accessibleName().isEmpty() && !m_button.text().isEmpty())
             return withoutMnemonic(m_button.text());
-        return QAccessibleWidget::text(kind);
+        const QString own = QAccessibleWidget::text(kind);
+        // The tooltip is the name already; said twice, it takes the listener's time.
+        return kind == QAccessible::Description && own == text(QAccessible::Name) ? QString() : own;
     }
 
     QAccessible::State state() const override

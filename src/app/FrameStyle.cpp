@@ -87,6 +87,17 @@ void drawTitleButton(QPainter& painter, const QRect& rect, const TitleButton& bu
     painter.restore();
 }
 
+/// Fusion has none for scroll bars.
+void drawFocusRing(QPainter& painter, const QStyleOption& option)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(focusRingColor(option.palette.color(QPalette::Window)), 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(option.rect).adjusted(1, 1, -1, -1));
+    painter.restore();
+}
+
 /// What the outline of a check box or an option button needs to be seen: at least 3:1 on the window.
 QColor outlineOn(const QPalette& palette)
 {
@@ -98,6 +109,39 @@ QColor outlineOn(const QPalette& palette)
     return blended(window, text, share);
 }
 
+void drawEdge(QPainter& painter, const QStyleOption& option, const QColor& color)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(color);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    painter.restore();
+}
+
+/// On light desktops Fusion's own edge of fields and its ring around a focus are seen.
+void drawFieldEdge(QPainter& painter, const QStyleOption& option, bool focused)
+{
+    const QColor window = option.palette.color(QPalette::Window);
+    if (!isLight(window))
+        drawEdge(painter, option, focused ? focusRingColor(window) : outlineOn(option.palette));
+}
+
+void drawIndicatorEdge(QPainter& painter, const QStyleOption& option, void (QPainter::*draw)(const QRectF&))
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(outlineOn(option.palette));
+    painter.setBrush(Qt::NoBrush);
+    (painter.*draw)(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.restore();
+}
+
+bool hasKeyboardFocus(const QStyleOption& option)
+{
+    return option.state & QStyle::State_HasFocus && option.state & QStyle::State_KeyboardFocusChange;
+}
+
 } // namespace
 
 // The wheel chooses in the combo box that has the focus. It does not give the focus to one that the pointer
@@ -105,8 +149,11 @@ QColor outlineOn(const QPalette& palette)
 void FrameStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
-    if (qobject_cast<QComboBox*>(widget))
-        widget->setFocusPolicy(Qt::StrongFocus);
+    auto* box = qobject_cast<QComboBox*>(widget);
+    if (!box)
+        return;
+    box->setFocusPolicy(Qt::StrongFocus);
+    box->setMaxVisibleItems(12);
 }
 
 int FrameStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
@@ -115,6 +162,8 @@ int FrameStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
         return 20;
     if (metric == PM_MdiSubWindowFrameWidth)
         return 4;
+    if (metric == PM_MdiSubWindowMinimizedWidth)
+        return 290; // holds the captions of the reading and the chapter window whole
     return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
@@ -123,6 +172,8 @@ int FrameStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
 int FrameStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                           QStyleHintReturn* returned) const
 {
+    if (hint == SH_ComboBox_Popup)
+        return 0; // a list with a scroll bar; as a menu it would hold every entry, and cover the screen
     if (hint == SH_ComboBox_AllowWheelScrolling)
         return widget && widget->hasFocus();
     return QProxyStyle::styleHint(hint, option, widget, returned);
@@ -148,22 +199,38 @@ QIcon FrameStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
 void FrameStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const
 {
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
-    const bool isBox = element == PE_IndicatorCheckBox;
-    if ((!isBox && element != PE_IndicatorRadioButton) || !(option->state & State_Enabled))
+    if (element == PE_FrameFocusRect) {
+        if (option->state & State_KeyboardFocusChange)
+            drawEdge(*painter, *option, focusRingColor(option->palette.color(QPalette::Window)));
         return;
-    if (qobject_cast<const QMenu*>(widget))
-        return; // in the list of windows a check alone marks the active one
-    const QRectF outline = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(outlineOn(option->palette));
-    painter->setBrush(Qt::NoBrush);
-    if (isBox)
-        painter->drawRect(outline);
-    else
-        painter->drawEllipse(outline);
-    painter->restore();
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (!(option->state & State_Enabled))
+        return;
+    if (element == PE_FrameLineEdit)
+        drawFieldEdge(*painter, *option, option->state & State_HasFocus);
+    else if (element == PE_PanelButtonCommand && hasKeyboardFocus(*option))
+        drawFieldEdge(*painter, *option, true);
+    else if (element == PE_IndicatorCheckBox && !qobject_cast<const QMenu*>(widget))
+        drawIndicatorEdge(*painter, *option, &QPainter::drawRect);
+    else if (element == PE_IndicatorRadioButton && !qobject_cast<const QMenu*>(widget))
+        drawIndicatorEdge(*painter, *option, &QPainter::drawEllipse);
+}
+
+// A selection is paler in a control without the focus; Qt makes it so in a window without it. In the list of
+// a combo box there is always one.
+void FrameStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const
+{
+    const auto* row = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+    if (element != CE_ItemViewItem || !row || !widget || widget->hasFocus() ||
+        widget->window()->windowType() == Qt::Popup) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    QStyleOptionViewItem resting = *row;
+    resting.state &= ~State_Active;
+    QProxyStyle::drawControl(element, &resting, painter, widget);
 }
 
 // Fusion caches the pixmaps of combo boxes and of scroll bars' arrows by QPalette::cacheKey() and never frees
@@ -186,11 +253,15 @@ void FrameStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option)) {
         const QStyleOptionComboBox known = withKnownPalette(*combo);
         QProxyStyle::drawComplexControl(control, &known, painter, widget);
+        if (known.state & State_Enabled)
+            drawFieldEdge(*painter, known, hasKeyboardFocus(known));
         return;
     }
     if (const auto* scrollBar = qstyleoption_cast<const QStyleOptionSlider*>(option)) {
         const QStyleOptionSlider known = withKnownPalette(*scrollBar);
         QProxyStyle::drawComplexControl(control, &known, painter, widget);
+        if (control == CC_ScrollBar && known.state & State_HasFocus)
+            drawFocusRing(*painter, known);
         return;
     }
     const auto* bar = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
@@ -201,6 +272,11 @@ void FrameStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     QStyleOptionTitleBar rest = *bar;
     if (bar->titleBarState & State_Active) // its white letters have a shadow, which must not be white too
         rest.palette.setColor(QPalette::Text, Qt::black);
+    if (widget) {                   // QMdiSubWindow leaves out the end, where the reference stands
+        constexpr int margins = 14; // that Fusion leaves beside the text
+        const int room = subControlRect(control, bar, SC_TitleBarLabel, widget).width() - margins;
+        rest.text = painter->fontMetrics().elidedText(widget->windowTitle(), Qt::ElideMiddle, room);
+    }
     for (const TitleButton& button : titleButtons)
         rest.subControls &= ~button.control;
     QProxyStyle::drawComplexControl(control, &rest, painter, widget);

@@ -20,6 +20,13 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+namespace {
+
+/// On a screen no larger than this, in device-independent pixels, the frame fills all of it.
+constexpr QSize smallScreen(1280, 800);
+
+} // namespace
+
 MDIParent::MDIParent(Program& program)
     : picToolbar(new QWidget(this))
     , cmdSelect(new SoftBttn("cmdSelect", PictureId::SelectVerse, "Select Verse to read", this))
@@ -60,7 +67,10 @@ void MDIParent::load()
 {
     const QSize room = screen()->availableSize();
     resize(qMin(1160, room.width() * 92 / 100), qMin(860, room.height() * 92 / 100)); // room for a map
-    show();
+    if (screen()->size().boundedTo(smallScreen) == screen()->size())
+        showMaximized(); // or a map would not fit
+    else
+        show();
     MDIForm_Load();
     // A desktop that does not give the focus to new windows must not leave the splash standing.
     QMetaObject::invokeMethod(this, &MDIParent::MDIForm_Activate, Qt::QueuedConnection);

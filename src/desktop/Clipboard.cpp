@@ -6,21 +6,22 @@
 
 namespace {
 
-void report(bool copied)
+bool reported(bool copied)
 {
     if (!copied)
         MsgBox::show(errorText(521, "Can't open Clipboard"), MsgIcon::Exclamation, MsgButtons::Ok,
                      "Clipboard Error");
+    return copied;
 }
 
 } // namespace
 
-void copyOrReport(const QString& text)
+bool copyOrReport(const QString& text)
 {
-    report(Platform::current().setClipboard(text));
+    return reported(Platform::current().setClipboard(text));
 }
 
-void copyOrReport(const QImage& picture)
+bool copyOrReport(const QImage& picture)
 {
-    report(Platform::current().setClipboard(picture));
+    return reported(Platform::current().setClipboard(picture));
 }

@@ -4,8 +4,8 @@
 #include <QString>
 
 /// Clears the clipboard and puts a text on it, as plain text alone and to the letter (CR LF stay). A desktop
-/// that does not take it is reported in a box, "Clipboard Error"; nothing else changes.
-void copyOrReport(const QString& text);
+/// that does not take it is reported in a box, "Clipboard Error", and nothing else changes; false then.
+bool copyOrReport(const QString& text);
 
 /// The same with a picture.
-void copyOrReport(const QImage& picture);
+bool copyOrReport(const QImage& picture);

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QGridLayout>
 #include <QMessageBox>
+#include <QScreen>
 
 namespace {
 
@@ -34,6 +35,28 @@ void makeRoomForTitle(QMessageBox& box)
     layout.addItem(new QSpacerItem(room, 0), layout.rowCount(), 0, 1, layout.columnCount());
 }
 
+/// QDialog puts a box in the middle of its window. Where it would cover what it announces, it stands below
+/// that, or else at its right, above it or at its left: the first side on which the screen has room.
+void keepClearOf(QMessageBox& box, const QRect& announced)
+{
+    constexpr QSize border(12, 40); // of the desktop's, with a title bar
+    const QSize size = box.sizeHint() + border;
+    const QRect screen = box.screen()->availableGeometry();
+    QRect usual(QPoint(), size);
+    usual.moveCenter(box.parentWidget() ? box.parentWidget()->geometry().center() : screen.center());
+    if (announced.isEmpty() || !usual.intersects(announced))
+        return;
+    const QPoint middle = usual.topLeft();
+    for (const QPoint& corner :
+         {QPoint(middle.x(), announced.bottom() + 1), QPoint(announced.right() + 1, middle.y()),
+          QPoint(middle.x(), announced.top() - size.height()),
+          QPoint(announced.left() - size.width(), middle.y())})
+        if (screen.contains(QRect(corner, size))) {
+            box.move(corner);
+            return;
+        }
+}
+
 MsgAnswer showBox(const MsgBox::Message& message)
 {
     QMessageBox box(QApplication::activeWindow());
@@ -46,6 +69,7 @@ MsgAnswer showBox(const MsgBox::Message& message)
     box.setDefaultButton(asks ? QMessageBox::Yes : QMessageBox::Ok);
     box.setEscapeButton(asks ? QMessageBox::No : QMessageBox::Ok);
     makeRoomForTitle(box);
+    keepClearOf(box, message.announced);
     const int answer = box.exec();
     if (!asks)
         return MsgAnswer::Ok;
@@ -60,9 +84,10 @@ MsgBox::BackEnd& backEnd()
 
 } // namespace
 
-MsgAnswer MsgBox::show(const QString& text, MsgIcon icon, MsgButtons buttons, const QString& title)
+MsgAnswer MsgBox::show(const QString& text, MsgIcon icon, MsgButtons buttons, const QString& title,
+                       const QRect& announced)
 {
-    return backEnd()({text, icon, buttons, title});
+    return backEnd()({text, icon, buttons, title, announced});
 }
 
 void MsgBox::setBackEnd(BackEnd replacement)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <QRect>
 #include <QString>
 
 inline const QString applicationTitle = QStringLiteral("Kestrel Reader: Portuguese Version");
@@ -20,11 +21,12 @@ public:
         MsgIcon icon;
         MsgButtons buttons;
         QString title;
+        QRect announced; ///< on the screen: what the text speaks of, and the box does not cover if it can
     };
     using BackEnd = std::function<MsgAnswer(const Message&)>;
 
     static MsgAnswer show(const QString& text, MsgIcon icon, MsgButtons buttons = MsgButtons::Ok,
-                          const QString& title = applicationTitle);
+                          const QString& title = applicationTitle, const QRect& announced = {});
 
     /// Replaces what shows the boxes; an empty function brings the real boxes back.
     static void setBackEnd(BackEnd backEnd);

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QUrl>
 
+class QWidget;
+
 /// The services of the desktop that a test wants to watch or refuse. One door: Platform::current().
 class Platform
 {
@@ -25,6 +27,9 @@ public:
     /// Clears the clipboard and puts a text or a picture on it. False when the desktop did not take it.
     virtual bool setClipboard(const QString& text);
     virtual bool setClipboard(const QImage& picture);
+
+    /// Has a screen reader, if one listens, speak a text about a widget. It moves no focus.
+    virtual void announce(QWidget& about, const QString& text);
 
     static Platform& current();
     /// Replaces the services; nullptr brings the real ones back. The caller keeps the ownership.

@@ -118,7 +118,8 @@ void ChildMapDsp::cmdZoom_Click()
 
 void ChildMapDsp::cmdPicCopy_Click()
 {
-    copyOrReport(Image1->image());
+    if (copyOrReport(Image1->image()) && !Image1->image().isNull())
+        cmdPicCopy->acknowledge("Copied");
 }
 
 void ChildMapDsp::fitWindow()

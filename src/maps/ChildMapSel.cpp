@@ -5,6 +5,7 @@
 #include "maps/CaptionFrame.h"
 #include "maps/ChildMapDsp.h"
 #include "maps/TabStrip.h"
+#include "maps/TopicModel.h"
 #include "maps/TopicText.h"
 #include "pictures/Pictures.h"
 #include "read/ChildRead.h"
@@ -82,6 +83,7 @@ ChildMapSel::ChildMapSel(Shell& shell)
         TabStrip1->addTab(caption);
     for (std::size_t index = 0; index < groups.size(); ++index)
         optEvents[index] = new QRadioButton(groups[index].caption, Frame1);
+    Combo2->setModel(new TopicModel(Combo2));
     Label1->setWordWrap(true);
     Label1->setAlignment(Qt::AlignTop);
     Image1->setIcon(iconOf(PictureId::Web));

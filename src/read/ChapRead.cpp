@@ -10,9 +10,11 @@
 #include "widgets/Fonts.h"
 #include "widgets/Layout.h"
 #include "widgets/Menus.h"
+#include "widgets/PageKey.h"
 #include "widgets/Shell.h"
 #include "widgets/SoftBttn.h"
 #include "widgets/Twips.h"
+#include <QScrollBar>
 
 ChapRead::ChapRead(Shell& shell)
     : Form(shell, "ChapRead")
@@ -60,8 +62,10 @@ void ChapRead::showChapter(const QString& reference)
 void ChapRead::highlight(const QString& verse)
 {
     const qsizetype start = ChapText->text().indexOf(verse);
-    if (start >= 0)
-        ChapText->setSelection(start, verse.size());
+    if (start < 0)
+        return;
+    ChapText->setSelection(start, verse.size());
+    ChapText->centerSelection(); // so that what the verse belongs to shows on both sides
 }
 
 void ChapRead::Form_Load()
@@ -80,14 +84,23 @@ void ChapRead::Form_Resize()
         button->move(toPixels(width + 150), button->y());
 }
 
+// On the buttons the page keys scroll the chapter all the same; in the text they move the caret.
+bool ChapRead::Form_KeyDown(QKeyEvent& event)
+{
+    const int pages = ChapText->hasFocus() ? 0 : pagesOf(event);
+    QScrollBar& bar = *ChapText->verticalScrollBar();
+    bar.setValue(bar.value() + pages * qMax(1, bar.pageStep() - 1)); // one line shows before and after
+    return pages != 0;
+}
+
 void ChapRead::cmdFont_Click()
 {
-    ChapText->setFont(nextTypeSize(ChapText->font()));
+    ChapText->setType(nextTypeSize(ChapText->font()));
 }
 
 void ChapRead::cmdFntFace_Click()
 {
-    ChapText->setFont(otherTypeFace(ChapText->font(), m_otherFace));
+    ChapText->setType(otherTypeFace(ChapText->font(), m_otherFace));
 }
 
 void ChapRead::cmdChapCopy_Click()
@@ -114,5 +127,6 @@ void ChapRead::cmdTip_Click()
 
 void ChapRead::mnuCopy_Click()
 {
-    copyOrReport(referenceInCaption(caption()) + "\r\n" + ChapText->text());
+    if (copyOrReport(referenceInCaption(caption()) + "\r\n" + ChapText->text()))
+        cmdChapCopy->acknowledge("Copied");
 }

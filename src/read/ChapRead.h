@@ -24,6 +24,7 @@ public:
 protected:
     void Form_Load() override;
     void Form_Resize() override;
+    bool Form_KeyDown(QKeyEvent& event) override;
 
 private:
     void cmdFont_Click();

@@ -2,6 +2,7 @@
 
 #include "desktop/BasePath.h"
 #include "desktop/Clipboard.h"
+#include "desktop/Platform.h"
 #include "read/ChapRead.h"
 #include "read/Chapter.h"
 #include "read/Stepping.h"
@@ -13,6 +14,7 @@
 #include "widgets/Hourglass.h"
 #include "widgets/Layout.h"
 #include "widgets/Menus.h"
+#include "widgets/PageKey.h"
 #include "widgets/Shell.h"
 #include "widgets/SoftBttn.h"
 #include "widgets/Text.h"
@@ -40,7 +42,6 @@ ChildRead::ChildRead(Shell& shell)
 {
     VerseText->setFont(Fonts::tahomaOf(18));
     lblSerial->hide();
-    lblVerseId->setFont(Fonts::captionsOf(7));
     Label2->setBuddy(cboSeconds);
     Timer1->setObjectName("Timer1");
     Timer1->setTimerType(Qt::PreciseTimer);
@@ -122,6 +123,7 @@ void ChildRead::Form_Activate()
     lblVerseId_Change();
     if (state() != Minimized)
         resumeTimer();
+    announceVerse();
 }
 
 void ChildRead::Form_Deactivate()
@@ -151,6 +153,13 @@ void ChildRead::Form_Resize()
                      lblVerseId->y()); // stays below the buttons, where it was laid out
 }
 
+// Anywhere in the window, as the verse is what there is to page through.
+bool ChildRead::Form_KeyDown(QKeyEvent& event)
+{
+    const int pages = pagesOf(event);
+    return pages != 0 && VerseText->scrollByPages(pages);
+}
+
 void ChildRead::DataCtl_Reposition()
 {
     VerseText->setText(toText(DataCtl->field("KJVerseText")));
@@ -160,6 +169,7 @@ void ChildRead::DataCtl_Reposition()
         return;
     lblVerseId->setText(key);
     lblVerseId_Change();
+    announceVerse();
 }
 
 void ChildRead::lblVerseId_Change()
@@ -213,7 +223,8 @@ void ChildRead::cmdFntFace_Click()
 
 void ChildRead::cmdCopy_Click()
 {
-    copyOrReport(lblVerseId->text() + "\r\n" + VerseText->text() + " (PT)");
+    if (copyOrReport(lblVerseId->text() + "\r\n" + VerseText->text() + " (PT)"))
+        cmdCopy->acknowledge("Copied");
 }
 
 void ChildRead::cmdChap_Click()
@@ -234,4 +245,13 @@ void ChildRead::resumeTimer()
 {
     if (chkAuto->isChecked() && !Timer1->isActive())
         Timer1->start();
+}
+
+void ChildRead::announceVerse()
+{
+    const QString key = lblVerseId->text();
+    if (!isActive() || key.isEmpty() || key == m_announced)
+        return;
+    m_announced = key;
+    Platform::current().announce(*VerseText, key + VerseText->text());
 }

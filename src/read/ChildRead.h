@@ -36,6 +36,7 @@ protected:
     void Form_Activate() override;
     void Form_Deactivate() override;
     void Form_Resize() override;
+    bool Form_KeyDown(QKeyEvent& event) override;
 
 private:
     void DataCtl_Reposition();
@@ -52,6 +53,8 @@ private:
 
     void showNumber(int number);
     void resumeTimer();
+    /// Tells a screen reader of the verse, once, as soon as it is what the reader looks at.
+    void announceVerse();
 
     DataControl* DataCtl;
     VerseLabel* VerseText;
@@ -69,4 +72,5 @@ private:
     QTimer* Timer1;
 
     bool m_otherFace = false;
+    QString m_announced; ///< the key of the verse that was announced last
 };

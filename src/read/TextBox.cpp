@@ -7,23 +7,11 @@
 #include <QScrollBar>
 #include <QTextBlock>
 
-namespace {
-
-/// Selected text stands out as clearly while another window has the focus (10 to 1).
-QPalette withClearSelection(QPalette palette)
-{
-    palette.setColor(QPalette::Highlight, QColor(0, 64, 128));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    return palette;
-}
-
-} // namespace
-
 TextBox::TextBox(QWidget* parent)
     : PlainText(parent)
 {
     TextBoxReader::install();
-    setPalette(withClearSelection(readingSurface(palette())));
+    setPalette(readingSurface(palette()));
     verticalScrollBar()->setPalette(parent->palette());
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -70,6 +58,40 @@ void TextBox::setSelection(qsizetype start, qsizetype length)
     caret.setPosition(last, QTextCursor::KeepAnchor);
     setTextCursor(caret);
     verticalScrollBar()->setValue(scrolled);
+}
+
+void TextBox::centerSelection()
+{
+    const QTextCursor selection = textCursor();
+    QTextCursor caret = selection;
+    caret.setPosition((selection.selectionStart() + selection.selectionEnd()) / 2);
+    setTextCursor(caret);
+    centerCursor();
+    caret.setPosition(selection.selectionStart());
+    setTextCursor(caret);
+    const int scrolled = verticalScrollBar()->value();
+    setTextCursor(selection);
+    verticalScrollBar()->setValue(scrolled);
+}
+
+void TextBox::setType(const QFont& font)
+{
+    const bool wasOnShow = isSelectionOnShow();
+    setFont(font);
+    if (wasOnShow)
+        centerSelection();
+}
+
+bool TextBox::isSelectionOnShow() const
+{
+    QTextCursor start = textCursor();
+    QTextCursor end = start;
+    start.setPosition(start.selectionStart());
+    end.setPosition(end.selectionEnd());
+    const QRect selection(cursorRect(start).topLeft(), cursorRect(end).bottomRight());
+    const QRect room = viewport()->rect();
+    return textCursor().hasSelection() && selection.top() <= room.bottom() &&
+           selection.bottom() >= room.top();
 }
 
 QMimeData* TextBox::createMimeDataFromSelection() const

@@ -24,11 +24,17 @@ public:
     QString selText() const { return m_text.mid(selStart(), selLength()); }
     /// Selects, and scrolls the selection into view: as much of it as there is room for, from its start.
     void setSelection(qsizetype start, qsizetype length);
+    /// Scrolls the middle of the selection to the middle of the box, as far as the text reaches. A selection
+    /// without room shows from its start.
+    void centerSelection();
+    /// Sets the type. A selection that shows does so in the new type too.
+    void setType(const QFont& font);
 
 protected:
     QMimeData* createMimeDataFromSelection() const override;
 
 private:
+    bool isSelectionOnShow() const;
     qsizetype offsetAt(int position) const;
     int positionAt(qsizetype offset) const;
 

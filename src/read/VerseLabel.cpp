@@ -1,6 +1,7 @@
 #include "read/VerseLabel.h"
 
 #include "read/ReadingSurface.h"
+#include "read/VerseLabelReader.h"
 #include <QCoreApplication>
 #include <QPainter>
 #include <QScrollBar>
@@ -9,7 +10,6 @@
 namespace {
 
 constexpr int textMargin = 6;
-constexpr int wrapped = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
 
 } // namespace
 
@@ -17,6 +17,7 @@ VerseLabel::VerseLabel(QWidget* parent)
     : QLabel(parent)
     , m_scrollBar(new QScrollBar(Qt::Vertical, this))
 {
+    VerseLabelReader::install();
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
@@ -36,19 +37,58 @@ void VerseLabel::setText(const QString& text)
     fitScrollBar();
 }
 
+// The line that was the first to show is so again, wherever its words stand now.
 void VerseLabel::setFont(const QFont& font)
 {
+    const int first = m_lines.lineCount() > 0 ? m_lines.lineAt(m_scrollBar->value()).textStart() : 0;
     QLabel::setFont(font);
     fitScrollBar();
+    m_scrollBar->setValue(m_lines.lineForTextPosition(first).lineNumber());
+}
+
+bool VerseLabel::scrollByPages(int pages)
+{
+    m_scrollBar->setValue(m_scrollBar->value() + pages * m_scrollBar->pageStep());
+    return !m_scrollBar->isHidden();
+}
+
+std::pair<int, int> VerseLabel::lineAround(int character) const
+{
+    if (character < 0 || character >= text().size())
+        return {-1, -1};
+    const QTextLine line = m_lines.lineForTextPosition(character);
+    return {line.textStart(), line.textStart() + line.textLength()};
+}
+
+QRect VerseLabel::characterRect(int character) const
+{
+    if (lineAround(character).first < 0)
+        return {};
+    const QTextLine line = m_lines.lineForTextPosition(character);
+    const int left = qRound(line.cursorToX(character));
+    const int height = fontMetrics().lineSpacing();
+    const QPoint start = textArea().topLeft();
+    return {start.x() + left, start.y() + (line.lineNumber() - m_scrollBar->value()) * height,
+            qRound(line.cursorToX(character + 1)) - left, height};
+}
+
+void VerseLabel::showCharacter(int character)
+{
+    if (lineAround(character).first < 0)
+        return;
+    const int line = m_lines.lineForTextPosition(character).lineNumber();
+    m_scrollBar->setValue(qBound(line - linesWithRoom() + 1, m_scrollBar->value(), line));
 }
 
 void VerseLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     drawFrame(&painter);
-    const QRect area = textArea();
-    painter.setClipRect(area);
-    painter.drawText(area.adjusted(0, -m_scrollBar->value(), 0, heightOf(area.width())), wrapped, text());
+    const QPoint start = textArea().topLeft();
+    const int first = m_scrollBar->value();
+    const int end = qMin(m_lines.lineCount(), first + linesWithRoom());
+    for (int line = first; line < end; ++line)
+        m_lines.lineAt(line).draw(&painter, start - QPoint(0, first * fontMetrics().lineSpacing()));
 }
 
 void VerseLabel::resizeEvent(QResizeEvent* event)
@@ -57,10 +97,12 @@ void VerseLabel::resizeEvent(QResizeEvent* event)
     fitScrollBar();
 }
 
+// At its end too the verse keeps the wheel, or the frame's area would move behind it.
 void VerseLabel::wheelEvent(QWheelEvent* event)
 {
     if (m_scrollBar->isVisible())
         QCoreApplication::sendEvent(m_scrollBar, event);
+    event->accept();
 }
 
 QRect VerseLabel::textArea() const
@@ -69,9 +111,26 @@ QRect VerseLabel::textArea() const
     return contentsRect().adjusted(textMargin, textMargin, -textMargin - bar, -textMargin);
 }
 
-int VerseLabel::heightOf(int width) const
+void VerseLabel::breakLines(int width)
 {
-    return fontMetrics().boundingRect(QRect(0, 0, width, 1 << 20), wrapped, text()).height();
+    QTextOption wrapped;
+    wrapped.setWrapMode(QTextOption::WordWrap);
+    m_lines.setTextOption(wrapped);
+    m_lines.setFont(font());
+    m_lines.setText(text());
+    m_lines.beginLayout();
+    for (QTextLine line = m_lines.createLine(); line.isValid(); line = m_lines.createLine()) {
+        line.setLineWidth(width);
+        line.setPosition(QPointF(0, line.lineNumber() * fontMetrics().lineSpacing()));
+    }
+    m_lines.endLayout();
+}
+
+int VerseLabel::linesWithRoom() const
+{
+    // A line without the space below it.
+    const int height = contentsRect().height() - 2 * textMargin + fontMetrics().leading();
+    return qMax(1, height / fontMetrics().lineSpacing());
 }
 
 void VerseLabel::fitScrollBar()
@@ -79,10 +138,13 @@ void VerseLabel::fitScrollBar()
     const QRect inside = contentsRect();
     const int barWidth = m_scrollBar->sizeHint().width();
     m_scrollBar->setGeometry(inside.right() + 1 - barWidth, inside.top(), barWidth, inside.height());
-    const int visibleHeight = inside.height() - 2 * textMargin;
-    m_scrollBar->setVisible(heightOf(inside.width() - 2 * textMargin) > visibleHeight);
-    m_scrollBar->setRange(0, qMax(0, heightOf(textArea().width()) - visibleHeight));
-    m_scrollBar->setPageStep(qMax(1, visibleHeight));
-    m_scrollBar->setSingleStep(fontMetrics().lineSpacing());
+    m_scrollBar->hide();
+    breakLines(textArea().width());
+    if (m_lines.lineCount() > linesWithRoom()) {
+        m_scrollBar->show();
+        breakLines(textArea().width());
+    }
+    m_scrollBar->setRange(0, qMax(0, m_lines.lineCount() - linesWithRoom()));
+    m_scrollBar->setPageStep(qMax(1, linesWithRoom() - 1));
     update();
 }

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <QLabel>
+#include <QTextLayout>
+#include <utility>
 
 class QScrollBar;
 
 /// A word-wrapped label for a verse in large type. A verse longer than the label can be scrolled, by wheel,
-/// by the scroll bar and, with the bar focused, by keyboard; so no word is ever cut off.
+/// by the scroll bar and by page keys. It moves by whole lines and shows none in part, so no word is ever cut
+/// off.
 class VerseLabel : public QLabel
 {
     Q_OBJECT
@@ -16,6 +19,17 @@ public:
     void setText(const QString& text);
     void setFont(const QFont& font);
 
+    /// Goes on, or back (pages below 0), by as many lines as show, less one that shows before and after.
+    /// False when the whole verse shows; at either end of a longer one nothing moves.
+    bool scrollByPages(int pages);
+
+    /// For a screen reader: the first character of the line around another, and the one after its last; -1
+    /// and -1 beyond the text. Where a character stands in the label, scrolled out of sight or not. And
+    /// scrolling its line into view.
+    std::pair<int, int> lineAround(int character) const;
+    QRect characterRect(int character) const;
+    void showCharacter(int character);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -23,8 +37,11 @@ protected:
 
 private:
     QRect textArea() const;
-    int heightOf(int width) const;
+    /// Breaks the text into lines of this width in pixels.
+    void breakLines(int width);
+    int linesWithRoom() const;
     void fitScrollBar();
 
-    QScrollBar* m_scrollBar;
+    QTextLayout m_lines;
+    QScrollBar* m_scrollBar; ///< its value is the first line on show
 };

@@ -5,6 +5,7 @@
 #include "desktop/Clipboard.h"
 #include "desktop/ErrorText.h"
 #include "desktop/MsgBox.h"
+#include "pictures/Colors.h"
 #include "read/ChildRead.h"
 #include "search/CopiedResults.h"
 #include "search/SearchRanges.h"
@@ -44,7 +45,18 @@ QString searchedWord(const QString& text, std::int16_t wholeWord)
     return wholeWord == 1 && !word.isEmpty() ? wrapWholeWord(word) : word;
 }
 
-/// Paper while it takes input, grey while it does not.
+/// The palest ink on this face that can still be read without effort.
+QColor restingInk(const QColor& face)
+{
+    const QColor strongest = isLight(face) ? Qt::black : Qt::white;
+    constexpr double readable = 4.6; // to 1
+    double share = 0.4;
+    while (share < 1 && contrastRatio(blended(face, strongest, share), face) < readable)
+        share += 0.02;
+    return blended(face, strongest, share);
+}
+
+/// Paper while it takes input; grey while it does not, its words in a paler ink.
 void setBackgrounds(QWidget& control)
 {
     QPalette palette = control.palette();
@@ -54,6 +66,8 @@ void setBackgrounds(QWidget& control)
         palette.setColor(role, paper);
         palette.setColor(QPalette::Disabled, role, grey);
     }
+    for (const auto role : {QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, restingInk(grey));
     control.setPalette(palette);
 }
 
@@ -160,7 +174,8 @@ void frmAdvSearch::Form_Resize()
                  List1->isHidden() ? inputHeight : resultsHeight);
     // Maximised, the list takes the room that there is.
     const QSize room = size() - QSize(2 * List1->x(), List1->y() + List1->x());
-    List1->resize(room.expandedTo(QSize(toPixels(listWidth), toPixels(listHeight))));
+    const QSize list = room.expandedTo(QSize(toPixels(listWidth), toPixels(listHeight)));
+    List1->resize(list.width(), List1->heightOfWholeLines(list.height()));
 }
 
 void frmAdvSearch::Form_Unload()
@@ -282,8 +297,9 @@ void frmAdvSearch::reportNoMatches()
 void frmAdvSearch::reportCount()
 {
     stopClip();
+    const QRect rows(List1->mapToGlobal(QPoint()), List1->size());
     MsgBox::show(QString("%1 verse(s) found.").arg(List1->count()), MsgIcon::Information, MsgButtons::Ok,
-                 resultsTitle);
+                 resultsTitle, rows);
     List1->setFocus();
 }
 
@@ -391,7 +407,8 @@ void frmAdvSearch::cmdCopySR_Click()
     if (results.isCutShort)
         MsgBox::show(QString("Only the first %1 verses will be copied to the Clipboard!").arg(results.lines),
                      MsgIcon::Information);
-    copyOrReport(results.text);
+    if (copyOrReport(results.text))
+        cmdCopySR->acknowledge("Copied");
 }
 
 void frmAdvSearch::cmdHelp_Click()

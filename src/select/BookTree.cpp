@@ -1,10 +1,23 @@
 #include "select/BookTree.h"
 
 #include "store/BookCatalog.h"
+#include "widgets/RowHeight.h"
 #include "widgets/Text.h"
+#include <QStyledItemDelegate>
 #include <QTreeWidget>
 
 namespace {
+
+class RowDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index).expandedTo(QSize(0, minRowHeight));
+    }
+};
 
 // The catalog stands in the order of the tree, so a node is either the last one of its parent or new.
 QTreeWidgetItem* lastChild(QTreeWidgetItem& parent, const QString& text)
@@ -17,6 +30,7 @@ QTreeWidgetItem* lastChild(QTreeWidgetItem& parent, const QString& text)
 
 void fillBookTree(QTreeWidget& tree)
 {
+    tree.setItemDelegate(new RowDelegate(&tree));
     auto* root = new QTreeWidgetItem(&tree, {"Books of the Kestrel Reader"});
     for (const Book& book : bookCatalog()) {
         QTreeWidgetItem* parent = lastChild(*root, toText(book.testament));

@@ -4,8 +4,10 @@
 #include "desktop/Platform.h"
 #include "select/BookTree.h"
 #include "select/Lookup.h"
+#include "select/ReferenceBox.h"
 #include "store/BookCatalog.h"
 #include "widgets/EnterKey.h"
+#include "widgets/KeepsScrolling.h"
 #include "widgets/KeptSelection.h"
 #include "widgets/Layout.h"
 #include "widgets/Shell.h"
@@ -21,8 +23,8 @@ ChildSelect::ChildSelect(Shell& shell)
     : Form(shell, "ChildSelect")
     , cmdExamples(new SoftBttn(PictureId::Examples, "Examples", this))
     , cmdGo(new SoftBttn(PictureId::DisplayVerse, "Display Verse", this))
-    , TreeView1(new QTreeWidget(this))
-    , Combo1(new QComboBox(this))
+    , TreeView1(new KeepsScrolling<QTreeWidget>(this))
+    , Combo1(new ReferenceBox(this))
 {
     setCaption("Select Verse for Reading");
     TreeView1->header()->hide();

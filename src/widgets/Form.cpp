@@ -4,6 +4,7 @@
 #include "widgets/Menus.h"
 #include "widgets/SpokenWindow.h"
 #include "widgets/Twips.h"
+#include <algorithm>
 #include <QAccessible>
 #include <QApplication>
 #include <QCloseEvent>
@@ -228,6 +229,8 @@ bool Form::isMovedByKeyboard() const
 
 bool Form::preview(QKeyEvent& event)
 {
+    if (state() == Minimized)
+        return false;
     if (hasAccessKeys() && pressAccessKey(*this, event))
         return true;
     return event.type() == QEvent::KeyPress && Form_KeyDown(event);
@@ -319,4 +322,20 @@ void Form::windowStateChanged(Qt::WindowStates oldState, Qt::WindowStates newSta
     if (m_lastFocus && isAncestorOf(window()->focusWidget()))
         m_lastFocus->setFocus();
     Form_Resize();
+    if (newState.testFlag(Qt::WindowMinimized) && subWindow()->mdiArea()->currentSubWindow() == subWindow())
+        handOver();
+}
+
+// QMdiArea leaves a minimised window active, with the keys going to controls that nobody sees.
+void Form::handOver()
+{
+    QList<QMdiSubWindow*> windows = subWindow()->mdiArea()->subWindowList(QMdiArea::ActivationHistoryOrder);
+    std::reverse(windows.begin(), windows.end());
+    for (const QMdiSubWindow* window : windows) {
+        auto* form = qobject_cast<Form*>(window->widget());
+        if (form && form->state() != Minimized) {
+            form->activate();
+            return;
+        }
+    }
 }

@@ -65,7 +65,8 @@ public:
     /// Whether the keyboard moves or sizes the window now: every key belongs to that, until the focus leaves.
     bool isMovedByKeyboard() const;
     /// The frame tells the window of a key that is about to go to its control with the focus; true keeps the
-    /// key from it. The window must not be moved or sized by keyboard.
+    /// key from it. The window must not be moved or sized by keyboard. Minimised it takes none: an icon has
+    /// no control that a reader could mean.
     bool preview(QKeyEvent& event);
     /// The frame tells the window that the mouse gave the focus to one of its controls. If that activates the
     /// window, the focus stays there whatever Form_Activate does with it.
@@ -112,6 +113,8 @@ private:
     /// Gives the focus to the control that had it last, else to the first that can have it.
     void takeFocus();
     void showBehind(QMdiSubWindow* active);
+    /// Makes the window that was active last, among those that are not minimised, the active one.
+    void handOver();
     void scrollIntoView();
     void windowStateChanged(Qt::WindowStates oldState, Qt::WindowStates newState);
 

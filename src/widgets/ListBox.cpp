@@ -3,6 +3,7 @@
 #include "widgets/EnterKey.h"
 #include "widgets/GuardedSelection.h"
 #include "widgets/ListModel.h"
+#include "widgets/RowHeight.h"
 #include "widgets/Text.h"
 #include <QAccessible>
 #include <QHelpEvent>
@@ -20,8 +21,10 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override
     {
-        return {0, option.fontMetrics.height() + 2};
+        return {0, heightIn(option.fontMetrics)};
     }
+
+    static int heightIn(const QFontMetrics& font) { return qMax(minRowHeight, font.height() + 2); }
 };
 
 bool isMove(int key)
@@ -32,7 +35,7 @@ bool isMove(int key)
 } // namespace
 
 ListBox::ListBox(QWidget* parent)
-    : QListView(parent)
+    : KeepsScrolling(parent)
     , m_model(new ListModel(this))
 {
     setModel(m_model);
@@ -80,6 +83,13 @@ int ListBox::lineAt(const QPoint& point) const
     return indexAt(point).row();
 }
 
+int ListBox::heightOfWholeLines(int room) const
+{
+    const int line = LineDelegate::heightIn(fontMetrics());
+    const int around = 2 * frameWidth();
+    return qMax(1, (room - around) / line) * line + around;
+}
+
 void ListBox::selectCurrentLine()
 {
     const QModelIndex line = currentIndex().isValid() ? currentIndex() : m_model->index(0);
@@ -105,7 +115,7 @@ void ListBox::moveByKey(QKeyEvent* event)
     const int before = selected();
     const bool isArrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
     if (!isArrow || before >= 0)
-        QListView::keyPressEvent(event);
+        KeepsScrolling::keyPressEvent(event);
     // The first arrow key selects the line it stands on, as does a jump to the line that is current already.
     if (isMove(event->key()))
         selectCurrentLine();
@@ -153,7 +163,7 @@ QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex&
 bool ListBox::viewportEvent(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)
-        return QListView::viewportEvent(event);
+        return KeepsScrolling::viewportEvent(event);
     const auto& help = static_cast<QHelpEvent&>(*event);
     showTip(help.pos(), help.globalPos());
     return true;

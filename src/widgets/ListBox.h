@@ -1,5 +1,6 @@
 #pragma once
 
+#include "widgets/KeepsScrolling.h"
 #include <QListView>
 
 class ListLines;
@@ -9,7 +10,7 @@ class ListModel;
 ///
 /// It tells apart how a line was reached, for windows in which keys move through the lines and only a click
 /// of the mouse, Enter or the space bar opens one.
-class ListBox : public QListView
+class ListBox : public KeepsScrolling<QListView>
 {
     Q_OBJECT
 
@@ -27,6 +28,8 @@ public:
     int selected() const;
     /// The place of the line at a point of the viewport; -1 below the last one.
     int lineAt(const QPoint& point) const;
+    /// The height that shows whole lines only: as many as there is room for, and one at least. In pixels.
+    int heightOfWholeLines(int room) const;
     /// Selects the line that keys move from, as long as none is selected. Does nothing in an empty list.
     void selectCurrentLine();
 

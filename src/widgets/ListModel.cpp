@@ -1,6 +1,7 @@
 #include "widgets/ListModel.h"
 
 #include "widgets/Text.h"
+#include "widgets/TypeAhead.h"
 
 void ListModel::setLines(ListLines lines)
 {
@@ -19,4 +20,10 @@ QVariant ListModel::data(const QModelIndex& index, int role) const
     if (!index.isValid() || role != Qt::DisplayRole)
         return {};
     return toText(m_lines.line(index.row()));
+}
+
+QModelIndexList ListModel::match(const QModelIndex& start, int, const QVariant& value, int,
+                                 Qt::MatchFlags) const
+{
+    return rowOfTyped(start, value.toString());
 }

@@ -3,9 +3,12 @@
 #include "widgets/Form.h"
 #include "widgets/Modality.h"
 #include "widgets/Shell.h"
+#include <QActionGroup>
 #include <QMenu>
 
 namespace {
+
+constexpr int longestCaption = 400; // pixels
 
 // Everything below the separator after "Arrange Icons" is the list of windows, made anew each time.
 void listWindows(QMenu& menu, const Shell& shell)
@@ -13,12 +16,16 @@ void listWindows(QMenu& menu, const Shell& shell)
     for (QAction* entry : menu.actions())
         if (entry->objectName().isEmpty())
             delete entry;
+    auto* oneOfThem = menu.findChild<QActionGroup*>(); // one window is active: the others are the choice
     int number = 0;
     for (Form* window : shell.windows()) {
-        const QString caption = window->caption().replace("&", "&&");
-        QAction* entry = menu.addAction(QString("&%1 %2").arg(++number).arg(caption));
+        const QString caption =
+            menu.fontMetrics().elidedText(window->caption(), Qt::ElideMiddle, longestCaption);
+        QAction* entry =
+            menu.addAction(QString("&%1 %2").arg(++number).arg(QString(caption).replace("&", "&&")));
         entry->setCheckable(true);
         entry->setChecked(window->isActive());
+        entry->setActionGroup(oneOfThem);
         QObject::connect(entry, &QAction::triggered, window, [window] {
             if (!isBehindModalWindow(*window))
                 window->restoreAndActivate();
@@ -84,6 +91,7 @@ QMenu* Menus::window(QWidget& owner, Shell& shell)
     QMenu* menu = make(owner, "mnuWindow", "&Window");
     addItem(menu, "mnuArrangeIco", "&Arrange Icons", {}, [&shell] { shell.arrangeIcons(); });
     addSeparator(menu, "mnuSepWindows");
+    new QActionGroup(menu);
     QObject::connect(menu, &QMenu::aboutToShow, &owner, [menu, &shell] { listWindows(*menu, shell); });
     return menu;
 }

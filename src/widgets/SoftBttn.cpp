@@ -4,6 +4,7 @@
 #include "pictures/Colors.h"
 #include "widgets/EnterKey.h"
 #include <QPainter>
+#include <QTimer>
 
 namespace {
 
@@ -72,6 +73,14 @@ void SoftBttn::setUseMaskColor(bool use)
 {
     m_useMaskColor = use;
     update();
+}
+
+void SoftBttn::acknowledge(const QString& spoken)
+{
+    constexpr int moment = 350; // milliseconds
+    setDown(true);
+    QTimer::singleShot(moment, this, [this] { setDown(false); });
+    Platform::current().announce(*this, spoken);
 }
 
 QSize SoftBttn::sizeHint() const

@@ -38,6 +38,10 @@ public:
     bool playSounds() const { return m_playSounds; }
     void setPlaySounds(bool play) { m_playSounds = play; }
 
+    /// Tells that what the button is for has happened, by whatever way: it looks pressed for a moment, and a
+    /// screen reader speaks the text.
+    void acknowledge(const QString& spoken);
+
     QSize sizeHint() const override;
 
 protected:

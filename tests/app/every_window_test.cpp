@@ -65,6 +65,19 @@ TEST_P(EveryWindow, HasAPageInTheHelpThatF1Shows)
     });
 }
 
+TEST_P(EveryWindow, RepeatsNoNameAsADescription)
+{
+    expectOpen([](QWidget& window) {
+        for (QWidget* control : window.findChildren<QWidget*>()) {
+            QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(control);
+            if (!spoken || spoken->text(QAccessible::Name).isEmpty())
+                continue;
+            EXPECT_NE(spoken->text(QAccessible::Description), spoken->text(QAccessible::Name))
+                << control->objectName().toStdString();
+        }
+    });
+}
+
 TEST_P(EveryWindow, NamesEveryControlForTestsAndScreenReaders)
 {
     expectOpen([](QWidget& window) {

@@ -1,9 +1,11 @@
 // The states of the frame's windows when several of them are minimised or maximised.
 #include "maps/ChildMapSel.h"
+#include "read/ChapRead.h"
 #include "read/ChildRead.h"
 #include "search/frmAdvSearch.h"
 #include "select/ChildSelect.h"
 #include "support/Session.h"
+#include <QStyleOptionTitleBar>
 
 class FrameStates : public Session
 {
@@ -100,4 +102,44 @@ TEST_F(FrameStates, ManyIconsAreArrangedInRowsFromTheBottom)
     EXPECT_EQ(places[3].topLeft(), QPoint(places[2].width(), bottom - height));
     for (const QRect& place : places)
         EXPECT_TRUE(room.contains(place));
+}
+
+TEST_F(FrameStates, AMinimisedWindowHandsActivityAndFocusToTheOneBeforeIt)
+{
+    frame().openStudyAids();
+    frame().openSearch();
+    frame().readingWindow().restoreAndActivate();
+    const QList<Form*> order = {&frame().readingWindow(), &get<frmAdvSearch>(), &get<ChildMapSel>(),
+                                &get<ChildSelect>()};
+    for (qsizetype next = 1; next < order.size(); ++next) {
+        outer(*order[next - 1]).showMinimized();
+        settle();
+        EXPECT_EQ(activeForm(), order[next]);
+        EXPECT_TRUE(order[next]->isAncestorOf(QApplication::focusWidget()));
+        EXPECT_EQ(menuBarCaptions().size(), order[next]->menus().size());
+    }
+    outer(*order.last()).showMinimized(); // none is left to take it
+    settle();
+    EXPECT_EQ(activeForm(), order.last());
+    frame().openSelection();
+    EXPECT_EQ(activeForm(), open<ChildSelect>());
+    EXPECT_EQ(get<ChildSelect>().state(), Form::Normal);
+}
+
+TEST_F(FrameStates, IconsShowWhichVerseAndChapterTheyHold)
+{
+    frame().readingWindow().showFirst("SELECT * FROM NewTestament WHERE VerseId = '2Thes:3:16'");
+    press(Qt::Key_F9);
+    for (Form* form : QList<Form*>{&frame().readingWindow(), &get<ChapRead>()}) {
+        form->setState(Form::Minimized);
+        const QMdiSubWindow& icon = outer(*form);
+        QStyleOptionTitleBar bar;
+        bar.initFrom(&icon);
+        bar.rect = QRect(0, 0, icon.width(), 20);
+        bar.titleBarFlags = icon.windowFlags();
+        const int room =
+            icon.style()->subControlRect(QStyle::CC_TitleBar, &bar, QStyle::SC_TitleBarLabel, &icon).width();
+        const QFontMetrics letters(QApplication::font("QMdiSubWindowTitleBar"));
+        EXPECT_GE(room, letters.horizontalAdvance(form->caption())) << form->caption().toStdString();
+    }
 }

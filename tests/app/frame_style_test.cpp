@@ -2,13 +2,18 @@
 #include "app/FrameStyle.h"
 #include "pictures/Colors.h"
 #include <gtest/gtest.h>
+#include <QApplication>
 #include <QCommonStyle>
 #include <QImage>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMdiSubWindow>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QProxyStyle>
 #include <QSet>
 #include <QStyleOption>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -99,6 +104,28 @@ TEST(TitleBar, CloseButtonBearsACross)
     EXPECT_GE(whiteOnDiagonal(titleBar(QStyle::State_Active), close), 7);
 }
 
+TEST(TitleBar, KeepsBothEndsOfACaptionThatIsTooLong)
+{
+    QMdiSubWindow window;
+    window.setWindowTitle("Map -- " + QString("a long way ").repeated(9) + "(Gn 12)");
+    const auto drawn = [](const QString& text, const QWidget* widget) {
+        QImage image(200, 20, QImage::Format_RGB32);
+        QPainter painter(&image);
+        QStyleOptionTitleBar bar;
+        bar.rect = image.rect();
+        bar.palette = light();
+        bar.titleBarFlags = Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint;
+        bar.text = text;
+        const int width =
+            FrameStyle().subControlRect(QStyle::CC_TitleBar, &bar, QStyle::SC_TitleBarLabel, widget).width();
+        if (!widget)
+            bar.text = painter.fontMetrics().elidedText(text, Qt::ElideMiddle, width - 14);
+        FrameStyle().drawComplexControl(QStyle::CC_TitleBar, &bar, &painter, widget);
+        return image;
+    };
+    EXPECT_EQ(drawn("Map -- a long way a l...", &window), drawn(window.windowTitle(), nullptr));
+}
+
 TEST(Palettes, ThatSayTheSameShareOneIdentityInComboBoxesAndScrollBars)
 {
     class Recorder : public QCommonStyle
@@ -145,11 +172,90 @@ TEST(ComboBoxes, LookAsInTheBaseStyleWhetherEnabledOrNot)
         style.drawComplexControl(QStyle::CC_ComboBox, &combo, &painter, nullptr);
         return image;
     };
+    const auto inside = [](const QImage& image) { return image.copy(image.rect().adjusted(2, 2, -2, -2)); };
     FrameStyle style;
     QProxyStyle base("Fusion");
     for (const QPalette& palette : {light(), dark()}) {
-        EXPECT_EQ(drawn(style, palette, true), drawn(base, palette, true));
+        EXPECT_EQ(inside(drawn(style, palette, true)), inside(drawn(base, palette, true)));
         EXPECT_EQ(drawn(style, palette, false), drawn(base, palette, false));
         EXPECT_NE(drawn(style, palette, false), drawn(style, palette, true));
     }
+}
+
+TEST(Fields, HaveAnEdgeThatIsSeenOnDarkDesktopsAndARingAroundTheFocus)
+{
+    const QStyle::State resting = QStyle::State_Enabled | QStyle::State_Active;
+    const QStyle::State focused = resting | QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+    const auto field = [](const auto& draw, QStyle::State state) {
+        QImage image(80, 24, QImage::Format_RGB32);
+        image.fill(dark().color(QPalette::Window));
+        QPainter painter(&image);
+        draw(painter, image.rect(), state);
+        return image;
+    };
+    const auto text = [](QPainter& painter, const QRect& rect, QStyle::State state) {
+        QStyleOptionFrame option;
+        option.palette = dark();
+        option.rect = rect;
+        option.state = state;
+        FrameStyle().drawPrimitive(QStyle::PE_FrameLineEdit, &option, &painter, nullptr);
+    };
+    const auto combo = [](QPainter& painter, const QRect& rect, QStyle::State state) {
+        QStyleOptionComboBox option;
+        option.palette = dark();
+        option.rect = rect;
+        option.state = state;
+        FrameStyle().drawComplexControl(QStyle::CC_ComboBox, &option, &painter, nullptr);
+    };
+    for (const QImage& image :
+         {field(text, resting), field(combo, resting), field(text, focused), field(combo, focused)})
+        for (const QPoint& side : {QPoint(0, 12), QPoint(79, 12), QPoint(40, 0), QPoint(40, 23)})
+            EXPECT_GE(contrastRatio(image.pixelColor(side), dark().color(QPalette::Window)), 3)
+                << side.x() << "," << side.y();
+    EXPECT_NE(field(text, focused), field(text, resting));
+    EXPECT_NE(field(combo, focused), field(combo, resting));
+}
+
+TEST(FocusRings, OfTicksAndTabsAreSeenOnLightAndDark)
+{
+    for (const QPalette& palette : {light(), dark()}) {
+        QImage image(80, 24, QImage::Format_RGB32);
+        image.fill(palette.color(QPalette::Window));
+        QPainter painter(&image);
+        QStyleOptionFocusRect option;
+        option.palette = palette;
+        option.rect = image.rect();
+        option.state = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+        FrameStyle().drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, nullptr);
+        EXPECT_GE(contrastRatio(image.pixelColor(40, 0), palette.color(QPalette::Window)), 3);
+    }
+}
+
+// As rows are drawn in lists and trees.
+TEST(Selections, AreDarkBlueAndPalerWithoutTheFocusAndCanBeReadInBoth)
+{
+    QListWidget list;
+    list.addItems({QString(8, QChar(0x2588))}); // letters that fill their row
+    list.setCurrentRow(0);
+    QLineEdit other;
+    QWidget window;
+    QVBoxLayout rows(&window);
+    rows.addWidget(&list);
+    rows.addWidget(&other);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    const auto colours = [&] {
+        const QRect row = list.visualItemRect(list.item(0));
+        const QImage image = list.viewport()->grab().toImage();
+        return std::pair(image.pixelColor(row.right() - 2, row.center().y()),
+                         image.pixelColor(row.left() + 40, row.center().y()));
+    };
+    list.setFocus();
+    const auto [face, letters] = colours();
+    EXPECT_EQ(face, list.palette().color(QPalette::Active, QPalette::Highlight));
+    EXPECT_GE(contrastRatio(face, letters), 4.5);
+    other.setFocus();
+    const auto [restingFace, restingLetters] = colours();
+    EXPECT_GT(restingFace.lightness(), face.lightness());
+    EXPECT_GE(contrastRatio(restingFace, restingLetters), 4.5);
 }

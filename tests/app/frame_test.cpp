@@ -1,12 +1,20 @@
 // The main frame: toolbar, menus, shared commands, single instances.
 #include "maps/ChildMapSel.h"
+#include "read/ChapRead.h"
 #include "read/ChildRead.h"
+#include "read/TextBox.h"
+#include "read/VerseLabel.h"
 #include "select/ChildSelect.h"
 #include "support/Session.h"
+#include "widgets/ListBox.h"
 #include "widgets/SoftBttn.h"
+#include <QActionGroup>
 #include <QComboBox>
+#include <QScreen>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTimer>
+#include <QTreeWidget>
 
 using Frame = Session;
 
@@ -116,6 +124,39 @@ TEST_F(Frame, ShowsTheTitleOfAWindowHigherThanItself)
     EXPECT_EQ(outer(get<ChildMapSel>()).y(), 0);
 }
 
+TEST_F(Frame, IsNotSlidByWheelOrKeysAtTheEndOfATextOrList)
+{
+    frame().readingWindow().showFirst("SELECT * FROM NewTestament WHERE VerseId = 'Est:8:9'");
+    press(Qt::Key_F9);
+    frame().openStudyAids();
+    auto& references = control<ListBox>(get<ChildMapSel>(), "List1");
+    references.selectCurrentLine();
+    frame().resize(600, 300);
+    settle();
+    QScrollBar& area = *frame().area()->verticalScrollBar();
+    ASSERT_GT(area.maximum(), 0);
+    auto& verse = control<VerseLabel>(frame().readingWindow(), "VerseText");
+    auto& chapter = control<TextBox>(get<ChapRead>(), "ChapText");
+    auto& tree = control<QTreeWidget>(get<ChildSelect>(), "TreeView1");
+    for (QAbstractScrollArea* view :
+         std::initializer_list<QAbstractScrollArea*>{&chapter, &tree, &references}) {
+        view->verticalScrollBar()->setValue(view->verticalScrollBar()->maximum());
+        area.setValue(0);
+        turnWheel(*view->viewport());
+        turnWheel(*view->verticalScrollBar());
+        EXPECT_EQ(area.value(), 0) << "the wheel over " << view->objectName().toStdString();
+        for (const auto key : {Qt::Key_End, Qt::Key_Down, Qt::Key_PageDown, Qt::Key_PageDown}) {
+            QTest::keyClick(view, key);
+            EXPECT_EQ(area.value(), 0) << "a key in " << view->objectName().toStdString();
+        }
+    }
+    auto& bar = *verse.findChild<QScrollBar*>();
+    bar.setValue(bar.maximum());
+    turnWheel(verse);
+    turnWheel(bar);
+    EXPECT_EQ(area.value(), 0);
+}
+
 TEST_F(Frame, F2LeavesAMaximisedSelectionWindowMaximised)
 {
     get<ChildSelect>().setState(Form::Maximized);
@@ -189,8 +230,30 @@ TEST_F(Frame, TheWindowMenuListsTheOpenWindowsAndChecksTheActiveOne)
     EXPECT_EQ(items[3]->text(), "&2 Reading Window -- Mt:1:1");
     EXPECT_FALSE(items[2]->isChecked());
     EXPECT_TRUE(items[3]->isChecked());
+    ASSERT_NE(items[2]->actionGroup(), nullptr) << "marked as one choice of several";
+    EXPECT_EQ(items[2]->actionGroup(), items[3]->actionGroup());
+    EXPECT_TRUE(items[2]->actionGroup()->isExclusive());
     items[2]->trigger();
     EXPECT_EQ(activeForm(), open<ChildSelect>());
+}
+
+TEST_F(Frame, TheWindowMenuLeavesOutTheMiddleOfALongCaption)
+{
+    frame().mapWindow().showMap(3);
+    const QString caption = frame().mapWindow().caption();
+    QMenu* menu = menuOf(frame(), "&Window");
+    QMetaObject::invokeMethod(menu, "aboutToShow");
+    const QString entry = menu->actions().constLast()->text();
+    EXPECT_LT(entry.size(), caption.size());
+    EXPECT_TRUE(entry.startsWith("&2 " + caption.left(20))) << entry.toStdString();
+    EXPECT_TRUE(entry.endsWith(caption.right(20))) << entry.toStdString();
+    EXPECT_LE(menu->sizeHint().width(), 520);
+}
+
+TEST_F(Frame, OpensMaximisedWhereTheScreenIsSmall)
+{
+    ASSERT_LE(frame().screen()->size().height(), 800) << "a test for a small screen";
+    EXPECT_TRUE(frame().isMaximized());
 }
 
 TEST_F(Frame, ArrangesMinimisedWindowsAlongTheBottom)

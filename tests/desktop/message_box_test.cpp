@@ -71,3 +71,28 @@ TEST(MsgBox, AsksYesOrNoAndTakesClosingForNo)
     });
     EXPECT_EQ(MsgBox::show("?", MsgIcon::Question, MsgButtons::YesNo), MsgAnswer::No);
 }
+
+TEST(MsgBox, StandsBesideWhatItAnnouncesWhereThereIsRoom)
+{
+    QWidget window;
+    const QRect screen = window.screen()->availableGeometry();
+    window.setGeometry(screen);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    const QPoint middle = screen.center();
+    for (const QRect& rows :
+         {QRect(middle - QPoint(300, 250), QSize(600, 300)), QRect(middle - QPoint(300, 50), QSize(600, 440)),
+          QRect(screen.topLeft(), QSize(screen.width() / 2 + 20, screen.height()))}) {
+        const auto looking = whenShown(Qt::Key_Return, [rows, screen](QMessageBox& box) {
+            EXPECT_FALSE(box.frameGeometry().intersects(rows)) << rows.top();
+            EXPECT_TRUE(screen.contains(box.geometry()));
+        });
+        MsgBox::show("8 verse(s) found.", MsgIcon::Information, MsgButtons::Ok, "Search Results:", rows);
+    }
+    const auto looking = whenShown(Qt::Key_Return, [middle](QMessageBox& box) {
+        EXPECT_NEAR(box.geometry().center().x(), middle.x(), 30);
+        EXPECT_NEAR(box.geometry().center().y(), middle.y(), 30);
+    });
+    MsgBox::show("8 verse(s) found.", MsgIcon::Information, MsgButtons::Ok,
+                 "Search Results:", screen); // no room
+}

@@ -1,4 +1,5 @@
-"""What a screen reader is told, one JSON list a line: the kind of event, the role and name of what it is about.
+"""What a screen reader is told, one JSON list a line: the kind of event, the role and name of what it is about, or
+what is announced.
 
 A process of its own, because whoever listens has to wait for events all the time.
 """
@@ -7,14 +8,17 @@ import json
 import pyatspi
 from reader import role_of
 
-KINDS = {"object:property-change:accessible-name": "name", "object:state-changed:focused": "focus"}
+KINDS = {"object:property-change:accessible-name": "name", "object:state-changed:focused": "focus",
+         "object:announcement": "announcement"}
 
 
 def tell(event):
     try:
         if event.type == "object:state-changed:focused" and not event.detail1:
             return  # the focus went away; where it goes is told next
-        print(json.dumps([KINDS[str(event.type)], role_of(event.source), event.source.name]), flush=True)
+        kind = KINDS[str(event.type).rstrip(":")]
+        text = event.any_data if kind == "announcement" else event.source.name
+        print(json.dumps([kind, role_of(event.source), text]), flush=True)
     except Exception:  # an object that went away before it could be asked
         pass
 

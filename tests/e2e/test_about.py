@@ -176,13 +176,14 @@ def test_afterwards_a_minimised_window_is_still_minimised_and_takes_no_key(reade
     reader.key("alt+h", "a")
     reader.find("dialog", ABOUT)
     close_about(reader)
-    for key in ("space", "Return", "Tab", "space"):
+    for key in ("space", "Return", "Tab", "space") if alone else ():
         reader.key(key)
     time.sleep(0.5)
     assert reader.find("frame", "Reading Window -- Mt:24:43")
     assert not next_verse.getState().contains(pyatspi.STATE_SHOWING)
-    reader.key("F12")  # it is the active window still
-    reader.find("frame", "Reading Window -- Mt:24:44")
+    if alone:
+        reader.key("F12")  # it is the active window still
+        reader.find("frame", "Reading Window -- Mt:24:44")
 
 
 # --- Esc ---

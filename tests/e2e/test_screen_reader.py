@@ -321,6 +321,16 @@ def test_a_step_tells_the_new_verse(reader, told, verses):
          ("name", "label", " " + verses["2Jn:1:2"]))
 
 
+def test_each_new_verse_and_each_copy_is_announced_once(reader, told, verses):
+    reader.look_up("2Jn:1:1")
+    told(("announcement", "label", "2Jn:1:1 " + verses["2Jn:1:1"]))
+    reader.key("F12")
+    news = told(("announcement", "label", "2Jn:1:2 " + verses["2Jn:1:2"]))
+    reader.key("ctrl+c")
+    news += told(("announcement", "push button", "Copied"))
+    assert [event[0] for event in news].count("announcement") == 2
+
+
 def test_another_window_tells_where_its_focus_is(reader, told):
     reader.open_search()
     told(("focus", "text", "Search for verses containing the following text:"))

@@ -4,11 +4,13 @@
 #include "support/OnceModal.h"
 #include "widgets/DataControl.h"
 #include "widgets/Maker.h"
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 
 namespace {
 
@@ -174,6 +176,29 @@ TEST_F(ChildMapSelTest, TopicFillsItsReferences)
     QTest::keyClick(&Combo2(), Qt::Key_Down);
     QTest::keyClick(&Combo2(), Qt::Key_Down);
     EXPECT_EQ(textsOf(List1()), entriesOf(topicsOf("events")[2]));
+}
+
+TEST_F(ChildMapSelTest, TypedLettersFindATopicBehindItsBlankAndItsArticle)
+{
+    QTest::mouseClick(&optEvents(2), Qt::LeftButton, {}, {8, 8});
+    QTest::keyClicks(&Combo2(), "sow");
+    EXPECT_EQ(Combo2().currentText(), " The Sower");
+    EXPECT_EQ(List1().text(0), " Mt:13:3-9 ");
+    QTest::mouseClick(&optEvents(1), Qt::LeftButton, {}, {8, 8});
+    QTest::keyClicks(&Combo2(), "raising");
+    EXPECT_TRUE(Combo2().currentText().startsWith(" Raising")) << Combo2().currentText().toStdString();
+}
+
+TEST_F(ChildMapSelTest, TypedLettersFindAReferenceBehindItsBlank)
+{
+    QTest::mouseClick(&optEvents(2), Qt::LeftButton, {}, {8, 8});
+    QTest::keyClicks(&Combo2(), "sow");
+    QTest::keyClicks(&List1(), "lk");
+    EXPECT_EQ(List1().text(List1().selected()), " Lk:8:5-8 ");
+    EXPECT_EQ(open<ChildRead>(), nullptr);
+    choosePage(1);
+    QTest::keyClicks(&lstMaps(), "twelve");
+    EXPECT_EQ(lstMaps().selected(), 3);
 }
 
 TEST_F(ChildMapSelTest, ClickOpensTheVerseBeforeTheHyphen)
@@ -544,6 +569,24 @@ TEST_F(ChildMapSelTest, NothingIsCutOrOverlaps)
     }
     const QString longest(60, 'n');
     EXPECT_GE(Combo2().width(), Combo2().fontMetrics().horizontalAdvance(longest) + 40);
+}
+
+TEST_F(ChildMapSelTest, HasLinesOfSeventeenPixelsOrMore)
+{
+    EXPECT_GE(List1().visualRect(List1().model()->index(0, 0)).height(), 17);
+    choosePage(1);
+    EXPECT_GE(lstMaps().visualRect(lstMaps().model()->index(0, 0)).height(), 17);
+}
+
+TEST_F(ChildMapSelTest, ADropDownShowsTwelveRowsAtMostAndAScrollBar)
+{
+    Combo2().showPopup();
+    settle();
+    const QAbstractItemView& list = *Combo2().view();
+    EXPECT_TRUE(list.verticalScrollBar()->isVisible());
+    const int row = list.visualRect(list.model()->index(Combo2().currentIndex(), 0)).height();
+    EXPECT_LE(list.viewport()->height() / row, 12);
+    Combo2().hidePopup();
 }
 
 TEST_F(ChildMapSelTest, TellsAScreenReaderItsNames)

@@ -67,6 +67,16 @@ protected:
 
     static TextBox& textOf(const ChapRead& window) { return control<TextBox>(window, "ChapText"); }
 
+    /// From the first line of the selection to its last one, in the viewport.
+    static QRect selectionIn(const TextBox& box)
+    {
+        QTextCursor start = box.textCursor();
+        QTextCursor end = start;
+        start.setPosition(start.selectionStart());
+        end.setPosition(end.selectionEnd());
+        return {QPoint(0, box.cursorRect(start).top()), QPoint(9, box.cursorRect(end).bottom())};
+    }
+
     static QString clipboard() { return QApplication::clipboard()->text(); }
 };
 
@@ -153,6 +163,56 @@ TEST_F(ChapterWindow, ALongChapterBringsItsHighlightIntoView)
         EXPECT_TRUE(box.viewport()->rect().contains(box.cursorRect(start))) << key;
         EXPECT_TRUE(box.viewport()->rect().contains(box.cursorRect())) << key;
     }
+}
+
+TEST_F(ChapterWindow, OpensWithTheCurrentVerseInTheMiddle)
+{
+    for (const char* key : {"Ps:119:90", "Ps:119:40", "Mt:24:25"}) {
+        const TextBox& box = textOf(openChapterOf(key));
+        const QRect verse = selectionIn(box);
+        const int line = box.fontMetrics().lineSpacing();
+        EXPECT_NEAR(verse.center().y(), box.viewport()->height() / 2, 2 * line) << key;
+    }
+    const TextBox& box = textOf(openChapterOf("Ps:119:1"));
+    EXPECT_EQ(box.verticalScrollBar()->value(), 0);
+    openChapterOf("Ps:119:176");
+    EXPECT_EQ(box.verticalScrollBar()->value(), box.verticalScrollBar()->maximum());
+    EXPECT_TRUE(box.viewport()->rect().contains(selectionIn(box)));
+}
+
+TEST_F(ChapterWindow, AnotherTypeKeepsAHighlightThatShowsInView)
+{
+    ChapRead& window = openChapterOf("Ps:119:90");
+    const TextBox& box = textOf(window);
+    for (const char* name : {"cmdFont", "cmdFntFace", "cmdFont", "cmdFntFace", "cmdFont"}) {
+        click(control<SoftBttn>(window, name));
+        EXPECT_TRUE(box.viewport()->rect().contains(selectionIn(box))) << name;
+    }
+    box.verticalScrollBar()->setValue(0); // scrolled away by the reader
+    click(control<SoftBttn>(window, "cmdFont"));
+    EXPECT_EQ(box.verticalScrollBar()->value(), 0);
+}
+
+TEST_F(ChapterWindow, PageKeysOnAButtonScrollTheTextAndNeverTheFramesArea)
+{
+    ChapRead& window = openChapterOf("Ps:119:1");
+    frame().resize(600, 300);
+    settle();
+    QScrollBar& area = *frame().area()->verticalScrollBar();
+    ASSERT_GT(area.maximum(), 0);
+    control<SoftBttn>(window, "cmdTip").setFocus();
+    const int before = area.value();
+    QScrollBar& bar = *textOf(window).verticalScrollBar();
+    press(Qt::Key_PageDown);
+    EXPECT_GT(bar.value(), 0);
+    press(Qt::Key_PageUp);
+    EXPECT_EQ(bar.value(), 0);
+    bar.setValue(bar.maximum());
+    press(Qt::Key_PageDown);
+    textOf(window).setFocus();
+    press(Qt::Key_PageDown);
+    press(Qt::Key_PageDown);
+    EXPECT_EQ(area.value(), before);
 }
 
 TEST_F(ChapterWindow, LeavesTheSelectionAloneWhenTheVerseIsNotInIt)

@@ -1,10 +1,15 @@
 // The reading window through events.
+#include "pictures/Colors.h"
+#include "read/Stepping.h"
+#include "read/VerseKeyLabel.h"
 #include "read/VerseLabel.h"
 #include "support/CutTexts.h"
 #include "support/Session.h"
 #include "text/Phrases.h"
 #include "widgets/DataControl.h"
+#include "widgets/Fonts.h"
 #include "widgets/SoftBttn.h"
+#include <QAccessible>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -299,15 +304,89 @@ TEST_F(Reading, CopiesKeyAndTextAsPlainText)
     }
 }
 
+TEST_F(Reading, ACopyIsAcknowledgedByItsButtonAndAnAnnouncement)
+{
+    services.announced.clear();
+    for (const bool byKey : {false, true}) {
+        byKey ? press(Qt::Key_C, Qt::ControlModifier) : click(button("cmdCopy"));
+        EXPECT_TRUE(button("cmdCopy").isDown());
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !button("cmdCopy").isDown(); }, 2000));
+    }
+    EXPECT_EQ(services.announced, QStringList({"Copied", "Copied"}));
+    EXPECT_TRUE(boxes.shown.isEmpty());
+}
+
+TEST_F(Reading, EachNewVerseIsAnnouncedOnceWithItsKey)
+{
+    EXPECT_EQ(services.announced, QStringList("Mt:1:1" + verse().text()));
+    services.announced.clear();
+    handNumber(1); // the same again
+    frame().openSelection();
+    window->activate();
+    EXPECT_EQ(services.announced, QStringList());
+    click(button("cmdNext"));
+    EXPECT_EQ(services.announced, QStringList("Mt:1:2" + verse().text()));
+    frame().openSelection();
+    handNumber(lastVerse);
+    EXPECT_EQ(services.announced.size(), 2);
+    EXPECT_EQ(services.announced.constLast(), key() + verse().text());
+    hand("VerseNumber = 0");
+    EXPECT_EQ(services.announced.size(), 2);
+}
+
+TEST_F(Reading, AScreenReaderReadsALongVerseLineByLine)
+{
+    hand("VerseId = 'Est:8:9'");
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&verse());
+    EXPECT_EQ(spoken->text(QAccessible::Name), verse().text());
+    EXPECT_EQ(spoken->role(), QAccessible::StaticText);
+    QAccessibleTextInterface* text = spoken->textInterface();
+    ASSERT_NE(text, nullptr);
+    EXPECT_EQ(text->text(0, text->characterCount()), verse().text());
+    QString all;
+    int lines = 0;
+    int start = 0;
+    int end = 0;
+    for (QString line = text->textAtOffset(0, QAccessible::LineBoundary, &start, &end); !line.isEmpty();
+         line = text->textAfterOffset(start, QAccessible::LineBoundary, &start, &end)) {
+        all += line;
+        ++lines;
+        EXPECT_EQ(text->characterRect(start).top(), text->characterRect(end - 2).top()) << line.toStdString();
+    }
+    EXPECT_EQ(all, verse().text());
+    auto* bar = verse().findChild<QScrollBar*>();
+    EXPECT_EQ(lines, bar->maximum() + bar->pageStep() + 1);
+    const QPoint before = text->characterRect(text->characterCount() - 1).center();
+    EXPECT_FALSE(verse().rect().contains(verse().mapFromGlobal(before)));
+    text->scrollToSubstring(text->characterCount() - 1, text->characterCount());
+    EXPECT_EQ(bar->value(), bar->maximum());
+    const QPoint last = text->characterRect(text->characterCount() - 1).center();
+    EXPECT_TRUE(verse().rect().contains(verse().mapFromGlobal(last)));
+    EXPECT_EQ(text->offsetAtPoint(last), text->characterCount() - 1);
+}
+
+TEST_F(Reading, OpeningItWithAVerseAnnouncesThatVerseAlone)
+{
+    window->unload();
+    settle();
+    services.announced.clear();
+    window = &frame().readingWindow();
+    hand("VerseId = 'Jn:11:35'");
+    EXPECT_EQ(services.announced, QStringList("Jn:11:35" + verse().text()));
+}
+
 TEST_F(Reading, AClipboardThatTakesNothingIsReported)
 {
     services.clipboardWorks = false;
+    services.announced.clear();
     click(button("cmdCopy"));
     ASSERT_EQ(boxes.shown.size(), 1);
     EXPECT_EQ(boxes.shown[0].title, "Clipboard Error");
     EXPECT_EQ(boxes.shown[0].text, "Error 521: Can't open Clipboard");
     EXPECT_EQ(boxes.shown[0].icon, MsgIcon::Exclamation);
     EXPECT_EQ(key(), "Mt:1:1");
+    EXPECT_FALSE(button("cmdCopy").isDown());
+    EXPECT_TRUE(services.announced.isEmpty());
 }
 
 TEST_F(Reading, HandOverToTheMinimisedWindowRestoresAndFocusesIt)
@@ -401,6 +480,79 @@ TEST_F(Reading, AVerseLongerThanTheWindowCanBeScrolledToItsEnd)
     EXPECT_FALSE(bar->isVisible());
 }
 
+TEST_F(Reading, PageKeysScrollALongVerseByWholeLinesFromAnyControl)
+{
+    hand("VerseId = 'Est:8:9'");
+    click(button("cmdFont")); // 24 points, the largest
+    const int line = QFontMetrics(verse().font()).lineSpacing();
+    const QRect area = verse().contentsRect().adjusted(6, 6, -30, -6); // without the scroll bar
+    const int whole = area.height() / line;
+    const auto lineOnShow = [&](int place) {
+        return verse().grab().toImage().copy(area.x(), area.y() + place * line, area.width(), line);
+    };
+    const auto isBlank = [](const QImage& image) {
+        QImage paper(image.size(), image.format());
+        paper.fill(QColor(255, 255, 224));
+        return image == paper;
+    };
+    for (QWidget* control : std::initializer_list<QWidget*>{&button("cmdNext"), &autoJump(), &seconds()}) {
+        control->setFocus();
+        const QImage first = lineOnShow(0);
+        const QImage last = lineOnShow(whole - 1);
+        EXPECT_FALSE(isBlank(last));
+        const QRect below(area.x(), area.y() + whole * line, area.width(), area.height() - whole * line);
+        EXPECT_TRUE(isBlank(verse().grab().toImage().copy(below))) << "half a line shows";
+        press(Qt::Key_PageDown);
+        EXPECT_EQ(lineOnShow(0), last);
+        press(Qt::Key_PageUp);
+        EXPECT_EQ(lineOnShow(0), first);
+    }
+    EXPECT_EQ(seconds().currentText(), "4");
+}
+
+TEST_F(Reading, PageKeysNeverSlideTheFramesAreaBehindALongVerse)
+{
+    hand("VerseId = 'Est:8:9'");
+    click(button("cmdFont"));
+    frame().resize(600, 300);
+    settle();
+    QScrollBar& area = *frame().area()->verticalScrollBar();
+    ASSERT_GT(area.maximum(), 0);
+    const int before = area.value();
+    button("cmdNext").setFocus();
+    for (const auto key : {Qt::Key_PageDown, Qt::Key_PageUp})
+        for (int i = 0; i < 9; ++i) {
+            press(key);
+            EXPECT_EQ(area.value(), before);
+        }
+}
+
+TEST_F(Reading, TheScrollBarOfAVerseShowsItsFocus)
+{
+    hand("VerseId = 'Est:8:9'");
+    auto* bar = verse().findChild<QScrollBar*>();
+    button("cmdNext").setFocus();
+    const QImage without = bar->grab().toImage();
+    bar->setFocus();
+    const QImage with = bar->grab().toImage();
+    const QColor face = bar->palette().color(QPalette::Window);
+    EXPECT_NE(with, without);
+    for (const QPoint edge : {QPoint(0, bar->height() / 2), QPoint(bar->width() / 2, 0)})
+        EXPECT_GE(contrastRatio(with.pixelColor(edge), face), 3);
+}
+
+TEST_F(Reading, AnotherTypeKeepsThePlaceInALongVerse)
+{
+    hand("VerseId = 'Est:8:9'");
+    click(button("cmdFont"));
+    auto* bar = verse().findChild<QScrollBar*>();
+    press(Qt::Key_PageDown);
+    const int lines = bar->value();
+    ASSERT_GT(lines, 0);
+    click(button("cmdFntFace"));
+    EXPECT_NEAR(bar->value(), lines, 2);
+}
+
 TEST_F(Reading, TheWheelScrollsALongVerse)
 {
     hand("VerseId = 'Est:8:9'");
@@ -452,33 +604,36 @@ TEST_F(Reading, TheKeyIsDrawnWholeInOneLineOrInTwoWhereOneDoesNotFit)
     for (const auto& [id, shown] : QList<std::pair<QString, QString>>{
              {"Mt:1:1", "Mt:1:1"}, {"1Thes:5:28", "1Thes:\n5:28"}, {"Ps:119:176", "Ps:\n119:176"}}) {
         hand(("VerseId = '" + id + "'").toStdString());
-        QLabel& place = label("lblVerseId");
+        const auto& place = control<VerseKeyLabel>(*window, "lblVerseId");
         const QRect visible = place.geometry() & window->rect();
         EXPECT_GE(visible.width(), 40);
         QImage expected = window->grab().toImage();
         QPainter painter(&expected);
         painter.fillRect(visible, window->palette().color(QPalette::Window));
-        painter.setFont(place.font());
+        painter.setFont(place.drawnFont());
         painter.setPen(place.palette().color(QPalette::WindowText));
         painter.drawText(visible, Qt::AlignCenter, shown);
         painter.end();
         EXPECT_EQ(window->grab().toImage(), expected) << id.toStdString();
-        const QSize size = QFontMetrics(place.font()).boundingRect(visible, Qt::AlignCenter, shown).size();
+        const QSize size =
+            QFontMetrics(place.drawnFont()).boundingRect(visible, Qt::AlignCenter, shown).size();
         EXPECT_LE(size.width(), visible.width()) << id.toStdString();
         EXPECT_LE(size.height(), visible.height()) << id.toStdString();
     }
 }
 
-TEST_F(Reading, TheReadingSurfaceIsPaleYellowWithDarkText)
+TEST_F(Reading, TheKeyIsDrawnInEightPointsOrMoreWhereThatFits)
 {
-    EXPECT_EQ(verse().palette().color(QPalette::Window), QColor(255, 255, 224));
-    EXPECT_EQ(verse().palette().color(QPalette::WindowText), QColor(Qt::black));
-}
-
-TEST_F(Reading, ClosingAndReopeningLoadsAFreshWindow)
-{
-    handNumber(500);
-    outer(*window).close();
-    EXPECT_EQ(open<ChildRead>(), nullptr);
-    EXPECT_EQ(frame().readingWindow().currentNumber(), 1);
+    for (const char* id :
+         {"Mt:1:1", "Gn:31:55", "Mt:24:43", "Lk:10:37", "Jn:11:35", "1Thes:5:28", "Ps:119:176"}) {
+        hand(std::string("VerseId = '") + id + "'");
+        const auto& place = control<VerseKeyLabel>(*window, "lblVerseId");
+        const int points = place.drawnFont().pointSize();
+        const QSize room = place.visiblePart().size();
+        const QSize oneLine = QFontMetrics(Fonts::captionsOf(8)).size(0, place.text());
+        EXPECT_TRUE(points >= 8 || oneLine.width() > room.width()) << id;
+        EXPECT_GE(points, 7) << id;
+    }
+    hand("VerseId = 'Est:8:9'");
+    EXPECT_GE(control<VerseKeyLabel>(*window, "lblVerseId").drawnFont().pointSize(), 8);
 }

@@ -343,3 +343,24 @@ TEST_F(SearchResults, ReportAClipboardThatTakesNothing)
     EXPECT_EQ(list().count(), count);
     EXPECT_TRUE(isInResultsMode());
 }
+
+TEST_F(SearchResults, EndOnAWholeLineOfSeventeenPixelsOrMore)
+{
+    const auto lineHeight = [this] { return list().visualRect(list().model()->index(0, 0)).height(); };
+    EXPECT_GE(lineHeight(), 17);
+    EXPECT_EQ(list().viewport()->height() % lineHeight(), 0);
+    outer(get<frmAdvSearch>()).showMaximized();
+    for (const int height : {700, 701, 705, 713}) {
+        frame().resize(1000, height);
+        settle();
+        EXPECT_EQ(list().viewport()->height() % lineHeight(), 0) << height;
+    }
+}
+
+TEST_F(SearchResults, AreNotToBeCoveredByTheirCount)
+{
+    newSearch();
+    boxes.shown.clear();
+    click(cmdOK());
+    EXPECT_EQ(boxes.shown.at(0).announced, QRect(list().mapToGlobal(QPoint()), list().size()));
+}

@@ -1,5 +1,7 @@
 // The search window by events: its layouts, the steps of a search, the repeat check, keys.
+#include "pictures/Colors.h"
 #include "search/SearchSession.h"
+#include "select/ChildSelect.h"
 #include "text/Phrases.h"
 #include "widgets/Twips.h"
 #include <QLabel>
@@ -175,20 +177,23 @@ TEST_F(SearchWindow, BeginsANewSearchAndRepeatsTheLastWhileItIsMaximised)
     EXPECT_EQ(outer(window()).size(), QSize(width, inputHeight));
 }
 
-TEST_F(SearchWindow, SearchesByEnterWhileItIsMinimised)
+TEST_F(SearchWindow, SearchesNothingByEnterWhileItIsMinimised)
 {
-    const int width = outer(window()).width();
+    get<ChildSelect>().unload();
+    settle();
     Text1().setText("amor");
+    Data1().setRecordSource("untouched");
     outer(window()).showMinimized();
-    frame().activateWindow();
+    settle();
     QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &outer(window()),
                     Qt::Key_Return);
-    EXPECT_EQ(box(), found(list().count()));
-    EXPECT_GT(list().count(), 0);
+    EXPECT_EQ(sql(), "untouched");
+    EXPECT_TRUE(boxes.shown.isEmpty());
     EXPECT_TRUE(outer(window()).isMinimized());
     frame().openSearch();
+    EXPECT_TRUE(Text1().hasFocus());
+    press(Qt::Key_Return);
     EXPECT_TRUE(isInResultsMode());
-    EXPECT_EQ(outer(window()).size(), QSize(width, resultsHeight));
     EXPECT_TRUE(list().hasFocus());
 }
 
@@ -304,6 +309,40 @@ TEST_F(SearchWindow, ShowsTheHourglassAndItsClipOverAnEmptyListWhileItSearches)
     };
     search("ódio");
     EXPECT_EQ(atQuery, QStringList({"hourglass", "clip", "0"}));
+}
+
+TEST_F(SearchWindow, TheSearchedWordsCanBeReadInResultsMode)
+{
+    const auto inkOf = [](QWidget& input) { // the pixel that stands out most from the face, inside the edge
+        const QImage image = input.grab().toImage();
+        const QColor face = input.palette().color(QPalette::Disabled, QPalette::Base);
+        double most = 1;
+        for (int y = 4; y < image.height() - 4; ++y)
+            for (int x = 4; x < image.width() - 30; ++x)
+                most = qMax(most, contrastRatio(image.pixelColor(x, y), face));
+        return most;
+    };
+    QPalette dark(QColor(0x353535));
+    dark.setColor(QPalette::Base, QColor(0x2d2d2d));
+    for (const QPalette& desktop : {QPalette(), dark}) {
+        click(cmdCancel());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        frame().setPalette(desktop);
+        frame().openSearch();
+        search("amor", 47, "rio", 2);
+        for (QWidget* input : {static_cast<QWidget*>(&Text1()), static_cast<QWidget*>(&Text2()),
+                               static_cast<QWidget*>(&Combo1()), static_cast<QWidget*>(&Combo2())}) {
+            EXPECT_FALSE(input->isEnabled());
+            EXPECT_GE(inkOf(*input), 4.3) << input->objectName().toStdString(); // of letters drawn soft
+            const QPalette& colours = input->palette();
+            for (const auto role : {QPalette::Text, QPalette::ButtonText}) {
+                const QColor ink = colours.color(QPalette::Disabled, role);
+                const QColor face = colours.color(QPalette::Disabled, QPalette::Base);
+                EXPECT_GE(contrastRatio(ink, face), 4.5);
+                EXPECT_LT(contrastRatio(ink, face), 6) << "it looks enabled";
+            }
+        }
+    }
 }
 
 TEST_F(SearchWindow, TurnsIntoResultsModeAndBack)

@@ -5,6 +5,7 @@
 #include "text/Phrases.h"
 #include "widgets/DataControl.h"
 #include "widgets/SoftBttn.h"
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -137,6 +138,11 @@ TEST_F(Selection, TheTreeHas76NodesInTheirOrder)
     EXPECT_EQ(node("Apocalipse -- Rv")->parent(), node("New Testament"));
     EXPECT_EQ(node("New Testament")->parent(), node("Books of the Kestrel Reader"));
     EXPECT_EQ(node("Gálatas -- Gal")->parent(), node("Epistles of St. Paul"));
+}
+
+TEST_F(Selection, TheRowsOfTheTreeAreSeventeenPixelsHighOrMore)
+{
+    EXPECT_GE(tree().visualItemRect(tree().topLevelItem(0)).height(), 17);
 }
 
 TEST_F(Selection, OpensWithTheTestamentsExpandedAndTheGroupsCollapsed)
@@ -422,6 +428,30 @@ TEST_F(Selection, ChoosingFromTheListEnablesTheButton)
     press(Qt::Key_Down);
     EXPECT_EQ(combo().currentText(), "Gn:");
     EXPECT_TRUE(button("cmdGo").isEnabled());
+}
+
+TEST_F(Selection, TheListOpensWithTheBookOfTheTypedReferenceMarked)
+{
+    for (const auto& [typed, book] : QList<std::pair<QString, QString>>{{"Mt:24:43", "Mt:"},
+                                                                        {" jn:3", "Jn:"},
+                                                                        {"2Thes:3:16", "2Thes:"},
+                                                                        {"Ez", "Ez:"},
+                                                                        {"Ezr:1", "Ezr:"},
+                                                                        {"Ma", "Mal:"},
+                                                                        {"J", "Jn:"}}) {
+        combo().setEditText(typed);
+        combo().showPopup();
+        settle();
+        EXPECT_EQ(combo().view()->currentIndex().data().toString(), book) << typed.toStdString();
+        EXPECT_TRUE(combo().view()->viewport()->rect().contains(
+            combo().view()->visualRect(combo().view()->currentIndex()).center()));
+        combo().hidePopup();
+        EXPECT_EQ(combo().currentText(), typed);
+    }
+    combo().setEditText("xyz");
+    combo().showPopup();
+    EXPECT_FALSE(combo().view()->currentIndex().isValid());
+    combo().hidePopup();
 }
 
 TEST_F(Selection, NoTypedReferenceJoinsTheList)

@@ -32,7 +32,7 @@ inline bool hasRoom(const QLabel& label)
     if (qobject_cast<const VerseLabel*>(&label)) // scrolls
         return true;
     if (const auto* key = qobject_cast<const VerseKeyLabel*>(&label))
-        return holds(key->visiblePart().size(), textSize(label, key->drawnKey()));
+        return holds(key->visiblePart().size(), QFontMetrics(key->drawnFont()).size(0, key->drawnKey()));
     if (!label.wordWrap())
         return holds(room.size(), textSize(label, label.text()));
     const QRect unbounded(0, 0, room.width(), QWIDGETSIZE_MAX);

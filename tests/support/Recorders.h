@@ -46,11 +46,14 @@ public:
     bool setClipboard(const QString& text) override { return put(text); }
     bool setClipboard(const QImage& picture) override { return put(picture); }
 
+    void announce(QWidget&, const QString& text) override { announced << text; }
+
     bool anotherCopyRuns = false;
     bool programsStart = true;
     bool clipboardWorks = true;
     QStringList programs;
     QList<QUrl> links;
+    QStringList announced;
     int beeps = 0;
 
 private:
