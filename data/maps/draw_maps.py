@@ -2,6 +2,7 @@
 """Draws the maps: all of them, or those whose numbers are given."""
 import argparse
 import json
+import math
 import subprocess
 import sys
 import tomllib
@@ -17,7 +18,8 @@ from tables import Tables
 from title_box import TitleBox
 
 HERE = Path(__file__).parent
-SCALE = 2  # stored pixels to one of the natural size
+SCALE = 2  # stored pixels to a point of the sheet
+ROOM = (1200, 680)  # the largest natural size: with its window it fits into the frame on a screen of 1280 x 800
 COLOURS = 48
 INHERITED = ("rivers", "min_area", "routes", "areas", "wall_rivers", "capitals", "plan", "hills", "conjecture")
 
@@ -116,6 +118,14 @@ def write_png(surface, png, draft):
         subprocess.run(["zopflipng", "-y", str(png), str(png)], check=True, stdout=subprocess.DEVNULL)
 
 
+def natural_size(width, height):
+    """The size in which a sheet is shown: of the sheet's shape to the pixel, and no larger than it or the room."""
+    parts = math.gcd(width, height)
+    across, down = width // parts, height // parts
+    times = min(parts, ROOM[0] // across, ROOM[1] // down)
+    return across * times, down * times
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("numbers", nargs="*", type=int, help="the maps to draw; all if none is given")
@@ -134,7 +144,7 @@ def main():
     for path in sorted((HERE / "sheets").glob("map*.toml")):
         sheet = read_sheet(path)
         number, file = sheet["number"], path.stem + ".png"
-        rows.append([str(number), file, *map(str, sheet["size"]), sheet["description"]])
+        rows.append([str(number), file, *map(str, natural_size(*sheet["size"])), sheet["description"]])
         if not options.numbers or number in options.numbers:
             jobs.append((sheet, tables, options.out / file, options.draft))
     faulty = False

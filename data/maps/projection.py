@@ -1,4 +1,4 @@
-"""Mercator projection of one panel: degrees to points of the natural size, y downwards."""
+"""Mercator projection of one panel: degrees to points of the sheet, y downwards."""
 import math
 
 EARTH_RADIUS_KM = 6371.0088
