@@ -110,6 +110,7 @@ TEST(TitleBar, KeepsBothEndsOfACaptionThatIsTooLong)
     window.setWindowTitle("Map -- " + QString("a long way ").repeated(9) + "(Gn 12)");
     const auto drawn = [](const QString& text, const QWidget* widget) {
         QImage image(200, 20, QImage::Format_RGB32);
+        image.fill(Qt::white); // the corners stay as they are
         QPainter painter(&image);
         QStyleOptionTitleBar bar;
         bar.rect = image.rect();
@@ -234,11 +235,11 @@ TEST(FocusRings, OfTicksAndTabsAreSeenOnLightAndDark)
 // As rows are drawn in lists and trees.
 TEST(Selections, AreDarkBlueAndPalerWithoutTheFocusAndCanBeReadInBoth)
 {
+    QWidget window;
     QListWidget list;
     list.addItems({QString(8, QChar(0x2588))}); // letters that fill their row
     list.setCurrentRow(0);
     QLineEdit other;
-    QWidget window;
     QVBoxLayout rows(&window);
     rows.addWidget(&list);
     rows.addWidget(&other);

@@ -1,6 +1,6 @@
 """The lists of results and of topics by mouse, and what keys and wheel do in the search window, as a person meets them."""
 import pytest
-from reader import Reader
+from reader import Reader, role_of
 
 MARGIN = 12  # from the edge of a line to where it is clicked
 
@@ -137,6 +137,24 @@ def test_enter_searches_nothing_in_an_icon(reader):
     reader.key("F3")
     reader.wait_for_focus_in(window)
     assert box_of(window).height == tall
+
+
+@pytest.mark.parametrize("opened", [Reader.open_search, Reader.open_aids], ids=["search", "aids"])
+def test_the_wheel_over_a_combo_box_without_the_focus_changes_nothing(reader, opened):
+    window = opened(reader)
+
+    def boxes():
+        def walk(node):
+            return [node] if role_of(node) == "combo box" else [box for child in node for box in walk(child)]
+        return [box for box in walk(window) if box_of(box).width > 0]
+
+    before = [box.name for box in boxes()]
+    assert before
+    for box in map(box_of, boxes()):
+        for button in (5, 5, 4):
+            reader.desktop.click(box.x + box.width / 2, box.y + box.height / 2, button)
+    reader.key("shift")  # what was done has arrived when this has
+    assert [box.name for box in boxes()] == before
 
 
 def test_enter_and_esc_end_the_moving_of_the_search_window_by_keyboard(reader):

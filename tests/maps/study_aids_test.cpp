@@ -185,6 +185,7 @@ TEST_F(ChildMapSelTest, TypedLettersFindATopicBehindItsBlankAndItsArticle)
     EXPECT_EQ(Combo2().currentText(), " The Sower");
     EXPECT_EQ(List1().text(0), " Mt:13:3-9 ");
     QTest::mouseClick(&optEvents(1), Qt::LeftButton, {}, {8, 8});
+    QTest::qWait(QApplication::keyboardInputInterval() + 50); // then letters begin another word
     QTest::keyClicks(&Combo2(), "raising");
     EXPECT_TRUE(Combo2().currentText().startsWith(" Raising")) << Combo2().currentText().toStdString();
 }

@@ -622,6 +622,20 @@ TEST_F(Reading, TheKeyIsDrawnWholeInOneLineOrInTwoWhereOneDoesNotFit)
     }
 }
 
+TEST_F(Reading, TheReadingSurfaceIsPaleYellowWithDarkText)
+{
+    EXPECT_EQ(verse().palette().color(QPalette::Window), QColor(255, 255, 224));
+    EXPECT_EQ(verse().palette().color(QPalette::WindowText), QColor(Qt::black));
+}
+
+TEST_F(Reading, ClosingAndReopeningLoadsAFreshWindow)
+{
+    handNumber(500);
+    outer(*window).close();
+    EXPECT_EQ(open<ChildRead>(), nullptr);
+    EXPECT_EQ(frame().readingWindow().currentNumber(), 1);
+}
+
 TEST_F(Reading, TheKeyIsDrawnInEightPointsOrMoreWhereThatFits)
 {
     for (const char* id :
