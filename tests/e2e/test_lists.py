@@ -165,6 +165,7 @@ def test_enter_and_esc_end_the_moving_of_the_search_window_by_keyboard(reader):
         reader.key(key)
         assert reader.find("frame", "Advanced Search")
         assert not reader.lines(reader.application()).count("alert: Search Results:")
+        reader.wait_for_focus(window, "text", "Search for verses containing the following text:")
     reader.key("Return")
     assert reader.text_of_box("Search Results:")
     reader.key("Return")
