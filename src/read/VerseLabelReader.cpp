@@ -13,7 +13,7 @@ QAccessibleInterface* labelReaderOf(const QString&, QObject* object)
 } // namespace
 
 VerseLabelReader::VerseLabelReader(VerseLabel& label)
-    : QAccessibleWidget(&label, QAccessible::StaticText)
+    : GuardedAccess(&label, QAccessible::StaticText)
 {
 }
 
@@ -27,12 +27,12 @@ void* VerseLabelReader::interface_cast(QAccessible::InterfaceType type)
 {
     if (type == QAccessible::TextInterface)
         return static_cast<QAccessibleTextInterface*>(this);
-    return QAccessibleWidget::interface_cast(type);
+    return GuardedAccess::interface_cast(type);
 }
 
 QAccessible::State VerseLabelReader::state() const
 {
-    QAccessible::State state = QAccessibleWidget::state();
+    QAccessible::State state = GuardedAccess::state();
     state.readOnly = true;
     state.multiLine = true;
     return state;
@@ -40,7 +40,7 @@ QAccessible::State VerseLabelReader::state() const
 
 QString VerseLabelReader::text(QAccessible::Text which) const
 {
-    return which == QAccessible::Name ? label().text() : QAccessibleWidget::text(which);
+    return which == QAccessible::Name ? label().text() : GuardedAccess::text(which);
 }
 
 void VerseLabelReader::selection(int, int* start, int* end) const
@@ -50,7 +50,7 @@ void VerseLabelReader::selection(int, int* start, int* end) const
 
 void VerseLabelReader::setCursorPosition(int position)
 {
-    label().showCharacter(position);
+    scrollToSubstring(position, position);
 }
 
 QString VerseLabelReader::text(int start, int end) const
@@ -112,7 +112,8 @@ int VerseLabelReader::offsetAtPoint(const QPoint& point) const
 
 void VerseLabelReader::scrollToSubstring(int start, int)
 {
-    label().showCharacter(start);
+    if (!isBehind())
+        label().showCharacter(start);
 }
 
 VerseLabel& VerseLabelReader::label() const

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QAccessibleWidget>
+#include "widgets/GuardedAccess.h"
 #include <utility>
 
 class VerseLabel;
 
 /// What a VerseLabel tells a screen reader of its text: QLabel's own interface knows its name alone, so that
 /// a long verse could only be read in one go. Here a line is one on the screen.
-class VerseLabelReader : public QAccessibleWidget, public QAccessibleTextInterface
+class VerseLabelReader : public GuardedAccess, public QAccessibleTextInterface
 {
 public:
     explicit VerseLabelReader(VerseLabel& label);

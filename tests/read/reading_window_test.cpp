@@ -13,6 +13,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDialog>
 #include <QMimeData>
 #include <QPainter>
 #include <QScrollBar>
@@ -363,6 +364,24 @@ TEST_F(Reading, AScreenReaderReadsALongVerseLineByLine)
     const QPoint last = text->characterRect(text->characterCount() - 1).center();
     EXPECT_TRUE(verse().rect().contains(verse().mapFromGlobal(last)));
     EXPECT_EQ(text->offsetAtPoint(last), text->characterCount() - 1);
+}
+
+TEST_F(Reading, AScreenReaderScrollsNoVerseBehindAMessage)
+{
+    hand("VerseId = 'Est:8:9'");
+    QAccessibleTextInterface* text = QAccessible::queryAccessibleInterface(&verse())->textInterface();
+    QDialog message(&frame());
+    message.setModal(true);
+    message.show();
+    settle();
+    text->scrollToSubstring(text->characterCount() - 1, text->characterCount());
+    text->setCursorPosition(text->characterCount() - 1);
+    auto* bar = verse().findChild<QScrollBar*>();
+    EXPECT_GT(bar->maximum(), 0);
+    EXPECT_EQ(bar->value(), 0);
+    message.close();
+    text->setCursorPosition(text->characterCount() - 1);
+    EXPECT_EQ(bar->value(), bar->maximum());
 }
 
 TEST_F(Reading, OpeningItWithAVerseAnnouncesThatVerseAlone)
