@@ -49,18 +49,30 @@ QImage drawn(QStyle::PrimitiveElement element, const QPalette& palette)
     return image;
 }
 
-QImage titleBar(QStyle::State state)
+constexpr QRect titleBarRect(0, 0, 200, 20);
+
+QImage titleBar(QStyle::State state, const QString& text = {}, const QWidget* window = nullptr)
 {
-    QImage image(200, 20, QImage::Format_RGB32);
+    QImage image(titleBarRect.size(), QImage::Format_RGB32);
+    image.fill(Qt::white); // the corners stay as they are
     QPainter painter(&image);
     QStyleOptionTitleBar bar;
-    bar.rect = image.rect();
+    bar.rect = titleBarRect;
     bar.palette = light();
     bar.titleBarFlags = Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint;
     bar.titleBarState = state;
     bar.subControls = QStyle::SC_All;
-    FrameStyle().drawComplexControl(QStyle::CC_TitleBar, &bar, &painter, nullptr);
+    bar.text = text;
+    FrameStyle().drawComplexControl(QStyle::CC_TitleBar, &bar, &painter, window);
     return image;
+}
+
+QRect titleBarPart(QStyle::SubControl part)
+{
+    QStyleOptionTitleBar bar;
+    bar.rect = titleBarRect;
+    bar.titleBarFlags = Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint;
+    return FrameStyle().subControlRect(QStyle::CC_TitleBar, &bar, part, nullptr);
 }
 
 /// How many pixels of the mark's colour lie on the row or, as here, the diagonal of the close button.
@@ -95,11 +107,7 @@ INSTANTIATE_TEST_SUITE_P(Indicators, Outline,
 
 TEST(TitleBar, CloseButtonBearsACross)
 {
-    QStyleOptionTitleBar bar;
-    bar.rect = QRect(0, 0, 200, 20);
-    bar.titleBarFlags = Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint;
-    const QRect close =
-        FrameStyle().subControlRect(QStyle::CC_TitleBar, &bar, QStyle::SC_TitleBarCloseButton, nullptr);
+    const QRect close = titleBarPart(QStyle::SC_TitleBarCloseButton);
     ASSERT_TRUE(close.isValid());
     EXPECT_GE(whiteOnDiagonal(titleBar(QStyle::State_Active), close), 7);
 }
@@ -108,23 +116,11 @@ TEST(TitleBar, KeepsBothEndsOfACaptionThatIsTooLong)
 {
     QMdiSubWindow window;
     window.setWindowTitle("Map -- " + QString("a long way ").repeated(9) + "(Gn 12)");
-    const auto drawn = [](const QString& text, const QWidget* widget) {
-        QImage image(200, 20, QImage::Format_RGB32);
-        image.fill(Qt::white); // the corners stay as they are
-        QPainter painter(&image);
-        QStyleOptionTitleBar bar;
-        bar.rect = image.rect();
-        bar.palette = light();
-        bar.titleBarFlags = Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint;
-        bar.text = text;
-        const int width =
-            FrameStyle().subControlRect(QStyle::CC_TitleBar, &bar, QStyle::SC_TitleBarLabel, widget).width();
-        if (!widget)
-            bar.text = painter.fontMetrics().elidedText(text, Qt::ElideMiddle, width - 14);
-        FrameStyle().drawComplexControl(QStyle::CC_TitleBar, &bar, &painter, widget);
-        return image;
-    };
-    EXPECT_EQ(drawn("Map -- a long way a l...", &window), drawn(window.windowTitle(), nullptr));
+    const int room = titleBarPart(QStyle::SC_TitleBarLabel).width() - 14;
+    const QString whole = window.windowTitle();
+    const QString middleLeftOut = QFontMetrics(QApplication::font()).elidedText(whole, Qt::ElideMiddle, room);
+    ASSERT_NE(middleLeftOut, whole);
+    EXPECT_EQ(titleBar({}, "Map -- a long way a l...", &window), titleBar({}, middleLeftOut));
 }
 
 TEST(Palettes, ThatSayTheSameShareOneIdentityInComboBoxesAndScrollBars)
