@@ -3,6 +3,7 @@
 #include "app/ButtonAccess.h"
 #include "app/FrameStyle.h"
 #include "app/LineEditAccess.h"
+#include "app/ScrollBarAccess.h"
 #include "desktop/MsgBox.h"
 #include "widgets/Fonts.h"
 #include "widgets/Hourglass.h"
@@ -51,6 +52,7 @@ Application::Application(char* programName[])
         "qt.gui.imageio*=false\nqt.qpa.clipboard=false\nqt.accessibility.atspi*=false");
     QAccessible::installFactory(buttonAccess);
     QAccessible::installFactory(lineEditAccess);
+    QAccessible::installFactory(scrollBarAccess);
     setStyle(new FrameStyle);
     setPalette(selectionColors());
     // Fusion caches a pixmap of each message box's buttons. Qt's own limit of 10 MB lets the memory grow

@@ -1,6 +1,7 @@
 #include "select/BookTree.h"
 
 #include "store/BookCatalog.h"
+#include "widgets/Modality.h"
 #include "widgets/RowHeight.h"
 #include "widgets/Text.h"
 #include <QStyledItemDelegate>
@@ -26,6 +27,14 @@ QTreeWidgetItem* lastChild(QTreeWidgetItem& parent, const QString& text)
     return last && last->text(0) == text ? last : new QTreeWidgetItem(&parent, {text});
 }
 
+// An assistive program selects another line than the current one, behind a modal window, too; no one else
+// does. GuardedSelection cannot stand here: QTreeWidget keeps to its own selection model.
+void selectCurrentLineBehindModalWindow(QTreeWidget& tree)
+{
+    if (isBehindModalWindow(tree) && tree.selectedItems() != QList{tree.currentItem()})
+        tree.setCurrentItem(tree.currentItem());
+}
+
 } // namespace
 
 void fillBookTree(QTreeWidget& tree)
@@ -42,4 +51,6 @@ void fillBookTree(QTreeWidget& tree)
     for (int i = 0; i < root->childCount(); ++i)
         root->child(i)->setExpanded(true);
     tree.setCurrentItem(root->child(0));
+    QObject::connect(&tree, &QTreeWidget::itemSelectionChanged, &tree,
+                     [&tree] { selectCurrentLineBehindModalWindow(tree); });
 }
