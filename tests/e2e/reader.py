@@ -138,8 +138,9 @@ class Reader:
         self.click(self.find("menu item", item))
 
     def text_of_box(self, title):
-        """The text of the message box with this title."""
+        """The text of the message box with this title, once it has the focus: before, its keys go elsewhere."""
         box = self.find(None, title)
+        self.wait_for_focus_in(box)
         return self.find("label", within=box, showing=False).name
 
     def key(self, *keys):

@@ -155,7 +155,6 @@ def test_the_stamp_is_local_time_to_the_second(start, desktop, copy, zone):
             reader.process.wait()
         else:
             assert reader.text_of_box(TITLE).startswith("Can't continue; file 'KESTRPT.DAT' has been modified.")
-            desktop.wait_for_focus(TITLE)  # else the key goes nowhere
             desktop.key("Return")
             assert reader.wait() == 1
 
