@@ -39,6 +39,13 @@ def lengths(top):
     return found
 
 
+def loose_cd(top):
+    """Where CDPATH, if the reader exports it, leads a script of the shell to another folder, and prints its path."""
+    return [f"{path}:{number}: CDPATH leads this cd astray: CDPATH='' cd -- ..."
+            for path in scripts(top) if path.read_text(encoding="utf-8").startswith(("#!/bin/sh", "#!/usr/bin/env bash"))
+            for number, line in lines(path) if re.search(r"""(?<!CDPATH='' )\bcd (-- )?"\$\(dirname""", line)]
+
+
 def breaches(top):
     unrunnable = [path for path in scripts(top) if not os.access(path, os.X_OK)]
-    return test_names(top) + lengths(top) + [f"{path}: begins with #! but cannot be run: chmod +x" for path in unrunnable]
+    return test_names(top) + lengths(top) + [f"{path}: begins with #! but cannot be run: chmod +x" for path in unrunnable] + loose_cd(top)

@@ -69,6 +69,7 @@ def test_a_sound_house_keeps_them(house, rule):
     (floors, "src/read/Sql.h", "#include <sqlite3.h>\n", "src/read/Sql.h:1: SQLite's header is included in store/ only"),
     (formatting, "src/store/Crooked.h", "int  crooked ;\n", "src/store/Crooked.h:1: not formatted; tools/format_sources mends it"),
     (names, "tools/new_script", "#!/bin/sh\n", "tools/new_script: begins with #! but cannot be run: chmod +x"),
+    (names, "tools/make_data", '#!/bin/sh\n\ncd "$(dirname "$0")"\n', "tools/make_data:3: CDPATH leads this cd astray"),
     (names, "tests/read/more_test.cpp", "TEST(Chapter, isGathered)\n", "Chapter.isGathered: a test is named by a sentence"),
     (names, "tests/read/ChapterTests.cpp", "TEST(Chapter, Is)\n", "tests/read/ChapterTests.cpp: a file of tests is named after"),
     (names, "src/read/Long.h", "//\n" * 2000, "src/read/Long.h: 2000 lines, more than"),
