@@ -26,6 +26,12 @@ std::string readOnlyUri(const std::string& path)
     return uri + "?mode=ro&immutable=1";
 }
 
+/// The condition that some value of the column is longer.
+std::string exceeds(const std::string& column, std::size_t bytes)
+{
+    return "max(length(CAST(" + column + " AS BLOB))) > " + std::to_string(bytes);
+}
+
 } // namespace
 
 std::shared_ptr<Database> Database::open(const std::string& path)
@@ -56,7 +62,7 @@ Database::Database(const std::string& path)
         throw connection ? sqliteError(connection) : DataError(result, sqlite3_errstr(result));
     setUp();
     readVerses(fileSize);
-    if (hasEndlessTopics())
+    if (hasEndlessTopics() || hasEndlessMaps())
         throw damage();
     sqlite3_db_release_memory(connection); // the pages just read are not needed soon
     allowReadingOnly(connection);
@@ -96,15 +102,25 @@ void Database::readVerses(std::size_t fileSize)
     }
 }
 
-/// Whether there are more topics, or longer lists, than a window could show. Whatever else is wrong with the
-/// table is left to the queries that meet it.
+/// Whether there are more topics, longer lists or longer titles than a window could show.
 bool Database::hasEndlessTopics()
+{
+    return isTrue("count(*) > " + std::to_string(limits::maxTopics) + " OR " +
+                      exceeds("VerseList", limits::maxTopicListBytes) + " OR " +
+                      exceeds("Name", limits::maxTitleBytes),
+                  "ClassifiedVerses");
+}
+
+bool Database::hasEndlessMaps()
+{
+    return isTrue(exceeds("MapDesc", limits::maxTitleBytes), "NTMaps");
+}
+
+/// Whatever else is wrong with the table is left to the queries that meet it.
+bool Database::isTrue(const std::string& condition, const std::string& table)
 try {
     m_work = {};
-    const Statement check = compile(
-        m_connection.get(), "SELECT count(*) > " + std::to_string(limits::maxTopics) +
-                                " OR max(length(CAST(VerseList AS BLOB))) > " +
-                                std::to_string(limits::maxTopicListBytes) + " FROM main.ClassifiedVerses");
+    const Statement check = compile(m_connection.get(), "SELECT " + condition + " FROM main." + table);
     return sqlite3_step(check.get()) == SQLITE_ROW && sqlite3_column_int(check.get(), 0) != 0;
 } catch (const DataError&) {
     return false;

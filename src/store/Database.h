@@ -38,6 +38,8 @@ private:
     void setUp();
     void readVerses(std::size_t fileSize);
     bool hasEndlessTopics();
+    bool hasEndlessMaps();
+    bool isTrue(const std::string& condition, const std::string& table);
 
     Verses m_verses; // outlives the connection, which hands out its texts
     Work m_work;     // the connection counts in it

@@ -12,7 +12,8 @@ constexpr std::size_t maxBlockBytes =
     64 << 20; ///< of all keys, or all verses; offsets of 32 bits can count them
 constexpr std::size_t maxTopicListBytes = 64 << 10; ///< of a `VerseList`
 constexpr int maxTopics = 5'000;
-constexpr int maxValueBytes = 1 << 20; ///< of any column; the longest are the maps' pictures
+constexpr std::size_t maxTitleBytes = 1 << 10; ///< of a topic's `Name`, and of a `MapDesc`
+constexpr int maxValueBytes = 1 << 20;         ///< of any column; the longest are the maps' pictures
 
 constexpr int maxSqlBytes = 100'000;
 constexpr long long maxMemoryBytes = 64 << 20; ///< of SQLite, in the whole process

@@ -319,19 +319,33 @@ TEST_F(ForeignSchema, WhatNoReaderCouldReadIsDamage)
 
 TEST_F(ForeignSchema, WhatNoWindowCouldListIsDamage)
 {
-    const auto refusal = [this](int topics, int listBytes) {
+    const auto refusal = [this](int topics, int listBytes, int nameBytes = 5) {
         std::filesystem::remove(m_folder.file());
         make(smallBible +
              "DELETE FROM ClassifiedVerses; WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
              "WHERE i < " +
-             std::to_string(topics) +
-             ") INSERT INTO ClassifiedVerses SELECT i, 'Topic', iif(i = 2, hex(zeroblob(" +
-             std::to_string(listBytes / 2) + ")), 'Mt:1:1'), 'Events' FROM n;");
+             std::to_string(topics) + ") INSERT INTO ClassifiedVerses SELECT i, substr(hex(zeroblob(" +
+             std::to_string(nameBytes) + ")), 1, " + std::to_string(nameBytes) +
+             "), iif(i = 2, hex(zeroblob(" + std::to_string(listBytes / 2) +
+             ")), 'Mt:1:1'), 'Events' FROM n;");
         return errorOf(m_folder.file(), "SELECT * FROM ClassifiedVerses");
     };
     EXPECT_EQ(refusal(5000, 65536).number(), 0);
     EXPECT_EQ(refusal(5001, 2).number(), SQLITE_CORRUPT);
     EXPECT_EQ(refusal(2, 65538).number(), SQLITE_CORRUPT);
+    EXPECT_EQ(refusal(2, 2, 1024).number(), 0);
+    EXPECT_EQ(refusal(2, 2, 1025).number(), SQLITE_CORRUPT);
+}
+
+TEST_F(ForeignSchema, AMapsDescriptionThatFillsNoTitleBarIsDamage)
+{
+    const auto refusal = [this](int bytes) {
+        std::filesystem::remove(m_folder.file());
+        make(smallBible + "INSERT INTO NTMaps VALUES (12, '" + std::string(bytes, 'm') + "', x'');");
+        return errorOf(m_folder.file(), "SELECT * FROM NTMaps");
+    };
+    EXPECT_EQ(refusal(1024).number(), 0);
+    EXPECT_EQ(refusal(1025).number(), SQLITE_CORRUPT);
 }
 
 TEST_F(ForeignSchema, TextsInAnotherEncodingAreRefused)
