@@ -10,7 +10,7 @@ bool reported(bool copied)
 {
     if (!copied)
         MsgBox::show(errorText(521, "Can't open Clipboard"), MsgIcon::Exclamation, MsgButtons::Ok,
-                     "Clipboard Error");
+                     clipboardErrorTitle);
     return copied;
 }
 

@@ -3,8 +3,11 @@
 #include <QImage>
 #include <QString>
 
+/// Stands over the report of copyOrReport().
+inline constexpr char clipboardErrorTitle[] = "Clipboard Error";
+
 /// Clears the clipboard and puts a text on it, as plain text alone and to the letter (CR LF stay). A desktop
-/// that does not take it is reported in a box, "Clipboard Error", and nothing else changes; false then.
+/// that does not take it is reported in a box, and nothing else changes; false then.
 bool copyOrReport(const QString& text);
 
 /// The same with a picture.

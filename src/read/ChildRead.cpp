@@ -26,7 +26,6 @@
 ChildRead::ChildRead(Shell& shell)
     : Form(shell, "ChildRead")
     , DataCtl(new DataControl("DataCtl", "NewTestament", this))
-    , VerseText(new VerseLabel(this))
     , lblSerial(new QLabel(this))
     , lblVerseId(new VerseKeyLabel(this))
     , cmdPrev(new SoftBttn(PictureId::PreviousVerse, "Previous Verse", this))
@@ -38,8 +37,10 @@ ChildRead::ChildRead(Shell& shell)
     , chkAuto(new QCheckBox("&AutoJump to next verse after", this))
     , cboSeconds(new QComboBox(this))
     , Label2(new QLabel("secon&ds", this))
+    , VerseText(new VerseLabel(this)) // last, as Tab comes to its scroll bar after the controls
     , Timer1(new QTimer(this))
 {
+    VerseText->lower(); // a screen reader meets it first all the same
     VerseText->setFont(Fonts::tahomaOf(18));
     lblSerial->hide();
     Label2->setBuddy(cboSeconds);
@@ -172,9 +173,14 @@ void ChildRead::DataCtl_Reposition()
     announceVerse();
 }
 
+QString ChildRead::captionOf(const QString& key)
+{
+    return "Reading Window -- " + key;
+}
+
 void ChildRead::lblVerseId_Change()
 {
-    setCaption("Reading Window -- " + lblVerseId->text());
+    setCaption(captionOf(lblVerseId->text()));
 }
 
 void ChildRead::cmdPrev_Click()

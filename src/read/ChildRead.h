@@ -20,6 +20,9 @@ class ChildRead : public Form
 public:
     explicit ChildRead(Shell& shell);
 
+    /// The caption while the current verse has this key.
+    static QString captionOf(const QString& key);
+
     /// Shows the first row of an SQL text over `NewTestament`, in UTF-8; false when it has none, and the
     /// labels are then blank. Throws DataError.
     bool fetch(const std::string& sql);
@@ -57,7 +60,6 @@ private:
     void announceVerse();
 
     DataControl* DataCtl;
-    VerseLabel* VerseText;
     QLabel* lblSerial;  ///< hidden; the running number
     QLabel* lblVerseId; ///< the verse key
     SoftBttn* cmdPrev;
@@ -69,6 +71,7 @@ private:
     QCheckBox* chkAuto;
     QComboBox* cboSeconds;
     QLabel* Label2;
+    VerseLabel* VerseText;
     QTimer* Timer1;
 
     bool m_otherFace = false;

@@ -227,7 +227,7 @@ TEST_F(Frame, TheWindowMenuListsTheOpenWindowsAndChecksTheActiveOne)
     ASSERT_EQ(items.size(), 4);
     EXPECT_EQ(items[0]->text(), "&Arrange Icons");
     EXPECT_EQ(items[2]->text(), "&1 Select Verse for Reading");
-    EXPECT_EQ(items[3]->text(), "&2 Reading Window -- Mt:1:1");
+    EXPECT_EQ(items[3]->text(), "&2 " + ChildRead::captionOf("Mt:1:1"));
     EXPECT_FALSE(items[2]->isChecked());
     EXPECT_TRUE(items[3]->isChecked());
     ASSERT_NE(items[2]->actionGroup(), nullptr) << "marked as one choice of several";

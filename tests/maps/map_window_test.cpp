@@ -1,3 +1,4 @@
+#include "desktop/Clipboard.h"
 #include "maps/MapsTest.h"
 #include <QAccessible>
 #include <QClipboard>
@@ -251,7 +252,7 @@ TEST_F(ChildMapDspTest, ClipboardThatTakesNothingIsReported)
     services.clipboardWorks = false;
     QTest::mouseClick(&cmdPicCopy(), Qt::LeftButton);
     ASSERT_EQ(boxes.shown.size(), 1);
-    EXPECT_EQ(boxes.shown[0].title, "Clipboard Error");
+    EXPECT_EQ(boxes.shown[0].title, clipboardErrorTitle);
 }
 
 TEST_F(ChildMapDspTest, PictureThatCannotBeReadIsEmpty)

@@ -1,4 +1,5 @@
 // The chapter window, filled from the reading window and used by keys, clicks and menus.
+#include "desktop/Clipboard.h"
 #include "read/Chapter.h"
 #include "read/TextBox.h"
 #include "read/VerseLabel.h"
@@ -86,7 +87,7 @@ TEST_F(ChapterWindow, ShowsTheChapterOfTheVerseInTheReadingWindow)
 {
     ChapRead& window = openChapterOf("Mt:24:43");
     EXPECT_EQ(activeForm(), &window);
-    EXPECT_EQ(window.caption(), "Chapter Window -- Mt:24:");
+    EXPECT_EQ(window.caption(), chapterCaption("Mt:24:"));
     EXPECT_EQ(textOf(window).text(), chapter("Mt:24:"));
     EXPECT_EQ(textOf(window).text().count("\r\n"), 51);
     EXPECT_TRUE(textOf(window).isVisible());
@@ -96,10 +97,10 @@ TEST_F(ChapterWindow, OpensFromTheButtonAndTheMenuToo)
 {
     read("Gn:1:1");
     click(control<SoftBttn>(frame().readingWindow(), "cmdChap"));
-    EXPECT_EQ(get<ChapRead>().caption(), "Chapter Window -- Gn:1:");
+    EXPECT_EQ(get<ChapRead>().caption(), chapterCaption("Gn:1:"));
     read("Gn:2:1");
     choose("mnuChap");
-    EXPECT_EQ(get<ChapRead>().caption(), "Chapter Window -- Gn:2:");
+    EXPECT_EQ(get<ChapRead>().caption(), chapterCaption("Gn:2:"));
     EXPECT_EQ(textOf(get<ChapRead>()).text(), chapter("Gn:2:"));
 }
 
@@ -302,9 +303,9 @@ TEST_F(ChapterWindow, ReportsAClipboardThatCannotBeWritten)
     click(control<SoftBttn>(window, "cmdChapCopy"));
     ASSERT_EQ(boxes.shown.size(), 1);
     EXPECT_EQ(boxes.shown.first().text, "Error 521: Can't open Clipboard");
-    EXPECT_EQ(boxes.shown.first().title, "Clipboard Error");
+    EXPECT_EQ(boxes.shown.first().title, clipboardErrorTitle);
     EXPECT_EQ(boxes.shown.first().icon, MsgIcon::Exclamation);
-    EXPECT_EQ(window.caption(), "Chapter Window -- Mt:24:");
+    EXPECT_EQ(window.caption(), chapterCaption("Mt:24:"));
     EXPECT_EQ(textOf(window).text(), chapter("Mt:24:"));
 }
 
@@ -496,7 +497,7 @@ TEST_F(ChapterWindow, TakesItsStepsInTheirOrder)
     press(Qt::Key_F9);
     steps.removeDuplicates();
     EXPECT_EQ(steps, QStringList({"active", "Please wait...", "hidden", "empty", "query", "text",
-                                  "Chapter Window -- Ps:134:", "shown", "highlight"}));
+                                  chapterCaption("Ps:134:"), "shown", "highlight"}));
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 

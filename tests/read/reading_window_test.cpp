@@ -384,6 +384,20 @@ TEST_F(Reading, AScreenReaderScrollsNoVerseBehindAMessage)
     EXPECT_EQ(bar->value(), bar->maximum());
 }
 
+TEST_F(Reading, FirstFocusIsOnNextAlsoBesideALongVerse)
+{
+    window->unload();
+    settle();
+    window = &frame().readingWindow();
+    window->showFirst("SELECT * FROM NewTestament WHERE VerseId = 'Est:8:9'");
+    auto* bar = verse().findChild<QScrollBar*>();
+    ASSERT_TRUE(bar->isVisible());
+    EXPECT_TRUE(button("cmdNext").hasFocus());
+    for (int presses = 0; presses < 20 && !bar->hasFocus(); ++presses)
+        press(Qt::Key_Tab);
+    EXPECT_TRUE(bar->hasFocus());
+}
+
 TEST_F(Reading, OpeningItWithAVerseAnnouncesThatVerseAlone)
 {
     window->unload();

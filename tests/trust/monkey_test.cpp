@@ -446,7 +446,7 @@ protected:
 
     static void expectReading(const ChildRead& reading)
     {
-        EXPECT_EQ(reading.caption(), "Reading Window -- " + reading.currentKey());
+        EXPECT_EQ(reading.caption(), ChildRead::captionOf(reading.currentKey()));
         const QString number = control<QLabel>(reading, "lblSerial").text();
         const bool isVerse = number.toInt() >= 1 && number.toInt() <= 31102;
         EXPECT_TRUE(number.isEmpty() || isVerse) << number.toStdString();
