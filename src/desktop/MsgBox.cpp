@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QGridLayout>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QScreen>
 
@@ -57,9 +58,22 @@ void keepClearOf(QMessageBox& box, const QRect& announced)
         }
 }
 
+/// The window that a box stands over: the active one, or, where that may be closed while the box stands
+/// (help) and would take the box with it, the frame.
+QWidget* ownerOfBox()
+{
+    QWidget* const active = QApplication::activeWindow();
+    if (!active || !active->testAttribute(Qt::WA_DeleteOnClose))
+        return active;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (qobject_cast<QMainWindow*>(window) && window->isVisible() && window != active)
+            return window;
+    return nullptr;
+}
+
 MsgAnswer showBox(const MsgBox::Message& message)
 {
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(ownerOfBox());
     box.setWindowTitle(message.title);
     box.setTextFormat(Qt::PlainText);
     box.setText(QString(message.text).replace("\r\n", "\n"));

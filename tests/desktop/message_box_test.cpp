@@ -1,7 +1,9 @@
 #include "desktop/MsgBox.h"
+#include "support/ActiveWindow.h"
 #include "support/OnceModal.h"
 #include <gtest/gtest.h>
 #include <QApplication>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -21,6 +23,25 @@ template <class Look>
 }
 
 } // namespace
+
+TEST(MsgBox, StandsOverTheFrameWhenAWindowThatClosesAlongsideIsActive)
+{
+    QMainWindow frame;
+    frame.show();
+    auto* help = new QMainWindow;
+    help->setAttribute(Qt::WA_DeleteOnClose);
+    help->show();
+    makeActive(help);
+    bool seen = false;
+    const auto looking = whenShown(Qt::Key_Return, [&](QMessageBox& box) {
+        EXPECT_EQ(box.parentWidget(), &frame);
+        help->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        seen = true;
+    });
+    EXPECT_EQ(MsgBox::show("Text", MsgIcon::Information), MsgAnswer::Ok);
+    EXPECT_TRUE(seen);
+}
 
 TEST(MsgBox, ShowsTextTitleIconAndOneButton)
 {
