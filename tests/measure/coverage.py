@@ -51,7 +51,7 @@ def missed_lines(file):
 
 
 def main():
-    run("cmake", "-S", TOP, "-B", BUILD, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_COMPILER=clang++",
+    run("cmake", "-S", TOP, "-B", BUILD, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", "-DKESTREL_TESTS=ON", "-DCMAKE_CXX_COMPILER=clang++",
         f"-DCMAKE_CXX_FLAGS={FLAGS}", stdout=subprocess.DEVNULL)
     run("cmake", "--build", BUILD, stdout=subprocess.DEVNULL)
     files = exported(profile())["data"][0]["files"]
