@@ -249,7 +249,7 @@ void ChildRead::showNumber(int number)
 
 void ChildRead::resumeTimer()
 {
-    if (chkAuto->isChecked() && !Timer1->isActive())
+    if (isActive() && chkAuto->isChecked() && !Timer1->isActive())
         Timer1->start();
 }
 

@@ -254,6 +254,17 @@ TEST_F(Reading, AutoJumpStopsWhileAnotherChildIsActiveAndResumesWithAFullInterva
     EXPECT_GT(timer().remainingTime(), 3980);
 }
 
+TEST_F(Reading, AStepBehindAnotherChildStartsNoTimer)
+{
+    autoJump().click();
+    frame().openSelection();
+    ASSERT_FALSE(timer().isActive());
+    button("cmdNext").click(); // as by an assistive program
+    EXPECT_FALSE(timer().isActive());
+    window->activate();
+    EXPECT_TRUE(timer().isActive());
+}
+
 TEST_F(Reading, AutoJumpStopsWhileMinimisedAndResumesWhenRestored)
 {
     startAuto("4");
