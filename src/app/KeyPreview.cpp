@@ -46,7 +46,7 @@ bool KeyPreview::eventFilter(QObject* watched, QEvent* event)
         return false;
     auto& key = static_cast<QKeyEvent&>(*event);
     Form* form = Form::of(activeWidget());
-    if (form && form->isMovedByKeyboard())
+    if (form && form->isMoved())
         return keepFromShortcuts(key);
     if (isHelpKey(key)) // the control sees it all the same, and first
         QMetaObject::invokeMethod(&m_help, &Help::open, Qt::QueuedConnection);

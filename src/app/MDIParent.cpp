@@ -3,6 +3,7 @@
 #include "app/ArrangeIcons.h"
 #include "app/HelpPage.h"
 #include "app/KeyPreview.h"
+#include "app/MenuBar.h"
 #include "app/Notepad.h"
 #include "app/Program.h"
 #include "desktop/BasePath.h"
@@ -47,6 +48,9 @@ MDIParent::MDIParent(Program& program)
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded); // a map can be larger than the frame
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     makeToolbar();
+    auto* menuBar = new MenuBar(this);
+    setMenuBar(menuBar);
+    connect(menuBar, &MenuBar::focusIsNotMine, this, &MDIParent::takeFocusFromMenuBar);
     m_menus = {Menus::file(*this, *this), Menus::search(*this, *this), Menus::tools(*this, *this),
                Menus::help(*this, *this)};
     showMenus(m_menus);
@@ -149,6 +153,14 @@ void MDIParent::giveFocusBack(QWidget* focused)
         focused->setFocus();
     else if (focusWidget())
         focusWidget()->clearFocus();
+}
+
+void MDIParent::takeFocusFromMenuBar()
+{
+    if (m_activeForm)
+        m_activeForm->takeFocus();
+    else
+        menuBar()->clearFocus();
 }
 
 void MDIParent::exit()

@@ -68,6 +68,7 @@ private:
 
     void makeToolbar();
     void giveFocusBack(QWidget* focused);
+    void takeFocusFromMenuBar();
     template <class Window, class... Arguments>
     Window& single(QPointer<Window>& window, Arguments&... arguments);
     void childActivated(QMdiSubWindow* window);

@@ -227,6 +227,12 @@ bool Form::isMovedByKeyboard() const
     return mouseGrabber() && mouseGrabber() == subWindow();
 }
 
+bool Form::isMoved() const
+{
+    const bool byMouse = !m_pressedAt.isNull() && QGuiApplication::mouseButtons() != Qt::NoButton;
+    return byMouse || isMovedByKeyboard();
+}
+
 bool Form::preview(QKeyEvent& event)
 {
     if (state() == Minimized)

@@ -62,10 +62,13 @@ public:
     /// The frame tells the window that it became the active one, or that another did.
     void becomeActive(bool active);
     bool isActive() const { return m_active; }
-    /// Whether the keyboard moves or sizes the window now: every key belongs to that, until the focus leaves.
-    bool isMovedByKeyboard() const;
+    /// Gives the focus to the control that had it last, else to the first that can have it.
+    void takeFocus();
+    /// Whether the keyboard or the mouse moves or sizes the window now: no key is then meant for its
+    /// controls.
+    bool isMoved() const;
     /// The frame tells the window of a key that is about to go to its control with the focus; true keeps the
-    /// key from it. The window must not be moved or sized by keyboard. Minimised it takes none: an icon has
+    /// key from it. The window must not be moved or sized now. Minimised it takes none: an icon has
     /// no control that a reader could mean.
     bool preview(QKeyEvent& event);
     /// The frame tells the window that the mouse gave the focus to one of its controls. If that activates the
@@ -110,8 +113,7 @@ protected:
 
 private:
     QMdiSubWindow* subWindow() const;
-    /// Gives the focus to the control that had it last, else to the first that can have it.
-    void takeFocus();
+    bool isMovedByKeyboard() const;
     void showBehind(QMdiSubWindow* active);
     /// Makes the window that was active last, among those that are not minimised, the active one.
     void handOver();

@@ -386,6 +386,23 @@ TEST_F(About, DonationWindowHasItsCaptionAndTextToReadOnly)
     });
 }
 
+TEST_F(About, TheWheelWithCtrlLeavesTheLettersTypeAsItIs)
+{
+    whileAboutIsOpen([&](frmStart& window) {
+        whileLetterIsOpen([&] { click(*window.cmdDonation); },
+                          [&](QDialog& letter) {
+                              QWidget* text = qobject_cast<frmDN*>(&letter)->Text1->viewport();
+                              const QFont before = text->font();
+                              QWheelEvent turn(QPointF(20, 20), text->mapToGlobal(QPointF(20, 20)), {},
+                                               QPoint(0, 120), Qt::NoButton, Qt::ControlModifier,
+                                               Qt::NoScrollPhase, false);
+                              QCoreApplication::sendEvent(text, &turn);
+                              EXPECT_EQ(text->font(), before);
+                              EXPECT_EQ(qobject_cast<frmDN*>(&letter)->Text1->font(), before);
+                          });
+    });
+}
+
 TEST_F(About, OfferWindowHasItsCaptionAndTextToReadOnly)
 {
     whileAboutIsOpen([&](frmStart& window) {

@@ -250,6 +250,19 @@ def test_an_inner_windows_own_menu_is_opened_by_keyboard(reader):
     reader.wait_for(lambda: window.queryComponent().getExtents(pyatspi.DESKTOP_COORDS).height == height, "the window")
 
 
+def test_help_opened_from_a_menu_leaves_no_menu_bar_with_the_focus(reader):
+    window = reader.open_selection()
+    reader.key("alt+f")
+    reader.wait_for(lambda: is_open(reader.find("menu item", "File")), "the menu File")
+    reader.key("F1")
+    reader.desktop.wait_for_focus("Kestrel Reader Help")
+    reader.key("Escape")
+    reader.wait_for_focus_in(window)
+    reader.desktop.type("2Jn:1:5")
+    reader.key("Return")
+    reader.find("frame", "Reading Window -- 2Jn:1:5")
+
+
 def test_the_study_aids_are_opened_where_f8_is_not_theirs(reader):
     reading(reader)
     reader.key("alt+t", "Return")

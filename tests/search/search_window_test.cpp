@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QWindow>
 
 using SearchWindow = SearchSession;
 
@@ -642,6 +643,20 @@ TEST_F(SearchWindow, DoesNothingForEnterWithoutTextOrInResultsMode)
     press(Qt::Key_Return);
     EXPECT_TRUE(boxes.shown.isEmpty());
     EXPECT_NE(open<frmAdvSearch>(), nullptr);
+}
+
+TEST_F(SearchWindow, EscDoesNotCloseItWhileTheMouseMovesIt)
+{
+    QWindow* frameWindow = frame().windowHandle();
+    const QPoint title = outer(window()).mapTo(&frame(), QPoint(outer(window()).width() / 2, 10));
+    QTest::mousePress(frameWindow, Qt::LeftButton, {}, title);
+    press(Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_NE(open<frmAdvSearch>(), nullptr);
+    QTest::mouseRelease(frameWindow, Qt::LeftButton, {}, title);
+    press(Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(open<frmAdvSearch>(), nullptr);
 }
 
 TEST_F(SearchWindow, ClosesByEscAndByItsButton)

@@ -457,6 +457,21 @@ TEST_F(Selection, TheListOpensWithTheBookOfTheTypedReferenceMarked)
     combo().hidePopup();
 }
 
+TEST_F(Selection, EnterInTheOpenListChoosesAndEnterAgainLooksUp)
+{
+    combo().setEditText("Ps");
+    combo().showPopup();
+    settle();
+    QTest::keyClick(combo().view(), Qt::Key_Down);
+    QTest::keyClick(combo().view(), Qt::Key_Return);
+    settle();
+    EXPECT_FALSE(combo().view()->isVisible());
+    EXPECT_EQ(combo().currentText(), "Prv:");
+    EXPECT_EQ(open<ChildRead>(), nullptr);
+    press(Qt::Key_Return);
+    EXPECT_EQ(get<ChildRead>().currentKey(), "Prv:1:1");
+}
+
 TEST_F(Selection, NoTypedReferenceJoinsTheList)
 {
     lookUp("Mt:24:43");
