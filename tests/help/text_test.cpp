@@ -93,6 +93,15 @@ TEST_P(EveryPage, IsWrittenInWholeSentences)
     }
 }
 
+TEST_P(EveryPage, IsSpelledAsInAmericaInEnglish)
+{
+    static const QRegularExpression british(
+        "(?i)\\b\\w*(?:[a-z]imis|[ao]lis(?:e|ing)|gnis(?:e|ing)|colour|licence|centre|behaviour|favour|"
+        "neighbour|"
+        "honour|labelled|cancelled|travell|fulfil\\b|fulfils|fulfilm|grey|programme|judgement)\\w*");
+    EXPECT_EQ(british.match(html(HelpLanguage::English)).captured(), "");
+}
+
 TEST_P(EveryPage, HasOnlyLinksThatLeadSomewhere)
 {
     for (const HelpLanguage language : both)
@@ -128,4 +137,15 @@ TEST(HelpOnReferences, WarnsOfBothCharactersThatEndTheProgram)
                     .contains("Never type an apostrophe (') or an opening bracket ([) in a reference."));
     EXPECT_TRUE(shippedPage("References", HelpLanguage::Portuguese)
                     .contains("Nunca digite um apóstrofo (') nem um colchete que abre ([)"));
+}
+
+// As data/maps/README.md counts them.
+TEST(HelpOnMaps, NamesWhatIsConjectureOnThePlanOfJerusalem)
+{
+    const QString english = shippedPage("ListsAndMaps", HelpLanguage::English);
+    for (const char* place : {"Second Wall", "two gates", "Annas and Caiaphas", "Upper Room", "Golgotha"})
+        EXPECT_TRUE(english.contains(place)) << place;
+    const QString portuguese = shippedPage("ListsAndMaps", HelpLanguage::Portuguese);
+    for (const char* place : {"segunda muralha", "duas portas", "Anás e de Caifás", "cenáculo", "Gólgota"})
+        EXPECT_TRUE(portuguese.contains(place)) << place;
 }
