@@ -4,16 +4,11 @@
 #include "desktop/BasePath.h"
 #include "desktop/InstanceName.h"
 #include <memory>
-#include <QAccessible>
 #include <QCoreApplication>
 #include <QCryptographicHash>
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusVariant>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QWidget>
 #include <unistd.h>
 
 namespace {
@@ -68,18 +63,4 @@ void Platform::openLink(const QUrl& link)
     if (!opener.isEmpty())
         startDetached(opener, {QString::fromLatin1(link.toEncoded())},
                       withSeparator(QCoreApplication::applicationDirPath()));
-}
-
-// Qt has no announcement before 6.8, so AT-SPI's signal is sent over the connection that Qt holds to its bus.
-void Platform::announce(QWidget& about, const QString& text)
-{
-    QAccessibleInterface* spoken =
-        QAccessible::isActive() ? QAccessible::queryAccessibleInterface(&about) : nullptr;
-    QDBusConnection bus("a11y");
-    if (!spoken || !bus.isConnected())
-        return;
-    const QString path = "/org/a11y/atspi/accessible/" + QString::number(QAccessible::uniqueId(spoken));
-    QDBusMessage signal = QDBusMessage::createSignal(path, "org.a11y.atspi.Event.Object", "Announcement");
-    signal << QString() << 0 << 0 << QVariant::fromValue(QDBusVariant(text)) << QVariantMap();
-    bus.send(signal);
 }

@@ -287,10 +287,10 @@ def test_menus_are_named_by_their_captions(reader):
 # --- What is told while it happens ---
 
 @pytest.fixture
-def told(reader, desktop):
+def told(reader, desktop, request):
     """Waits until a screen reader has been told of these; the telling of one may come with others between."""
     script = pathlib.Path(__file__).with_name("listener.py")
-    process = subprocess.Popen([sys.executable, script], env=desktop.environment, stdout=subprocess.PIPE, text=True)
+    process = subprocess.Popen([sys.executable, script, *getattr(request, "param", [])], env=desktop.environment, stdout=subprocess.PIPE, text=True)
     assert process.stdout.readline() == "listening\n"
     heard = []
 
@@ -329,6 +329,18 @@ def test_each_new_verse_and_each_copy_is_announced_once(reader, told, verses):
     reader.key("ctrl+c")
     news += told(("announcement", "push button", "Copied"))
     assert [event[0] for event in news].count("announcement") == 2
+
+
+@pytest.mark.parametrize("told", [["--old"]], indirect=True)
+def test_a_screen_reader_without_announcements_is_told_by_the_control_with_the_focus(reader, told, verses):
+    reader.look_up("2Jn:1:1")
+    news = told(("description", "push button", "2Jn:1:1 " + verses["2Jn:1:1"]), ("description", "push button", ""))
+    reader.key("F12")
+    news += told(("description", "push button", "2Jn:1:2 " + verses["2Jn:1:2"]), ("description", "push button", ""))
+    reader.key("ctrl+c")
+    news += told(("description", "push button", "Copied"), ("description", "push button", ""))
+    assert [text for _, _, text in news] == ["2Jn:1:1 " + verses["2Jn:1:1"], "", "2Jn:1:2 " + verses["2Jn:1:2"], "",
+                                             "Copied", ""]
 
 
 def test_another_window_tells_where_its_focus_is(reader, told):
