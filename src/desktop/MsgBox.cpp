@@ -41,6 +41,7 @@ void makeRoomForTitle(QMessageBox& box)
 void keepClearOf(QMessageBox& box, const QRect& announced)
 {
     constexpr QSize border(12, 40); // of the desktop's, with a title bar
+    constexpr int titleBar = 34; // the part above the box, which some desktops put above the place asked for
     const QSize size = box.sizeHint() + border;
     const QRect screen = box.screen()->availableGeometry();
     QRect usual(QPoint(), size);
@@ -49,7 +50,7 @@ void keepClearOf(QMessageBox& box, const QRect& announced)
         return;
     const QPoint middle = usual.topLeft();
     for (const QPoint& corner :
-         {QPoint(middle.x(), announced.bottom() + 1), QPoint(announced.right() + 1, middle.y()),
+         {QPoint(middle.x(), announced.bottom() + 1 + titleBar), QPoint(announced.right() + 1, middle.y()),
           QPoint(middle.x(), announced.top() - size.height()),
           QPoint(announced.left() - size.width(), middle.y())})
         if (screen.contains(QRect(corner, size))) {

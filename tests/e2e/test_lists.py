@@ -157,6 +157,22 @@ def test_the_wheel_over_a_combo_box_without_the_focus_changes_nothing(reader, op
     assert [box.name for box in boxes()] == before
 
 
+def test_the_box_that_counts_the_results_leaves_them_to_be_read(reader, desktop):
+    import pyatspi
+    window = reader.open_search()
+    desktop.type("e")
+    reader.key("Return")
+    assert reader.text_of_box("Search Results:")
+    rows = reader.find("list", "Search results:", window).queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+    box = reader.find("alert", "Search Results:").queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+    shown = desktop.run("xdotool", "search", "--onlyvisible", "--name", "^Search Results:$").split()[0]
+    borders = desktop.run("xprop", "-id", shown, "_NET_FRAME_EXTENTS").split("=")[1].split(",")  # left, right, top, bottom
+    left, right, top, bottom = map(int, borders)
+    assert top > 0
+    assert (box.y - top >= rows.y + rows.height or box.x - left >= rows.x + rows.width
+            or box.y + box.height + bottom <= rows.y or box.x + box.width + right <= rows.x)
+
+
 def test_enter_and_esc_end_the_moving_of_the_search_window_by_keyboard(reader):
     window = reader.open_search()
     reader.desktop.type("amor")
