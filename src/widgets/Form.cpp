@@ -291,12 +291,23 @@ bool Form::eventFilter(QObject* watched, QEvent* event)
         m_pressedAt = subWindow()->geometry();
     if (watched == subWindow() && event->type() == QEvent::MouseButtonRelease)
         m_pressedAt = QRect();
-    if (watched == subWindow() && event->type() == QEvent::FocusOut && isMovedByKeyboard()) {
-        // QMdiSubWindow would go on, follow the mouse and keep it from everything else.
-        QKeyEvent end(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-        QCoreApplication::sendEvent(watched, &end);
+    if (watched == subWindow() && event->type() == QEvent::FocusOut) {
+        // X may take the focus from the frame for an instant as the menu closes that began the move.
+        if (static_cast<QFocusEvent*>(event)->reason() == Qt::ActiveWindowFocusReason)
+            QTimer::singleShot(100, this, &Form::endMoveWithoutFocus);
+        else
+            endMoveWithoutFocus();
     }
     return QWidget::eventFilter(watched, event);
+}
+
+// QMdiSubWindow would go on, follow the mouse and keep it from everything else.
+void Form::endMoveWithoutFocus()
+{
+    if (!isMovedByKeyboard() || subWindow()->hasFocus())
+        return;
+    QKeyEvent end(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QCoreApplication::sendEvent(subWindow(), &end);
 }
 
 void Form::resizeEvent(QResizeEvent* event)

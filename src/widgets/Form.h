@@ -114,6 +114,7 @@ protected:
 private:
     QMdiSubWindow* subWindow() const;
     bool isMovedByKeyboard() const;
+    void endMoveWithoutFocus();
     void showBehind(QMdiSubWindow* active);
     /// Makes the window that was active last, among those that are not minimised, the active one.
     void handOver();

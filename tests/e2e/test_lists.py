@@ -178,6 +178,7 @@ def test_enter_and_esc_end_the_moving_of_the_search_window_by_keyboard(reader):
     reader.desktop.type("amor")
     for item, key in (("m", "Return"), ("m", "Escape"), ("s", "Return"), ("s", "Escape")):
         reader.key("alt+minus", item)
+        reader.wait_for(lambda: reader.focused(window) is None, "the window to have the keys")
         reader.key(key)
         assert reader.find("frame", "Advanced Search")
         assert not reader.lines(reader.application()).count("alert: Search Results:")
