@@ -13,6 +13,9 @@ endif()
 
 # The program as the tests meet it: assembled by this build, over a text of the tests' own.
 set(KESTREL_TEST_DIR ${CMAKE_BINARY_DIR}/test/kestrel)
+if(WIN32)
+    set(drive Z:) # as which Wine shows the folders of the system that it runs on
+endif()
 
 # What every target is warned of, and what the program and its tools are besides: a test may compare an int with a size.
 add_library(warnings INTERFACE)
@@ -36,9 +39,26 @@ else()
     # Hardening, as a program deserves that opens files it did not write.
     add_compile_options(-fstack-protector-strong -fstack-clash-protection
                         $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE> $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
-    add_link_options(-Wl,-z,relro,-z,now)
+    if(WIN32)
+        # The protector's library is linked where this stands. Nothing in a program tells when it was linked.
+        add_link_options(-static -fstack-protector-strong -Wl,--dynamicbase,--nxcompat,--high-entropy-va,--no-insert-timestamp)
+        add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
+    else()
+        add_link_options(-Wl,-z,relro,-z,now)
+    endif()
     include(CheckPIESupported)
     check_pie_supported()
+endif()
+
+# What only one system has stands in files that are named after it, and after no other.
+set(only_windows "(Windows\\.cpp|_windows_test\\.cpp)$")
+set(only_linux "(Linux\\.cpp|_linux_test\\.cpp)$")
+if(WIN32)
+    set(KESTREL_OF_OTHER_SYSTEMS ${only_linux})
+elseif(CMAKE_SYSTEM_NAME STREQUAL Linux)
+    set(KESTREL_OF_OTHER_SYSTEMS ${only_windows})
+else()
+    set(KESTREL_OF_OTHER_SYSTEMS "${only_linux}|${only_windows}")
 endif()
 
 # use_precompiled_headers(NAME): compiles what the windows include of Qt once for all libraries, in two fifths of the time.
@@ -67,9 +87,7 @@ function(kestrel_library name)
     endif()
     set(folder ${CMAKE_SOURCE_DIR}/src/${ARG_FOLDER})
     file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h)
-    if(NOT CMAKE_SYSTEM_NAME STREQUAL Linux) # what only one system has stands in a file that is named after it
-        list(FILTER sources EXCLUDE REGEX "Linux\\.cpp$")
-    endif()
+    list(FILTER sources EXCLUDE REGEX "${KESTREL_OF_OTHER_SYSTEMS}")
     add_library(${name} STATIC ${sources})
     target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
     target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE strict_warnings)
@@ -85,10 +103,11 @@ endfunction()
 function(kestrel_test name)
     cmake_parse_arguments(ARG "QT" "" "LINK" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${name}/*.cpp)
+    list(FILTER sources EXCLUDE REGEX "${KESTREL_OF_OTHER_SYSTEMS}")
     add_executable(test_${name} ${sources})
     set_target_properties(test_${name} PROPERTIES AUTOMOC ${ARG_QT})
-    target_compile_definitions(test_${name} PRIVATE KESTREL_INSTALL_DIR="${KESTREL_TEST_DIR}"
-                               KESTREL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+    target_compile_definitions(test_${name} PRIVATE KESTREL_INSTALL_DIR="${drive}${KESTREL_TEST_DIR}"
+                               KESTREL_SOURCE_DIR="${drive}${CMAKE_SOURCE_DIR}")
     target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     add_dependencies(test_${name} test_data)
     # Test code is compiled for a quick build; what it tests is compiled as everywhere.
@@ -96,7 +115,7 @@ function(kestrel_test name)
     if(ARG_QT)
         target_compile_options(test_${name} PRIVATE -include support/PrintQt.h)
     endif()
-    target_link_libraries(test_${name} PRIVATE ${ARG_LINK} GTest::gmock $<IF:$<BOOL:${ARG_QT}>,qt_test_main,GTest::gtest_main>)
+    target_link_libraries(test_${name} PRIVATE ${ARG_LINK} test_files GTest::gmock $<IF:$<BOOL:${ARG_QT}>,qt_test_main,GTest::gtest_main>)
     add_test(NAME ${name} COMMAND test_${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 600)
 endfunction()

@@ -1,8 +1,12 @@
+// A name is that of an abstract socket.
 #include "desktop/InstanceName.h"
 
 #include <cerrno>
 #include <cstddef>
 #include <cstring>
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QFileInfo>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -30,7 +34,6 @@ public:
     Socket& operator=(const Socket&) = delete;
 
     int handle() const { return m_handle; }
-    int release() { return std::exchange(m_handle, -1); }
 
 private:
     int m_handle;
@@ -83,15 +86,25 @@ Result takeOrAsk(Socket& socket, const QByteArray& name)
 
 } // namespace
 
+struct InstanceName::Held
+{
+    Socket socket;
+};
+
+QByteArray InstanceName::ofThisProgram()
+{
+    const QString executable = QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
+    const QByteArray digest =
+        QCryptographicHash::hash(executable.toUtf8(), QCryptographicHash::Sha256).toHex().left(32);
+    return "kestrel-reader-" + QByteArray::number(getuid()) + "-" + digest;
+}
+
 InstanceName::InstanceName(QByteArray name)
     : m_name(std::move(name))
 {
 }
 
-InstanceName::~InstanceName()
-{
-    giveBack();
-}
+InstanceName::~InstanceName() = default;
 
 bool InstanceName::take()
 {
@@ -100,12 +113,12 @@ bool InstanceName::take()
         if (holderOf(candidate(number)) == Holder::Ourselves)
             return false;
     for (int number = 0; number < candidates; ++number) {
-        Socket socket;
-        const Result result = takeOrAsk(socket, candidate(number));
+        auto held = std::make_unique<Held>();
+        const Result result = takeOrAsk(held->socket, candidate(number));
         if (result == Result::HeldByUs)
             return false;
         if (result == Result::Taken)
-            m_socket = socket.release();
+            m_held = std::move(held);
         if (result != Result::HeldByStranger)
             break;
     }
@@ -114,8 +127,7 @@ bool InstanceName::take()
 
 void InstanceName::giveBack()
 {
-    if (m_socket >= 0)
-        close(std::exchange(m_socket, -1));
+    m_held.reset();
 }
 
 QByteArray InstanceName::candidate(int number) const

@@ -1,14 +1,31 @@
 // What is the same on every system, because Qt does it. The rest stands in a file for each system.
 #include "desktop/Platform.h"
 
+#include "desktop/InstanceName.h"
+#include <memory>
 #include <QApplication>
 #include <QClipboard>
 
 namespace {
 
 Platform* replacement = nullptr;
+std::unique_ptr<InstanceName> heldName;
 
 } // namespace
+
+bool Platform::previousInstance()
+{
+    auto name = std::make_unique<InstanceName>(InstanceName::ofThisProgram());
+    if (!name->take())
+        return true;
+    heldName = std::move(name);
+    return false;
+}
+
+void Platform::endInstance()
+{
+    heldName.reset();
+}
 
 void Platform::beep()
 {

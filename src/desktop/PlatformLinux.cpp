@@ -2,18 +2,12 @@
 #include "desktop/Platform.h"
 
 #include "desktop/BasePath.h"
-#include "desktop/InstanceName.h"
-#include <memory>
 #include <QCoreApplication>
-#include <QCryptographicHash>
-#include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 #include <unistd.h>
 
 namespace {
-
-std::unique_ptr<InstanceName> heldName;
 
 /// Starts a program by its path in a session of its own, in a folder (or in our own, when that is empty). It
 /// holds nothing of ours open: neither files inherited from whoever started us nor our output.
@@ -31,24 +25,6 @@ bool startDetached(const QString& program, const QStringList& arguments, const Q
 }
 
 } // namespace
-
-bool Platform::previousInstance()
-{
-    const QString executable = QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
-    const QByteArray digest =
-        QCryptographicHash::hash(executable.toUtf8(), QCryptographicHash::Sha256).toHex().left(32);
-    auto name =
-        std::make_unique<InstanceName>("kestrel-reader-" + QByteArray::number(getuid()) + "-" + digest);
-    if (!name->take())
-        return true;
-    heldName = std::move(name);
-    return false;
-}
-
-void Platform::endInstance()
-{
-    heldName.reset();
-}
 
 bool Platform::startProgram(const QString& program)
 {

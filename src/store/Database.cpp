@@ -51,7 +51,8 @@ Database::Database(const std::string& path)
     // Only files have a length: opening a pipe would wait for ever, and a folder fails late with a message
     // that misleads.
     std::error_code unreadable;
-    const std::uintmax_t fileSize = std::filesystem::file_size(path, unreadable);
+    const std::filesystem::path file(std::u8string(path.begin(), path.end())); // UTF-8 on every system
+    const std::uintmax_t fileSize = std::filesystem::file_size(file, unreadable);
     if (unreadable)
         throw DataError(SQLITE_CANTOPEN, sqlite3_errstr(SQLITE_CANTOPEN));
     sqlite3* connection = nullptr;

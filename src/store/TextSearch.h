@@ -4,8 +4,9 @@
 #include "store/VerseBlock.h"
 
 /// The compiler makes one version for any x86-64 processor and one for those with AVX2, whose registers are
-/// twice as wide; the program picks one as it starts. Other processors have one width.
-#ifdef __x86_64__
+/// twice as wide; the program picks one as it is loaded, which files in the ELF format can. Elsewhere there
+/// is one width.
+#if defined(__x86_64__) && defined(__ELF__)
 #define WIDER_WITH_AVX2 [[gnu::target_clones("avx2", "default")]]
 #else
 #define WIDER_WITH_AVX2

@@ -1,10 +1,10 @@
 #include "clip/AnimationPlayer.h"
 #include "clip/AviBytes.h"
+#include "support/Files.h"
 #include <gtest/gtest.h>
 #include <QPaintEvent>
 #include <QTemporaryDir>
 #include <QTest>
-#include <sys/stat.h>
 
 namespace {
 class CountingPlayer : public AnimationPlayer
@@ -72,7 +72,8 @@ TEST_F(AnimationPlayerTest, ABadOrMissingClipLeavesItEmpty)
 TEST_F(AnimationPlayerTest, APipeIsNotOpened)
 {
     const QString path = folder.filePath("pipe");
-    ASSERT_EQ(mkfifo(qPrintable(path), 0600), 0);
+    if (!Files::makePipe(path.toStdString()))
+        GTEST_SKIP() << "no folder holds a pipe here";
     EXPECT_FALSE(player.open(path)) << "and above all it returns";
 }
 

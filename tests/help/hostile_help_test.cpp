@@ -4,11 +4,11 @@
 #include "help/HelpFile.h"
 #include "help/HelpHtml.h"
 #include "help/HelpLink.h"
+#include "support/Files.h"
 #include <gtest/gtest.h>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
-#include <sys/stat.h>
 
 namespace {
 
@@ -131,7 +131,8 @@ TEST(HelpWindow, ShowsAPageWithAPictureOfAPipeAtOnce)
 {
     const QTemporaryDir folder;
     const QString pipe = folder.filePath("pipe");
-    ASSERT_EQ(mkfifo(pipe.toUtf8().constData(), 0600), 0);
+    if (!Files::makePipe(pipe.toStdString()))
+        GTEST_SKIP() << "no folder holds a pipe here";
     QFile file(folder.filePath("KESTREL.HLP"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(page("<p>a<img src=\"" + pipe + "\">b</p>").toUtf8());

@@ -15,12 +15,13 @@ import formatting
 import headers
 import names
 import subjects
+import systems
 import windows
 
 
 def breaches(top, build):
     found = [] if formatting.unfit() else formatting.breaches(top)
-    for rule in (floors, names, documents, windows, subjects):
+    for rule in (floors, names, documents, windows, systems, subjects):
         found += rule.breaches(top)
     return found + headers.breaches(top, build)
 
@@ -29,7 +30,7 @@ def main():
     found = breaches(*(pathlib.Path(argument).resolve() for argument in sys.argv[1:]))
     if formatting.unfit():
         print(formatting.unfit())
-    print("\n".join(found) if found else "formatting, floors, names, documents, windows, subjects and headers keep the rules")
+    print("\n".join(found) if found else "formatting, floors, names, documents, windows, systems, subjects and headers keep the rules")
     return 1 if found else 0
 
 

@@ -12,6 +12,7 @@ import floors  # noqa: E402
 import formatting  # noqa: E402
 import names  # noqa: E402
 import subjects  # noqa: E402
+import systems  # noqa: E402
 import windows  # noqa: E402
 
 SOUND = {
@@ -55,7 +56,7 @@ def told(rule, top):
     return "\n".join(rule.breaches(top)).replace(f"{top}/", "")
 
 
-@pytest.mark.parametrize("rule", [documents, floors, formatting, names, windows])
+@pytest.mark.parametrize("rule", [documents, floors, formatting, names, systems, windows])
 def test_a_sound_house_keeps_them(house, rule):
     assert told(rule, house) == ""
 
@@ -73,6 +74,9 @@ def test_a_sound_house_keeps_them(house, rule):
     (names, "tests/read/more_test.cpp", "TEST(Chapter, isGathered)\n", "Chapter.isGathered: a test is named by a sentence"),
     (names, "tests/read/ChapterTests.cpp", "TEST(Chapter, Is)\n", "tests/read/ChapterTests.cpp: a file of tests is named after"),
     (names, "src/read/Long.h", "//\n" * 2000, "src/read/Long.h: 2000 lines, more than"),
+    (systems, "src/read/Where.cpp", "#ifdef _WIN32\n", "src/read/Where.cpp:1: _WIN32 is one system's; it stands in a file named after"),
+    (systems, "src/read/Where.cpp", "#include <unistd.h>\n", "unistd is one system's; it stands in a file named after that, WhereLinux.cpp"),
+    (systems, "src/read/Where.h", "#if defined(Q_OS_LINUX)\n", "src/read/Where.h:1: Q_OS_LINUX is one system's"),
     (windows, "src/read/Stats.h", "class Stats : public Form\n", "the window Stats has no row in tests/windows.tsv"),
     (windows, "src/read/Stats.h", "class Stats final : public TextWindow\n", "the window Stats has no page in the help"),
     (windows, "tests/windows.tsv", "ChildRead\nfrmDN\nGone\tchild\n", "tests/windows.tsv: there is no window Gone"),
@@ -86,6 +90,12 @@ def test_a_sound_house_keeps_them(house, rule):
 def test_a_breach_is_named_with_what_to_do(house, rule, name, text, says):
     write(house, name, text)
     assert says in told(rule, house)
+
+
+def test_a_file_named_after_a_system_may_have_what_only_that_has(house):
+    write(house, "src/read/WhereLinux.cpp", "#include <unistd.h>\n")
+    write(house, "src/read/WhereWindows.cpp", "#ifdef _WIN32\n#include <windows.h>\n")
+    assert told(systems, house) == ""
 
 
 def test_a_document_may_name_what_is_there(house):

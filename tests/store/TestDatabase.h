@@ -6,9 +6,16 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <memory>
+#include <random>
 #include <sqlite3.h>
 #include <string>
 #include <vector>
+
+/// A path in UTF-8, as SQLite takes it, is one for the file system, too.
+inline std::filesystem::path asPath(const std::string& path)
+{
+    return std::u8string(path.begin(), path.end());
+}
 
 /// A temporary folder for one test, removed with all that is in it.
 class TestFolder
@@ -16,16 +23,20 @@ class TestFolder
 public:
     TestFolder()
     {
-        std::string name = (std::filesystem::temp_directory_path() / "kestrel-store-XXXXXX").string();
-        if (!mkdtemp(name.data()))
-            throw std::runtime_error("no temporary folder");
-        m_path = name;
+        std::random_device chance;
+        do
+            m_path = std::filesystem::temp_directory_path() / ("kestrel-store-" + std::to_string(chance()));
+        while (!std::filesystem::create_directory(m_path));
     }
     ~TestFolder() { std::filesystem::remove_all(m_path); }
     TestFolder(const TestFolder&) = delete;
     TestFolder& operator=(const TestFolder&) = delete;
 
-    std::string file(const std::string& name = "KESTRPT.DAT") const { return (m_path / name).string(); }
+    std::string file(const std::string& name = "KESTRPT.DAT") const
+    {
+        const std::u8string path = (m_path / asPath(name)).u8string();
+        return std::string(path.begin(), path.end());
+    }
     const std::filesystem::path& path() const { return m_path; }
 
 private:
