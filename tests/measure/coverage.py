@@ -40,7 +40,7 @@ def profile():
 def exported(merged):
     programs = sorted(path for path in (BUILD / "tests").glob("test_*") if path.is_file() and os.access(path, os.X_OK))
     objects = [word for program in programs[1:] for word in ("-object", program)]
-    command = ["llvm-cov", "export", f"-instr-profile={merged}", programs[0], *objects, TOP / "src"]
+    command = ["llvm-cov", "export", f"-instr-profile={merged}", f"-compilation-dir={BUILD}", programs[0], *objects, TOP / "src"]
     return json.loads(subprocess.run([str(part) for part in command], capture_output=True, check=True).stdout)
 
 
@@ -60,7 +60,9 @@ def main():
     folders = collections.defaultdict(lambda: collections.Counter())
     missed = []
     for file in files:
-        path = pathlib.Path(file["filename"]).relative_to(TOP)
+        path = pathlib.Path(os.path.normpath(BUILD / file["filename"])).relative_to(TOP)
+        if path.parts[0] != "src":  # the tests themselves, and what moc writes
+            continue
         for name in (path.parts[1], "all"):
             for kind in ("lines", "branches"):
                 folders[name][kind] += file["summary"][kind]["count"]
