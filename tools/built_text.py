@@ -7,7 +7,7 @@ from pathlib import Path
 SOURCE = Path(__file__).resolve().parent.parent
 TEXT = SOURCE / "data/text"  # README.md there tells what lies in it
 CORRECTIONS = TEXT / "corrections.tsv"
-LARGEST = 4 << 20  # bytes of a list of corrections; ours has 22,000
+MAX_BYTES = 4 << 20  # bytes of a list of corrections; ours has 22,000
 HELP_BEGIN = "<!-- the text that is built in: filled when the program is assembled, if it is another one -->\n"
 HELP_END = "<!-- so far -->\n"
 
@@ -32,7 +32,7 @@ def corrections_of(text):
     """The list to mend the text by; None when there is none for it."""
     beside = text.parent / "corrections.tsv"
     if beside.is_file():
-        if beside.stat().st_size > LARGEST:
+        if beside.stat().st_size > MAX_BYTES:
             sys.exit(f"make_data: {beside} is larger than any list of corrections. Mend it or take it away.")
         if sha256(beside) != sha256(CORRECTIONS):
             print(f"make_data: {beside} is used, which is not the same as data/text/corrections.tsv.", file=sys.stderr)

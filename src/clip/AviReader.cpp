@@ -61,8 +61,8 @@ struct PictureFormat
 
 std::optional<PictureFormat> readFormat(QByteArrayView header)
 {
-    constexpr qsizetype smallest = 20;
-    if (header.size() < smallest)
+    constexpr qsizetype minBytes = 20; // up to the field of the compression
+    if (header.size() < minBytes)
         return std::nullopt;
     return PictureFormat{
         qFromLittleEndian<quint32>(header.data() + 16) == 0, qFromLittleEndian<qint32>(header.data() + 4),

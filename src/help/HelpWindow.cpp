@@ -19,8 +19,8 @@
 
 namespace {
 
-constexpr int smallestZoom = -3;
-constexpr int largestZoom = 20;
+constexpr int minZoom = -3;
+constexpr int maxZoom = 20;
 
 /// Gives a command its text, and the tip that tells the key besides.
 void setTextOf(QAction& command, const QString& text)
@@ -142,7 +142,7 @@ void HelpWindow::search(bool backward)
 
 void HelpWindow::zoom(int step)
 {
-    const int wanted = qBound(smallestZoom, m_zoom + step, largestZoom);
+    const int wanted = qBound(minZoom, m_zoom + step, maxZoom);
     browser->zoomIn(wanted - m_zoom);
     m_zoom = wanted;
 }

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int longestCaption = 400; // pixels
+constexpr int maxCaptionWidth = 400; // pixels
 
 // Everything below the separator after "Arrange Icons" is the list of windows, made anew each time.
 void listWindows(QMenu& menu, const Shell& shell)
@@ -20,7 +20,7 @@ void listWindows(QMenu& menu, const Shell& shell)
     int number = 0;
     for (Form* window : shell.windows()) {
         const QString caption =
-            menu.fontMetrics().elidedText(window->caption(), Qt::ElideMiddle, longestCaption);
+            menu.fontMetrics().elidedText(window->caption(), Qt::ElideMiddle, maxCaptionWidth);
         QAction* entry =
             menu.addAction(QString("&%1 %2").arg(++number).arg(QString(caption).replace("&", "&&")));
         entry->setCheckable(true);

@@ -21,7 +21,7 @@ protected:
 };
 
 /// Links in a text are stops, too.
-constexpr int mostStops = 60;
+constexpr int maxStops = 60;
 
 /// The controls of a window that Tab is to reach now.
 QList<QWidget*> stops(QWidget& window)
@@ -100,7 +100,7 @@ TEST_P(EveryWindow, IsWalkedThroughByTab)
             QTest::keyClick(&keyReceiver(), Qt::Key_Tab);
         const QWidget* first = QApplication::focusWidget();
         ASSERT_NE(first, nullptr) << "Tab gives nothing the focus";
-        for (int steps = 0; steps < mostStops; ++steps) {
+        for (int steps = 0; steps < maxStops; ++steps) {
             visited << QApplication::focusWidget()->objectName();
             QTest::keyClick(&keyReceiver(), Qt::Key_Tab);
             if (QApplication::focusWidget() == first && visited.size() >= stops(window).size())

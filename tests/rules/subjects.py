@@ -6,12 +6,12 @@ from tree import git
 
 # The rule holds for what was written since then.
 SINCE = datetime.datetime(2026, 11, 21, 23, 45, tzinfo=datetime.timezone.utc)
-LONGEST = 72
+MAX_LENGTH = 72
 
 
 def breach(subject):
-    if len(subject) > LONGEST:
-        return f"{len(subject)} characters, more than {LONGEST}"
+    if len(subject) > MAX_LENGTH:
+        return f"{len(subject)} characters, more than {MAX_LENGTH}"
     if not re.match(r"[a-z0-9_.]+(, [a-z0-9_.]+)*: [A-Z0-9./`\"]", subject):
         return 'it does not read "folder: Do this"'
     return None

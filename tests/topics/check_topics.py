@@ -18,7 +18,7 @@ from titles import title_faults, twins
 # The fewest topics each list may hold.
 MINIMUM = {"events": 120, "miracles": 37, "parables": 40, "prophecy": 80}
 
-LONGEST_NAME = 60  # what the drop-down list can show
+MAX_NAME_LENGTH = 60  # what the drop-down list can show
 QUOTES = "'\"`´‘’‚‛“”„‟«»‹›"
 # A row of the README's table of the lists: the file, its group and its number of topics.
 COUNT = re.compile(r"\| `(\w+)\.txt` \|[^|]*\| *(\d+) *\|")
@@ -35,8 +35,8 @@ def name_faults(name):
         yield "backslash in the name"
     if "--" in name:
         yield "two hyphens in the name"
-    if len(name) > LONGEST_NAME:
-        yield f"name longer than {LONGEST_NAME} characters"
+    if len(name) > MAX_NAME_LENGTH:
+        yield f"name longer than {MAX_NAME_LENGTH} characters"
 
 
 def topic_faults(group, references, verses):

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int largestSide = 10000;
+constexpr int maxSide = 10000;
 
 /// A whole number from 1 to `limit`.
 int readNumber(std::string_view text, int limit, const std::string& what)
@@ -37,9 +37,8 @@ std::vector<MapEntry> readMapList(std::string_view bytes, const std::string& fil
             throw InputError(place + "map " + std::to_string(i) + " is missing or out of order.");
         if (columns[1].empty() || columns[4].empty())
             throw InputError(place + "the map has no file or no description.");
-        maps.push_back({number, std::string(columns[1]),
-                        readNumber(columns[2], largestSide, place + "the width"),
-                        readNumber(columns[3], largestSide, place + "the height"), std::string(columns[4])});
+        maps.push_back({number, std::string(columns[1]), readNumber(columns[2], maxSide, place + "the width"),
+                        readNumber(columns[3], maxSide, place + "the height"), std::string(columns[4])});
     }
     if (maps.size() < mapCount)
         throw InputError(at(file, lines.size() + 1) + "map " + std::to_string(maps.size() + 1) +

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr std::uintmax_t mostBytes = 64 << 20; // the text has 4 MB, a map's picture a fifth of one
+constexpr std::uintmax_t maxBytes = 64 << 20; // the text has 4 MB, a map's picture a fifth of one
 
 } // namespace
 
@@ -17,7 +17,7 @@ std::string readFile(const std::filesystem::path& path)
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error))
         throw InputError("Cannot read " + path.string() + ".");
-    if (std::filesystem::file_size(path, error) > mostBytes)
+    if (std::filesystem::file_size(path, error) > maxBytes)
         throw InputError(path.string() + " is larger than 64 MB, which no input is.");
     std::ifstream file(path, std::ios::binary);
     if (!file.is_open())

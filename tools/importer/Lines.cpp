@@ -5,11 +5,11 @@
 
 namespace {
 
-constexpr std::size_t longestLine = 1 << 16; // a verse before and after its correction, and room to spare
+constexpr std::size_t maxLineBytes = 1 << 16; // a verse before and after its correction, and room to spare
 
 void checkCharacters(std::string_view line, const std::string& place)
 {
-    if (line.size() > longestLine)
+    if (line.size() > maxLineBytes)
         throw InputError(place + "the line is too long.");
     if (line.starts_with("\xef\xbb\xbf"))
         throw InputError(place + "there is a byte order mark; take it away.");

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr std::size_t longestVerse = limits::maxVerseBytes - 1; // the database puts a blank before it
+constexpr std::size_t maxTextBytes = limits::maxVerseBytes - 1; // the database puts a blank before it
 
 /// Says what is wrong with a line that does not hold the verse expected at this position.
 std::string misplaced(const std::string& found, std::size_t expected)
@@ -45,9 +45,9 @@ std::vector<Verse> readVerseList(std::string_view bytes, const std::string& file
             throw InputError(place + misplaced(found, verses.size()));
         if (columns[3].find_first_not_of(' ') == std::string_view::npos)
             throw InputError(place + found + " has no text.");
-        if (columns[3].size() > longestVerse)
+        if (columns[3].size() > maxTextBytes)
             throw InputError(place + found + " is too long; the program reads verses of " +
-                             std::to_string(longestVerse) + " bytes at most.");
+                             std::to_string(maxTextBytes) + " bytes at most.");
         verses.push_back({keys[verses.size()], std::string(columns[3])});
     }
     if (verses.size() < keys.size())
