@@ -7,13 +7,13 @@
 
 int main(int, char* argv[])
 {
-    constexpr int files = 16; // it needs 11 besides the three that every process has
+    constexpr int files = 16; // the program has 11 open, besides the three that every process has
     if (!canOpenFiles(files)) {
         std::fprintf(
             stderr, "kestrel-reader: cannot open %d files at one time; raise the limit (ulimit -n)\n", files);
         return 1;
     }
-    endWhenThreadsFail();
+    endWhenThreadsFail(); // before there is a QApplication, which starts threads and waits for them
     ignoreSenselessScaling();
     Application::keepQuietAboutLocale();
     Application application(argv);

@@ -144,8 +144,9 @@ bool hasKeyboardFocus(const QStyleOption& option)
 
 } // namespace
 
-// The wheel chooses in the combo box that has the focus. It does not give the focus to one that the pointer
-// happens to pass, as it would to a QComboBox, and chooses nothing there.
+// A QComboBox takes the focus, and changes its choice, when the wheel is turned while the pointer happens to
+// be over it. Here the wheel gives no focus (StrongFocus), and chooses only in the box that has it
+// (styleHint()).
 void FrameStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
@@ -167,8 +168,6 @@ int FrameStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
-// The marks of title bars are drawn: reading Qt's pictures of them loads every picture format that
-// the desktop knows into memory.
 int FrameStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                           QStyleHintReturn* returned) const
 {
@@ -179,6 +178,8 @@ int FrameStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
     return QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
+// The marks of title bars are drawn: reading Qt's pictures of them loads every picture format that
+// the desktop knows into memory.
 QIcon FrameStyle::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const
 {
     switch (which) {
@@ -195,7 +196,7 @@ QIcon FrameStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
     }
 }
 
-// The base style's outlines can hardly be told from the window, least of all on dark desktops.
+// Fusion's outlines can hardly be told from the window, least of all on dark desktops.
 void FrameStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const
 {
@@ -246,7 +247,7 @@ Option FrameStyle::withKnownPalette(Option option) const
     return option;
 }
 
-// The base style draws the marks of a title bar's buttons for a higher bar; in this one they are mere dots.
+// Fusion draws the marks of a title bar's buttons for a higher bar; in this one they are mere dots.
 void FrameStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                     QPainter* painter, const QWidget* widget) const
 {

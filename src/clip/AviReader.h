@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QList>
 
+/// The pictures of a clip, decoded, each to be shown for the same time. A damaged file may give none.
 struct AviClip
 {
     std::chrono::microseconds frameTime; ///< never 0

@@ -27,8 +27,8 @@ qreal naturalTwips(int pixels, int dotsPerMeter, int dotsPerMeterOfNone)
     return toTwips(pixels) * (isGiven ? 96 / dotsPerInch : 1);
 }
 
-// The decoder takes a part's declared length on trust and asks for as much memory: up to 2 GB for one damaged
-// byte.
+// libpng, by which Qt reads the picture, takes a part's declared length on trust and asks for as much memory:
+// up to 2 GB for one damaged byte.
 bool declaresMoreThanItHas(const QByteArray& bytes)
 {
     constexpr qsizetype signature = 8;

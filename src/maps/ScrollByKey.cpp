@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int step = 60;
+constexpr int step = 60; // pixels
 
 // At its end too a bar takes the key: else it would move the focus, and with it the view.
 bool scroll(QScrollBar& bar, int way)

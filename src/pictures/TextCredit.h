@@ -7,6 +7,5 @@
 inline const QString textCredit = QStringLiteral(
     "Todas as Escrituras em português citadas são da Bíblia Livre (BLIVRE), Copyright © Diego Santos, Mario "
     "Sérgio, e Marco Teles, http://sites.google.com/site/biblialivre/ - fevereiro de 2018. Licença Creative "
-    "Commons Atribuição 3.0 Brasil (http://creativecommons.org/licenses/by/3.0/br/). Reprodução permitida "
-    "desde "
-    "que devidamente mencionados fonte e autores.");
+    "Commons Atribuição 3.0 Brasil (http://creativecommons.org/licenses/by/3.0/br/). Reprodução "
+    "permitida desde que devidamente mencionados fonte e autores.");

@@ -150,8 +150,8 @@ void ChildRead::Form_Resize()
     chkAuto->move(chkAuto->x(), toPixels(autoTop));
     cboSeconds->move(cboSeconds->x(), toPixels(autoTop - 45));
     Label2->move(Label2->x(), toPixels(autoTop + 15));
-    lblVerseId->move(toPixels(width + 120),
-                     lblVerseId->y()); // stays below the buttons, where it was laid out
+    // The key stays below the buttons, where it was laid out.
+    lblVerseId->move(toPixels(width + 120), lblVerseId->y());
 }
 
 // Anywhere in the window, as the verse is what there is to page through.

@@ -3,7 +3,8 @@
 #include <cstdint>
 #include <QString>
 
-/// The number of the last verse, after which the first follows.
+/// The number of the last verse, after which the first follows. A literal, not the length of the table: the
+/// rule of the wrap is about this number, whatever a database holds.
 constexpr int lastVerse = 31102;
 
 /// The number at the start of a text; 0 for an empty or non-numeric one.

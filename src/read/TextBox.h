@@ -5,7 +5,7 @@
 
 /// A box of many lines to read, to select from by mouse or keyboard, and to drag the selection out of.
 ///
-/// The editor underneath drops carriage returns and turns no-break blanks into blanks. The box keeps its text
+/// QPlainTextEdit drops carriage returns and turns no-break blanks into blanks. The box keeps its text
 /// itself: text(), the offsets of a selection, and what is copied or dragged are exact to the letter.
 class TextBox : public PlainText
 {

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int textMargin = 6;
+constexpr int textMargin = 6; // pixels
 
 } // namespace
 

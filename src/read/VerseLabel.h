@@ -23,11 +23,12 @@ public:
     /// False when the whole verse shows; at either end of a longer one nothing moves.
     bool scrollByPages(int pages);
 
-    /// For a screen reader: the first character of the line around another, and the one after its last; -1
-    /// and -1 beyond the text. Where a character stands in the label, scrolled out of sight or not. And
-    /// scrolling its line into view.
+    /// For a screen reader, as the next two: the line of a character, from its first character to the one
+    /// after its last; -1 and -1 beyond the text.
     std::pair<int, int> lineAround(int character) const;
+    /// Where a character stands, in pixels of the label, scrolled out of sight or not.
     QRect characterRect(int character) const;
+    /// Scrolls the line of a character into view.
     void showCharacter(int character);
 
 protected:

@@ -157,7 +157,7 @@ void frmAdvSearch::Form_Load()
     Combo1->setCurrentIndex(0);
     for (const SearchRange& range : searchRanges())
         Combo2->addItem(range.entry);
-    Combo2->setCurrentIndex(44);
+    Combo2->setCurrentText("The Four Gospels");
     Animation1->hide();
     Animation1->open(shell().basePath() + clipFileName);
     cmdOK->setEnabled(false);
@@ -349,8 +349,8 @@ void frmAdvSearch::enableInputs(bool enable)
 {
     for (QWidget* input : std::initializer_list<QWidget*>{Text1, Text2, Combo1, Combo2, chkWholeWrd})
         input->setEnabled(enable);
-    Label1->setBuddy(enable ? Text1
-                            : nullptr); // while the text rests, their Alt key is the Edit menu's alone
+    // While the text rests, the Alt key of both is the Edit menu's alone.
+    Label1->setBuddy(enable ? Text1 : nullptr);
 }
 
 void frmAdvSearch::enableResults(bool enable)
@@ -364,8 +364,8 @@ void frmAdvSearch::enableResults(bool enable)
 
 void frmAdvSearch::List1_KeyDown()
 {
-    m_memory.ListKeyFlag =
-        1; // for every key, also one that selects nothing: the next click then only clears the flag
+    // For every key, also one that selects nothing: the next click then only clears the flag.
+    m_memory.ListKeyFlag = 1;
 }
 
 void frmAdvSearch::List1_KeyPress()
@@ -411,6 +411,7 @@ void frmAdvSearch::cmdCopySR_Click()
         cmdCopySR->acknowledge("Copied");
 }
 
+// A press of F1, for KeyPreview to hear: the window itself knows no help.
 void frmAdvSearch::cmdHelp_Click()
 {
     QWidget* receiver = isAncestorOf(QApplication::focusWidget()) ? QApplication::focusWidget() : this;

@@ -9,8 +9,8 @@
 namespace {
 
 constexpr std::size_t wordBits = 64;
-constexpr char32_t tableSize =
-    0x100; // of Latin-1; other characters are rare enough to be looked at each time
+// Of Latin-1; other characters are rare enough to be looked at each time.
+constexpr char32_t tableSize = 0x100;
 
 [[noreturn]] void refusePattern()
 {

@@ -8,8 +8,8 @@ namespace limits {
 
 constexpr std::size_t maxKeyBytes = 64;
 constexpr std::size_t maxVerseBytes = 8 << 10;
-constexpr std::size_t maxBlockBytes =
-    64 << 20; ///< of all keys, or all verses; offsets of 32 bits can count them
+/// Of all keys, or of all verses; offsets of 32 bits can count them.
+constexpr std::size_t maxBlockBytes = 64 << 20;
 constexpr std::size_t maxTopicListBytes = 64 << 10; ///< of a `VerseList`
 constexpr int maxTopics = 5'000;
 constexpr std::size_t maxTitleBytes = 1 << 10; ///< of a topic's `Name`, and of a `MapDesc`

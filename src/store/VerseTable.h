@@ -6,7 +6,7 @@ struct Verses;
 /// Registers the module `VerseRows`: a virtual table over the block, with the columns and the order of
 /// `NewTestament`.
 ///
-/// It narrows the rows to visit by comparisons and LIKE, whatever their number:
+/// It narrows the rows to visit by conditions of these forms, by as many as a query has:
 ///
 ///     VerseNumber  = < <= > >=   by binary search
 ///     VerseId      = LIKE        by the key index, as far as the key's beginning is known
