@@ -3,7 +3,7 @@
 
     tests/measure/mutants.py [--count N] [--seed N] [--in FOLDER]...
 
-A copy of the committed tree is built in build/mutants/ (some minutes, once), then each change is built and tested there:
+A copy of the committed tree is built in build/mutants/ (some minutes the first time), then each change is built and tested there:
 first the tests of its own folder, then the others. A change that does not compile counts for nothing. Takes about a minute a change;
 drawing code (src/pictures, FrameStyle) is left out unless --in names it. Ends with 0 whatever it finds.
 """
@@ -11,6 +11,7 @@ import argparse
 import os
 import pathlib
 import random
+import shutil
 import subprocess
 import sys
 
@@ -35,9 +36,16 @@ def run(*command, seconds=None):
 
 
 def make_copy():
+    """The committed tree, and of an earlier copy only what was built of it: files deleted since would be compiled, too."""
     COPY.mkdir(parents=True, exist_ok=True)
+    for old in COPY.iterdir():
+        if old.is_dir() and old.name != "build":
+            shutil.rmtree(old)
+        elif not old.is_dir():
+            old.unlink()
     archive = subprocess.run(["git", "-C", TOP, "archive", "HEAD"], capture_output=True, check=True).stdout
-    subprocess.run(["tar", "-x", "-C", COPY], input=archive, check=True)
+    # With the time of now (-m): a file with its commit's time would be older than what the last run built of a change to it.
+    subprocess.run(["tar", "-x", "-m", "-C", COPY], input=archive, check=True)
     if not (run("cmake", "--preset", "dev") and run("cmake", "--build", "--preset", "dev")):
         sys.exit(f"mutants: the tree does not build as it is; see cmake --build --preset dev in {COPY}")
     if not run("ctest", "--test-dir", "build/dev", "-E", NOT_RUN, "-j", "2"):
