@@ -13,6 +13,7 @@ import cairo
 
 import furniture
 from panel import Panel
+from placement import ink
 from plan import Plan
 from tables import Tables
 from title_box import TitleBox
@@ -75,9 +76,11 @@ def _faults(sheet, tables, panels):
 
 
 def _listed(panel):
-    points = [{"name": label.name, "text": label.text, "mark": label.mark,
+    points = [{"name": label.name, "text": label.text, "mark": label.mark, "bold": label.look.bold,
                "dot": _rounded((label.x, label.y, label.radius)), "box": _rounded(label.chosen.box),
                "numbers": [number for number, _ in label.numbers],
+               **{part: [_rounded(rect) for rect in rects]
+                  for part, rects in zip(("badges", "letters"), ink(label, label.chosen))},
                "areas": [panel.area_at(label.x, label.y), panel.area_at(*_middle(label.chosen.box))]}
               for label in panel.labels]
     return {"rect": _rounded(panel.bounds), "names": _boxes(panel.names), "points": points,

@@ -7,6 +7,8 @@ import cairo
 import curves
 from style import TYPES, rgb
 
+BADGE_GAP = 1.4
+
 _measure = cairo.Context(cairo.ImageSurface(cairo.FORMAT_A8, 8, 8))
 
 
@@ -122,12 +124,12 @@ def badge_width(number):
     return 2 * Badge.HALF if len(str(number)) == 1 else 2 * Badge.HALF + 3.2
 
 
-def badges_width(numbers, gap=1.4):
+def badges_width(numbers, gap=BADGE_GAP):
     """How long a row of badges is, with the gap after each."""
     return sum(badge_width(number) + gap for number, _ in numbers)
 
 
-def badge_row(numbers, x, y, gap=1.4):
+def badge_row(numbers, x, y, gap=BADGE_GAP):
     """Badges of (number, colour) side by side from x on."""
     row = []
     for number, colour in numbers:

@@ -5,12 +5,13 @@ from dataclasses import dataclass, field
 
 from shapely.geometry import LineString, Polygon, box
 
-from lettering import Line, ascent, badge_row, badges_width, descent, width
+from lettering import BADGE_GAP, Badge, Line, ascent, badge_row, badges_width, descent, width
 
 PAD = 1.6
 LEADING = 1.12
 CLASH = 400.0
 NEARER = 0.6  # points by which another town's symbol must be farther from a name than the name's own
+CLEAR = 6.0  # points that letters behind a number keep from another town's symbol
 DOUBT, DOUBTFUL = 14.0, 5.0  # cost of a name hardly nearer to its own symbol than to another, and within how many points
 # Where the name may stand (direction in degrees, clockwise from east), and what each costs.
 SIDES = {"E": (0, 0), "NE": (-42, 1.0), "SE": (42, 1.2), "W": (180, 1.5), "NW": (222, 2.0), "SW": (138, 2.2),
@@ -48,6 +49,7 @@ class Spot:
         left = x - wide * (0.5 - 0.5 * max(-1, min(1, math.cos(angle) * 1.6)))
         top = y - high * (0.5 - 0.5 * max(-1, min(1, math.sin(angle) * 1.6)))
         self.box = (left, top, left + wide, top + high)
+        self.rows = list(_rows(label, self.box))
         self.leader = None
         if leads:
             near = (min(max(label.x, left), left + wide), min(max(label.y, top), top + high))
@@ -162,19 +164,32 @@ class Placer:
         """The cost of other towns near the name; one nearer than its own makes the place wrong."""
         if label.mark == "none":
             return 0
-        own = _distance(spot.box, label.x, label.y) - label.radius
-        cost = 0
-        for x, y, radius in self._dots:
-            if abs(x - label.x) < 0.1 and abs(y - label.y) < 0.1:
+        badges, letters = ink(label, spot)
+        own, cost = (label.x, label.y, label.radius), 0
+        for dot in self._dots:
+            if abs(dot[0] - label.x) < 0.1 and abs(dot[1] - label.y) < 0.1:
                 continue
-            other = _distance(spot.box, x, y) - radius
-            if other < own + NEARER and not spot.wrong:
+            if not spot.wrong and is_astray(badges, letters, own, dot):
                 spot.wrong.append("is nearer to the symbol of another place")
-            if other < own + DOUBTFUL:
+            x, y, radius = dot
+            if _gap([spot.box], dot) < _gap([spot.box], own) + DOUBTFUL:
                 cost += DOUBT
             if spot.leader and _crosses(spot.leader, (x - radius, y - radius, x + radius, y + radius)):
                 cost += 20
         return cost
+
+
+def is_astray(badges, letters, own, other):
+    """Whether the other symbol seems to be the one that the name, its numbers or its letters belong to."""
+    return (_gap(badges + letters, other) < _gap(badges + letters, own) + NEARER
+            or bool(badges) and len(letters) == 1 and _gap(badges, other) < _gap(badges, own) + NEARER
+            or bool(badges) and _gap(letters, other) < min(_gap(letters, own) + NEARER, CLEAR))
+
+
+def _gap(rects, dot):
+    """Points between the nearest of some boxes and the rim of a symbol."""
+    x, y, radius = dot
+    return min(_distance(rect, x, y) for rect in rects) - radius
 
 
 def _bounds(quad):
@@ -200,19 +215,41 @@ def _size(label):
     return max(_row_widths(label)), high
 
 
-def _set(label):
-    """Turns the chosen box into lines of text, leaning towards the symbol; the numbers stand next to it."""
-    x0, y0, x1, _ = label.chosen.box
+def _rows(label, area):
+    """What stands where in the box: (text, left end of its letters, base line, left end of the numbers) by row.
+
+    The rows lean towards the symbol; the numbers stand next to it."""
+    x0, y0, x1, _ = area
     lean = 0 if x0 >= label.x - 1 else 1 if x1 <= label.x + 1 else 0.5
     for index, (row, wide) in enumerate(zip(label.text.split("\n"), _row_widths(label))):
         left = x0 + (x1 - x0 - wide) * lean
         base = y0 + ascent(label.look) + index * label.look.size * LEADING
+        numbers = left
         if label.numbers and index == 0:
-            middle = base - ascent(label.look) / 2
             before = lean < 1
-            gap = 1.4 if lean == 1 else 0
-            label.lines += badge_row(label.numbers, left if before else left + width(row, label.look) + gap, middle)
+            numbers = left if before else left + width(row, label.look) + BADGE_GAP
             left += badges_width(label.numbers) if before else 0
+        yield row, left, base, numbers
+
+
+def ink(label, spot):
+    """The boxes of the numbers, one if there are any, and those of the rows of letters."""
+    badges, letters = [], []
+    for row, left, base, numbers in spot.rows:
+        if label.numbers and not letters:
+            middle = base - ascent(label.look) / 2
+            end = numbers + badges_width(label.numbers) - BADGE_GAP
+            badges.append((numbers, middle - Badge.HALF, end, middle + Badge.HALF))
+        end = left + width(row, label.look)
+        letters.append((left, base - ascent(label.look), end, base + descent(row, label.look)))
+    return badges, letters
+
+
+def _set(label):
+    """Turns the chosen box into lines of text."""
+    for row, left, base, numbers in label.chosen.rows:
+        if label.numbers and not label.lines:
+            label.lines += badge_row(label.numbers, numbers, base - ascent(label.look) / 2)
         label.lines.append(Line(row, label.look, left, base))
 
 

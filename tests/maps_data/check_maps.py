@@ -32,6 +32,7 @@ MOST_BYTES = 1_600_000  # the database has its fixed length, and this leaves its
 LARGEST = (1200, 680)  # natural size: with its window it fits into the frame on a screen of 1280 x 800
 SHARPNESS = 1.5  # stored pixels to one of the natural size, at least
 LONGEST_DESCRIPTION = 160
+CLEAR = 6.0  # points that letters behind a number keep from another town's symbol
 TOUCH = 0.6  # points that two names may share: rims of letters, not ink
 MARGIN = 2.0  # points between a name and the frame around it, at least
 
@@ -124,9 +125,11 @@ def check_points(folder):
             points = [point for point in panel["points"] if point["mark"] != "none"]
             used |= {point["mark"] for point in points}
             for point in points:
-                own = _gap(point["box"], point["dot"])
                 faults += [f"{sheet}: \"{point['name']}\" is nearer to the symbol of {other['name']}"
-                           for other in points if other is not point and _gap(point["box"], other["dot"]) <= own]
+                           for other in points if other is not point and _is_astray(point, other["dot"])]
+            faults += [f"{sheet}: {point['name']} is bold without being a stop or a capital"
+                       for point in panel["points"]
+                       if point["bold"] and not point["numbers"] and point["mark"] != "capital"]
             texts = [point["text"] for point in panel["points"]]
             faults += [f"{sheet}: two places are called \"{text}\"" for text in sorted(set(texts))
                        if texts.count(text) > 1]
@@ -211,10 +214,22 @@ def _table(path):
     return [dict(zip(head, row)) for row in rows]
 
 
-def _gap(rect, dot):
-    """Points between a name's box and the rim of a symbol."""
+def _is_astray(point, other):
+    """Whether a name, its numbers (of one row) or the letters behind them seem to belong to another symbol."""
+    badges, letters, own = point["badges"], point["letters"], point["dot"]
+    if _gap(badges + letters, other) <= _gap(badges + letters, own):
+        return True
+    if not badges:
+        return False
+    behind = min(CLEAR, _gap(letters, own))
+    return _gap(letters, other) < behind or len(letters) == 1 and _gap(badges, other) <= _gap(badges, own)
+
+
+def _gap(rects, dot):
+    """Points between the nearest of some boxes and the rim of a symbol."""
     x, y, radius = dot
-    return math.hypot(max(rect[0] - x, 0, x - rect[2]), max(rect[1] - y, 0, y - rect[3])) - radius
+    return min(math.hypot(max(left - x, 0, x - right), max(top - y, 0, y - bottom))
+               for left, top, right, bottom in rects) - radius
 
 
 def _crosses(one, rect):

@@ -162,9 +162,28 @@ def point_of(sheets, sheet, name):
 def test_name_nearer_to_another_symbol_is_found(copy):
     def change(sheets):
         x, y, _ = point_of(sheets, "map08", "Perga")["dot"]
-        point_of(sheets, "map08", "Attalia")["box"] = [x + 4, y - 5, x + 40, y + 5]
+        point_of(sheets, "map08", "Attalia").update(badges=[], letters=[[x + 4, y - 5, x + 40, y + 5]])
     change_names(copy, change)
     assert check_maps.check_points(copy) == ['map08: "Attalia" is nearer to the symbol of Perga']
+
+
+@pytest.mark.parametrize("badge, letters", [
+    (-20, 8),   # its own symbol to the left; the number reaches up to the other's
+    (-40, 4),   # the letters end under the other symbol, the number is by its own
+])
+def test_number_or_letters_by_another_symbol_are_found(copy, badge, letters):
+    def change(sheets):
+        x, y, _ = point_of(sheets, "map08", "Perga")["dot"]
+        point_of(sheets, "map08", "Attalia").update(
+            dot=[x - 46, y + 8, 3], badges=[[x + badge, y + 3, x + badge + 11, y + 14]],
+            letters=[[x + badge + 12, y + letters, x + badge + 62, y + letters + 9]])
+    change_names(copy, change)
+    assert 'map08: "Attalia" is nearer to the symbol of Perga' in check_maps.check_points(copy)
+
+
+def test_bold_name_that_is_no_stop_is_found(copy):
+    change_names(copy, lambda sheets: point_of(sheets, "map04", "Gaza").update(bold=True))
+    assert check_maps.check_points(copy) == ["map04: Gaza is bold without being a stop or a capital"]
 
 
 def test_name_across_the_frame_of_an_enlarged_part_is_found(copy):

@@ -42,6 +42,13 @@ def test_name_that_must_stand_nearer_to_another_town_is_a_fault():
     assert fault in place(town("Derbe", 100, 100, sides=["E"]), town("Lystra", 112, 100))
 
 
+def test_letters_behind_a_number_keep_off_another_town():
+    fault = "Derbe is nearer to the symbol of another place"
+    numbered = town("Derbe", 100, 100, sides=["E"], leader=False, numbers=[(9, "#a8242c")])
+    assert fault in place(numbered, town("Lystra", 130, 88.5))
+    assert place(town("Derbe", 100, 100, sides=["E"], leader=False), town("Lystra", 130, 88.5)) == []
+
+
 def test_name_on_a_name_that_stands_is_a_fault():
     placer = Placer((0, 0, 300, 200))
     placer.keep_off_quads([[(0, 0), (300, 0), (300, 200), (0, 200)]])
