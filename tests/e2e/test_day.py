@@ -9,6 +9,7 @@ import time
 import pytest
 from phrases import COUSINS, ONCE_KEY
 from reader import Reader
+from windowtable import WINDOWS, title_of
 
 TOPICS = pathlib.Path(__file__).resolve().parents[2] / "data" / "topics"
 LIMIT = 30500  # characters of results after which no further verse is copied
@@ -308,15 +309,15 @@ def test_f1_opens_the_page_of_every_window(reader):
     reading = reader.look_up("2Jn:1:1")
     expect_help(reader, "Reading Window")
     reader.wait_for_focus_in(reading)
-    for keys, window, page in (("F9", "Chapter Window -- 2Jn:1:", "Chapter Window"),
-                               ("F3", "Advanced Search", "Search"),
-                               ("F8", "Study Aids", "Study Aids"),
-                               ("F2", "Select Verse for Reading", "Select Verse for Reading")):
-        reader.key(keys)
-        frame = reader.find("frame", window)
-        reader.wait_for(lambda: reader.focused(frame), f"the focus in {window}")
+    for name, chapter, page in (("ChapRead", "2Jn:1:", "Chapter Window"),
+                                ("frmAdvSearch", "", "Search"),
+                                ("ChildMapSel", "", "Study Aids"),
+                                ("ChildSelect", "", "Select Verse for Reading")):
+        reader.key(WINDOWS[name].keys.split()[-1])
+        frame = reader.find("frame", title_of(name) + chapter)
+        reader.wait_for(lambda: reader.focused(frame), f"the focus in {name}")
         expect_help(reader, page)
-        reader.wait_for(lambda: reader.focused(frame), f"the focus back in {window}")
+        reader.wait_for(lambda: reader.focused(frame), f"the focus back in {name}")
     aids = open_study_aids(reader)
     reader.key("ctrl+F4")  # a new one begins on its tabs
     reader.absent("frame", "Study Aids")
@@ -330,7 +331,7 @@ def test_f1_opens_the_page_of_every_window(reader):
 
     about = reader.open_about()
     expect_help(reader, "About Window")
-    for button, title in (("DonationWare", "Your support is needed!"), ("QORV CD-ROM Offer", "QORV CD-ROM Offer")):
+    for button, title in (("DonationWare", title_of("frmDN")), ("QORV CD-ROM Offer", title_of("frmQORV"))):
         reader.act(button, about)
         reader.wait_for_focus(reader.find("dialog", title), "text", title)
         expect_help(reader, title)

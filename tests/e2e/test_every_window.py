@@ -1,12 +1,9 @@
 """What holds for every window of tests/windows.tsv: its keys open it, every stop has a spoken name, and Tab visits them all."""
-import pathlib
 import time
 
 import pytest
 from walks import stops, walk
-
-TABLE = pathlib.Path(__file__).resolve().parents[1] / "windows.tsv"
-ROWS = [line.split("\t") for line in TABLE.read_text(encoding="utf-8").splitlines() if line and not line.startswith("#")]
+from windowtable import WINDOWS
 
 
 @pytest.fixture
@@ -30,7 +27,7 @@ def of_the_x_server(key):
     return "+".join([modifier.lower() for modifier in held] + [last.lower() if len(last) == 1 or last == "Space" else last])
 
 
-@pytest.mark.parametrize("name, kind, keys, caption", ROWS, ids=[row[0] for row in ROWS])
+@pytest.mark.parametrize("name, kind, keys, caption", WINDOWS.values(), ids=WINDOWS)
 def test_it_is_opened_named_and_walked_through(reader, desktop, name, kind, keys, caption):
     for key in keys.split():
         reader.key(of_the_x_server(key))

@@ -5,15 +5,15 @@ import random
 import re
 
 import pytest
+from windowtable import WINDOWS, title_of
 
 SEED = 1998
 EVENTS = 1000
 AT_ONCE = 10  # events of one command
 LOOK_EVERY = 100
 GROWTH_LIMIT = 32  # MB over the whole run: each window, the clip, maps and fonts come into memory once
-FRAME = "Kestrel Reader: Portuguese Version - Freeware"
-WINDOWS = ("Select Verse for Reading", "Reading Window -- ", "Chapter Window -- ", "Advanced Search", "Study Aids",
-           "Map -- ")
+FRAME = title_of("MDIParent")
+CHILDREN = [title_of(name) for name, window in WINDOWS.items() if window.kind == "child"]
 KEYS = ("Return", "Return", "Return", "Escape", "Tab", "shift+Tab", "Up", "Down", "Down", "Left", "Right", "Home", "End",
         "Prior", "Next", "space", "BackSpace", "Delete", "F1", "F2", "F2", "F2", "F3", "F3", "F8", "F8", "F9", "F9",
         "F11", "F12", "F12", "ctrl+a", "ctrl+c", "ctrl+n", "ctrl+Tab", "alt+e", "alt+v", "alt+w")
@@ -93,7 +93,7 @@ class Monkey:
     def fault(self):
         """What is not as it always must be, as it is seen now; nothing when all is well."""
         frames = self.frames()
-        for window in WINDOWS:
+        for window in CHILDREN:
             titles = [title for title, _ in frames if title.startswith(window)]
             if len(titles) > 1:
                 return f"more than one window: {titles}"
