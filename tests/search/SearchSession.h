@@ -40,17 +40,30 @@ protected:
     QLabel& Label2() { return control<QLabel>(window(), "Label2"); }
     DataControl& Data1() { return control<DataControl>(window(), "Data1"); }
 
-    /// Sets the inputs and clicks the button; the place of the range is that in `Combo2`.
-    void search(const QString& text1, int range = 47, const QString& text2 = {}, int connective = 0,
-                bool wholeWord = false)
+    /// Places in `Combo1` and `Combo2`.
+    enum Connective { NoConnective = -1, And, AndNot, Or };
+    enum Range { NoRange = -1, OldTestament = 4, Ez = 30, Gospels = 44, NewTestament = 47, John = 51 };
+
+    struct Inputs
     {
-        Text1().setText(text1);
-        Text2().setText(text2);
-        Combo1().setCurrentIndex(connective);
-        Combo2().setCurrentIndex(range);
-        chkWholeWrd().setChecked(wholeWord);
+        QString text1;
+        QString text2 = {};
+        int connective = And;
+        int range = NewTestament;
+        bool wholeWord = false;
+    };
+
+    /// Sets the inputs and clicks the button.
+    void search(const Inputs& inputs)
+    {
+        Text1().setText(inputs.text1);
+        Text2().setText(inputs.text2);
+        Combo1().setCurrentIndex(inputs.connective);
+        Combo2().setCurrentIndex(inputs.range);
+        chkWholeWrd().setChecked(inputs.wholeWord);
         click(cmdOK());
     }
+    void search(const QString& text1) { search(Inputs{.text1 = text1}); }
 
     /// Sets the inputs anew after results were listed.
     void newSearch() { click(cmdHideList()); }

@@ -16,7 +16,7 @@ protected:
     void SetUp() override
     {
         SearchSession::SetUp();
-        search("amor", 47);
+        search("amor");
         boxes.shown.clear();
         ASSERT_GT(list().count(), 20);
     }
@@ -119,7 +119,7 @@ TEST_F(SearchResults, RememberAKeyInTheListWhenTheWindowIsClosed)
     click(cmdCancel());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     frame().openSearch();
-    search("amor", 47);
+    search("amor");
     clickLine(2);
     EXPECT_EQ(shownVerse(), "none") << "the click only clears the flag";
     clickLine(2);
@@ -149,11 +149,11 @@ TEST_F(SearchResults, AreSelectedByAJumpRightAfterTheSearch)
     press(Qt::Key_Home);
     EXPECT_EQ(list().selected(), 0);
     newSearch();
-    search("amor", 44);
+    search({.text1 = "amor", .range = Gospels});
     press(Qt::Key_PageUp);
     EXPECT_EQ(list().selected(), 0);
     newSearch();
-    search("amor", 47);
+    search("amor");
     press(Qt::Key_End);
     EXPECT_EQ(list().selected(), list().count() - 1);
     EXPECT_EQ(open<ChildRead>(), nullptr);
@@ -161,11 +161,13 @@ TEST_F(SearchResults, AreSelectedByAJumpRightAfterTheSearch)
 
 TEST_F(SearchResults, AreSelectedByAnyJumpWhenThereIsOne)
 {
-    const std::pair<Qt::Key, int> jumps[] = {
-        {Qt::Key_Home, 44}, {Qt::Key_End, 47}, {Qt::Key_PageUp, 51}, {Qt::Key_PageDown, -1}};
+    const std::pair<Qt::Key, Range> jumps[] = {{Qt::Key_Home, Gospels},
+                                               {Qt::Key_End, NewTestament},
+                                               {Qt::Key_PageUp, John},
+                                               {Qt::Key_PageDown, NoRange}};
     for (const auto& [jump, range] : jumps) {
         newSearch();
-        search(phrases::onceText, range); // another range, so that the list is made anew
+        search({.text1 = phrases::onceText, .range = range}); // another range, so that the list is made anew
         ASSERT_EQ(list().count(), 1);
         press(jump);
         EXPECT_EQ(list().selected(), 0);
@@ -285,7 +287,7 @@ TEST_F(SearchResults, LeaveTheTipWhileAButtonIsHeld)
 TEST_F(SearchResults, AreReadLineByLineByAScreenReader)
 {
     newSearch();
-    search("*", -1);
+    search({.text1 = "*", .range = NoRange});
     QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&list());
     ASSERT_NE(spoken, nullptr);
     EXPECT_EQ(spoken->role(), QAccessible::List);
@@ -300,7 +302,7 @@ TEST_F(SearchResults, AreReadLineByLineByAScreenReader)
 TEST_F(SearchResults, AreCopiedByTheButtonAndTheMenu)
 {
     newSearch();
-    search(phrases::onceText, 44);
+    search({.text1 = phrases::onceText, .range = Gospels});
     boxes.shown.clear();
     const QString expected = "Search Results:\r\n" + list().text(0) + "\r\n(PT)";
     click(cmdCopySR());
@@ -314,7 +316,7 @@ TEST_F(SearchResults, AreCopiedByTheButtonAndTheMenu)
 TEST_F(SearchResults, AreCopiedUpToTheLimitWithAWordAboutIt)
 {
     newSearch();
-    search(phrases::thirdOfAll, -1);
+    search({.text1 = phrases::thirdOfAll, .range = NoRange});
     boxes.shown.clear();
     QApplication::clipboard()->setText("before");
     QString atMessage;

@@ -282,7 +282,11 @@ TEST_F(SearchOracle, AgreesLineByLineOnGeneratedQueries)
     for (int i = 0; i < queries; ++i) {
         const Query query = maker.next();
         boxes.shown.clear();
-        search(query.text1, query.range, query.text2, query.connective, query.wholeWord);
+        search({.text1 = query.text1,
+                .text2 = query.text2,
+                .connective = query.connective,
+                .range = query.range,
+                .wholeWord = query.wholeWord});
         const QStringList expected = scan(verses, query, Combo2().currentText());
         const std::string what = QString("%1: '%2' '%3' connective %4 range %5 whole %6")
                                      .arg(i)
@@ -309,9 +313,9 @@ TEST_F(SearchOracle, AgreesLineByLineOnGeneratedQueries)
 TEST_F(SearchOracle, FailsOnEveryPatternThatCannotBeValid)
 {
     for (const char* text : {"[", "amor[", "[a", "[!", "[z-a]", "rio[c-a]x", "*[*"}) {
-        search(text, -1);
+        search({.text1 = text, .range = NoRange});
         EXPECT_EQ(box(), failedTitle + "Error 93: Invalid pattern string" + aborted) << text;
-        search("amor", 47, text, 2);
+        search({.text1 = "amor", .text2 = text, .connective = Or});
         EXPECT_EQ(box(), failedTitle + "Error 93: Invalid pattern string" + aborted) << text;
     }
 }

@@ -103,7 +103,7 @@ TEST_F(SearchWindow, OpensWithItsDefaults)
     EXPECT_EQ(Combo1().itemText(1), "and Not containing");
     EXPECT_EQ(Combo1().itemText(2), "Or containing");
     EXPECT_EQ(Combo2().count(), 75);
-    EXPECT_EQ(Combo2().currentIndex(), 44);
+    EXPECT_EQ(Combo2().currentIndex(), Gospels);
     EXPECT_EQ(Combo2().currentText(), "The Four Gospels");
     EXPECT_FALSE(chkWholeWrd().isChecked());
     EXPECT_FALSE(cmdOK().isEnabled());
@@ -330,7 +330,7 @@ TEST_F(SearchWindow, TheSearchedWordsCanBeReadInResultsMode)
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         frame().setPalette(desktop);
         frame().openSearch();
-        search("amor", 47, "rio", 2);
+        search({.text1 = "amor", .text2 = "rio", .connective = Or});
         for (QWidget* input : {static_cast<QWidget*>(&Text1()), static_cast<QWidget*>(&Text2()),
                                static_cast<QWidget*>(&Combo1()), static_cast<QWidget*>(&Combo2())}) {
             EXPECT_FALSE(input->isEnabled());
@@ -428,22 +428,22 @@ TEST_F(SearchWindow, EmptiesTheListWhenALaterQueryFails)
 
 TEST_F(SearchWindow, ReportsAFailureAfterTheFirstRow)
 {
-    search("*", -1);
+    search({.text1 = "*", .range = NoRange});
     const QString firstWords = list().text(0).section(' ', 1, 3);
     newSearch();
-    search(firstWords, -1);
+    search({.text1 = firstWords, .range = NoRange});
     ASSERT_EQ(list().selected(), -1);
     ASSERT_LT(list().count(), 100) << "the second pattern is looked at once the first does not match";
     newSearch();
     boxes.shown.clear();
-    search(firstWords, -1, "[", 2);
+    search({.text1 = firstWords, .text2 = "[", .connective = Or, .range = NoRange});
     EXPECT_EQ(box(), failedTitle + "Error 93: Invalid pattern string" + aborted);
     EXPECT_EQ(list().count(), 0);
     EXPECT_EQ(sql(), allVerses);
     EXPECT_FALSE(isInResultsMode());
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     EXPECT_FALSE(Animation1().isVisible());
-    search(firstWords, -1, "[", 2);
+    search({.text1 = firstWords, .text2 = "[", .connective = Or, .range = NoRange});
     EXPECT_EQ(box(), failedTitle + "Error 0: " + aborted);
 }
 
@@ -474,7 +474,7 @@ TEST_F(SearchWindow, RepeatsTheResultsWithoutAQuery)
     newSearch();
     boxes.shown.clear();
     Data1().setRecordSource("untouched");
-    search("AMOR", 47, "", 2);
+    search({.text1 = "AMOR", .connective = Or});
     EXPECT_EQ(sql(), "untouched");
     EXPECT_EQ(box(), found(static_cast<int>(before.size())));
     EXPECT_EQ(lines(), before);
@@ -484,30 +484,29 @@ TEST_F(SearchWindow, RepeatsTheResultsWithoutAQuery)
 
 TEST_F(SearchWindow, KnowsARepeatByWhatWasTypedNotByWhatWasSearched)
 {
-    search("d'água", 4, "d'ouro", 2, true);
+    search(
+        {.text1 = "d'água", .text2 = "d'ouro", .connective = Or, .range = OldTestament, .wholeWord = true});
     newSearch();
     Data1().setRecordSource("untouched");
-    search("d'água", 4, "d'ouro", 2, true);
+    search(
+        {.text1 = "d'água", .text2 = "d'ouro", .connective = Or, .range = OldTestament, .wholeWord = true});
     EXPECT_EQ(sql(), "untouched");
 }
 
 TEST_F(SearchWindow, RunsAnewWhenAnInputChanged)
 {
-    const struct
-    {
-        const char* text1;
-        int range;
-        const char* text2;
-        int connective;
-        bool wholeWord;
-    } rows[] = {{"ódio", 47, "", 0, false},     {"amor", 44, "", 0, false},    {"amor", 47, "ódio", 0, false},
-                {"amor", 47, "ódio", 2, false}, {"amor", 47, "ira", 2, false}, {"amor", 47, "ira", 2, true}};
+    const Inputs changes[] = {{.text1 = "ódio"},
+                              {.text1 = "amor", .range = Gospels},
+                              {.text1 = "amor", .text2 = "ódio"},
+                              {.text1 = "amor", .text2 = "ódio", .connective = Or},
+                              {.text1 = "amor", .text2 = "ira", .connective = Or},
+                              {.text1 = "amor", .text2 = "ira", .connective = Or, .wholeWord = true}};
     search("amor");
-    for (const auto& row : rows) {
+    for (const Inputs& inputs : changes) {
         newSearch();
         Data1().setRecordSource("untouched");
-        search(row.text1, row.range, row.text2, row.connective, row.wholeWord);
-        EXPECT_NE(sql(), "untouched") << row.text1 << row.text2;
+        search(inputs);
+        EXPECT_NE(sql(), "untouched") << inputs.text1.toStdString() << inputs.text2.toStdString();
         if (!isInResultsMode()) // nothing found: the button of the next round needs the results mode
             search(phrases::thirdOfAll);
     }
@@ -515,31 +514,31 @@ TEST_F(SearchWindow, RunsAnewWhenAnInputChanged)
 
 TEST_F(SearchWindow, ForgetsOnlyTheFirstWordWhenItIsClosed)
 {
-    search("xyzzy", 47, "ira", 1);
+    search({.text1 = "xyzzy", .text2 = "ira", .connective = AndNot});
     box();
     press(Qt::Key_Escape);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     ASSERT_EQ(open<frmAdvSearch>(), nullptr);
     frame().openSearch();
     EXPECT_EQ(Text1().text(), "");
-    search("xyzzy", 47, "ira", 1);
+    search({.text1 = "xyzzy", .text2 = "ira", .connective = AndNot});
     EXPECT_NE(sql(), "") << "it was taken for a repeat";
     box();
     Data1().setRecordSource("untouched");
-    search("xyzzy", 47, "ira", 1);
+    search({.text1 = "xyzzy", .text2 = "ira", .connective = AndNot});
     EXPECT_EQ(sql(), "untouched");
 }
 
 TEST_F(SearchWindow, KeepsTheOtherMemoryWhenItIsClosed)
 {
-    search("[", 47, "ira", 2);
+    search({.text1 = "[", .text2 = "ira", .connective = Or});
     box();
     Text1().setText("");
     outer(window()).close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     frame().openSearch();
     // With no first word again, as the memory has it, all the rest is as it was: a repeat of the failure.
-    search("", 47, "ira", 2);
+    search({.text1 = "", .text2 = "ira", .connective = Or});
     EXPECT_TRUE(boxes.shown.isEmpty()) << "the button is disabled";
     cmdOK().setEnabled(true);
     click(cmdOK());
@@ -548,24 +547,24 @@ TEST_F(SearchWindow, KeepsTheOtherMemoryWhenItIsClosed)
 
 TEST_F(SearchWindow, TrimsTheTexts)
 {
-    search("  amor ", 47, " moleiro  ");
+    search({.text1 = "  amor ", .text2 = " moleiro  "});
     EXPECT_EQ(sql(), allVerses + " WHERE VerseNumber BETWEEN 1 AND 7957 AND KJVerseText LIKE '*amor*' AND "
                                  "KJVerseText LIKE '*moleiro*'");
 }
 
 TEST_F(SearchWindow, WrapsTheSecondWordOnlyWhenThereIsOne)
 {
-    search("amor", 47, "", 0, true);
+    search({.text1 = "amor", .wholeWord = true});
     EXPECT_TRUE(sql().endsWith("KJVerseText LIKE '*[!0-9a-zA-Z]amor[!0-9a-zA-Z]*'"));
     newSearch();
-    search("amor", 47, "moleiro", 2, true);
+    search({.text1 = "amor", .text2 = "moleiro", .connective = Or, .wholeWord = true});
     EXPECT_TRUE(sql().endsWith("AND (KJVerseText LIKE '*[!0-9a-zA-Z]amor[!0-9a-zA-Z]*' OR "
                                "KJVerseText LIKE '*[!0-9a-zA-Z]moleiro[!0-9a-zA-Z]*')"));
 }
 
 TEST_F(SearchWindow, SearchesAnApostropheAsAnyCharacter)
 {
-    search("d'água", 4);
+    search({.text1 = "d'água", .range = OldTestament});
     EXPECT_TRUE(sql().endsWith("KJVerseText LIKE '*d?água*'"));
     EXPECT_GT(list().count(), 0);
     EXPECT_TRUE(lines().join(' ').contains("d’água"));
@@ -573,15 +572,15 @@ TEST_F(SearchWindow, SearchesAnApostropheAsAnyCharacter)
 
 TEST_F(SearchWindow, FindsTheVersesOfEzrToThoseOfEz)
 {
-    ASSERT_EQ(Combo2().itemText(30), "Ez");
-    search(phrases::thirdOfAll, 30);
+    ASSERT_EQ(Combo2().itemText(Ez), "Ez");
+    search({.text1 = phrases::thirdOfAll, .range = Ez});
     EXPECT_TRUE(lines().first().startsWith("Ezr:"));
     EXPECT_TRUE(lines().last().startsWith("Ez:"));
 }
 
 TEST_F(SearchWindow, EndsAWholeWordBeforeAnAccentedLetter)
 {
-    search("na", 47, "", 0, true);
+    search({.text1 = "na", .wholeWord = true});
     EXPECT_TRUE(list().count() > 0);
     bool hasFalseFind = false;
     for (const QString& line : lines())
@@ -594,7 +593,7 @@ TEST_F(SearchWindow, EndsAWholeWordBeforeAnAccentedLetter)
 
 TEST_F(SearchWindow, ScansEverythingWithoutARange)
 {
-    search("*", -1);
+    search({.text1 = "*", .range = NoRange});
     EXPECT_EQ(list().count(), 31102);
     EXPECT_TRUE(list().text(0).startsWith("Mt:1:1 "));
     EXPECT_TRUE(list().text(31101).startsWith("Mal:4:6 "));
@@ -603,17 +602,17 @@ TEST_F(SearchWindow, ScansEverythingWithoutARange)
 
 TEST_F(SearchWindow, CountsASingleMatchInTheSameWords)
 {
-    search(phrases::onceText, 44);
+    search({.text1 = phrases::onceText, .range = Gospels});
     EXPECT_EQ(box(), found(1));
 }
 
 TEST_F(SearchWindow, LeavesTheQueryAsItWasForNoConnective)
 {
-    search("amor", 47);
+    search("amor");
     const QString before = sql();
     const int count = list().count();
     newSearch();
-    search("amor", 47, "moleiro", -1);
+    search({.text1 = "amor", .text2 = "moleiro", .connective = NoConnective});
     EXPECT_EQ(sql(), before);
     EXPECT_EQ(list().count(), count);
 }
@@ -753,7 +752,7 @@ TEST_F(SearchWindow, PlaysItsClipWhileTheQueryRuns)
 {
     ASSERT_GT(Animation1().frameCount(), 1);
     Text1().setText("*");
-    Combo2().setCurrentIndex(-1);
+    Combo2().setCurrentIndex(NoRange);
     class Playing : public QObject
     {
     public:
