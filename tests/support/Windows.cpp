@@ -72,7 +72,8 @@ const QList<WindowRow>& windowTable()
 
 QWidget& keyReceiver()
 {
-    for (QWidget* receiver : {QApplication::activePopupWidget(), QApplication::focusWidget(),
+    QWidget* popup = QApplication::activePopupWidget();
+    for (QWidget* receiver : {popup ? popup->focusWidget() : nullptr, popup, QApplication::focusWidget(),
                               QApplication::activeModalWidget(), QApplication::activeWindow()})
         if (receiver)
             return *receiver;

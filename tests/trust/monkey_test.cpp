@@ -142,21 +142,17 @@ protected:
             changeDesktop();
     }
 
-    /// Where a key of a real keyboard would go.
-    QWidget* keyReceiver()
+    /// A person without an active window clicks the frame before typing on.
+    QWidget* activeReceiver()
     {
-        if (QWidget* popup = QApplication::activePopupWidget())
-            return popup->focusWidget() ? popup->focusWidget() : popup;
-        if (!QApplication::activeWindow())
+        if (!QApplication::activePopupWidget() && !QApplication::activeWindow())
             makeActive(&frame());
-        if (QWidget* focus = QApplication::focusWidget())
-            return focus;
-        return QApplication::activeWindow() ? QApplication::activeWindow() : &frame();
+        return &keyReceiver();
     }
 
     void type()
     {
-        QWidget* receiver = keyReceiver();
+        QWidget* receiver = activeReceiver();
         const QChar character = typed.at(anyOf(typed.size()));
         tell(QString("type '%1' into %2").arg(character).arg(nameOf(receiver)));
         QTest::keyClick(receiver, character.toLatin1());
@@ -164,7 +160,7 @@ protected:
 
     void pressCommandKey()
     {
-        QWidget* receiver = keyReceiver();
+        QWidget* receiver = activeReceiver();
         const NamedKey& key = anyOf(commandKeys);
         tell(QString("press %1 in %2")
                  .arg(QKeySequence(key.modifiers | key.key).toString(), nameOf(receiver)));
@@ -173,7 +169,7 @@ protected:
 
     void pressMenuLetter()
     {
-        QWidget* receiver = keyReceiver();
+        QWidget* receiver = activeReceiver();
         const char letter = menuLetters.at(anyOf(menuLetters.size())).toLatin1();
         tell(QString("press Alt+%1 in %2").arg(letter).arg(nameOf(receiver)));
         QTest::keyClick(receiver, letter, Qt::AltModifier);
@@ -380,7 +376,7 @@ protected:
         EXPECT_NE(box.icon, MsgIcon::Stop) << "the program ends: " << box.text.toStdString();
     }
 
-    /// The About window and its letters wait for their end in event loops of their own.
+    /// The About window and its text windows wait for their end in event loops of their own.
     void watchDialogs()
     {
         QTimer::singleShot(1ms, &frame(), [this] {
@@ -392,9 +388,9 @@ protected:
     void useDialog()
     {
         QWidget* dialog = QApplication::activeModalWidget();
-        if (auto* letter = qobject_cast<TextWindow*>(dialog)) {
-            tell("    close " + nameOf(letter));
-            letter->close();
+        if (auto* text = qobject_cast<TextWindow*>(dialog)) {
+            tell("    close " + nameOf(text));
+            text->close();
         } else if (auto* about = qobject_cast<frmStart*>(dialog)) {
             const QList<QWidget*> controls = {about->cmdMore, about->cmdDonation, about->cmdQORV,
                                               about->cmdOK,   about->cmdOK,       about};
