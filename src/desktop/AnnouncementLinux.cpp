@@ -24,9 +24,11 @@ void send(QWidget& from, const QString& event, const QString& kind, const QStrin
 }
 
 /// Whether some assistive program listens for announcements, by AT-SPI's registry, whose answer lists pairs
-/// of a program and an event.
+/// of a program and an event. A registry that fails to answer names nobody who would not.
 bool isHeard(const QDBusMessage& registered)
 {
+    if (registered.signature() != "a(ss)")
+        return true; // and Qt would complain of such an answer on standard error
     const QDBusArgument pairs = registered.arguments().value(0).value<QDBusArgument>();
     bool heard = false;
     pairs.beginArray();
