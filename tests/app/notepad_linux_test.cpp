@@ -1,5 +1,6 @@
 // Launching the text editor: real processes, which scripts are.
 #include "app/Notepad.h"
+#include "app/NotepadFailure.h"
 #include "desktop/MsgBox.h"
 #include "support/Session.h"
 #include "widgets/ProgramFlags.h"
@@ -25,24 +26,11 @@ const QString question = "Notepad has already been launched.\r\n"
                          "\r\n"
                          "To launch a new copy of Notepad now, choose Yes.";
 
-const QString failure = "A problem has been encountered while trying to launch Notepad.exe, the standard "
-                        "text editor that ships with "
-                        "Windows.\r\n"
-                        "Make sure Notepad.exe is on your system's Path and that it works properly.";
-
 void expectQuestion(const MsgBox::Message& box)
 {
     EXPECT_EQ(box.text, question);
     EXPECT_EQ(box.icon, MsgIcon::Question);
     EXPECT_EQ(box.buttons, MsgButtons::YesNo);
-    EXPECT_EQ(box.title, applicationTitle);
-}
-
-void expectFailure(const MsgBox::Message& box)
-{
-    EXPECT_EQ(box.text, failure);
-    EXPECT_EQ(box.icon, MsgIcon::Exclamation);
-    EXPECT_EQ(box.buttons, MsgButtons::Ok);
     EXPECT_EQ(box.title, applicationTitle);
 }
 

@@ -1,5 +1,6 @@
 // Launching the text editor by its command.
 #include "app/Notepad.h"
+#include "app/NotepadFailure.h"
 #include "desktop/MsgBox.h"
 #include "support/Session.h"
 #include "widgets/ProgramFlags.h"
@@ -7,23 +8,6 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-
-namespace {
-
-const QString failure = "A problem has been encountered while trying to launch Notepad.exe, the standard "
-                        "text editor that ships with "
-                        "Windows.\r\n"
-                        "Make sure Notepad.exe is on your system's Path and that it works properly.";
-
-void expectFailure(const MsgBox::Message& box)
-{
-    EXPECT_EQ(box.text, failure);
-    EXPECT_EQ(box.icon, MsgIcon::Exclamation);
-    EXPECT_EQ(box.buttons, MsgButtons::Ok);
-    EXPECT_EQ(box.title, applicationTitle);
-}
-
-} // namespace
 
 class NotepadCommand : public Session
 {
