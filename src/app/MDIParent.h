@@ -33,13 +33,6 @@ public:
     /// Shows the frame and runs MDIForm_Load.
     void load();
 
-    QWidget* picToolbar;
-    SoftBttn* cmdSelect;
-    SoftBttn* cmdNote;
-    SoftBttn* cmdSearch;
-    SoftBttn* cmdTools;
-    SoftBttn* cmdAbout;
-
     void openSelection() override;
     void openSearch() override;
     void openStudyAids() override;
@@ -73,6 +66,13 @@ private:
     Window& single(QPointer<Window>& window, Arguments&... arguments);
     void childActivated(QMdiSubWindow* window);
     void showMenus(const QList<QMenu*>& menus);
+
+    QWidget* picToolbar;
+    SoftBttn* cmdSelect;
+    SoftBttn* cmdNote;
+    SoftBttn* cmdSearch;
+    SoftBttn* cmdTools;
+    SoftBttn* cmdAbout;
 
     Program& m_program;
     QMdiArea* m_area;

@@ -9,10 +9,10 @@ class TextWindow : public QDialog
 {
     Q_OBJECT
 
-public:
-    QPlainTextEdit* Text1;
-
 protected:
     /// name: the window's class name.
     TextWindow(const QString& name, const QString& caption, const QString& text, QWidget* owner);
+
+private:
+    QPlainTextEdit* Text1;
 };

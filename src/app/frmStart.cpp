@@ -11,6 +11,7 @@
 #include "desktop/MsgBox.h"
 #include "desktop/Platform.h"
 #include "pictures/TextCredit.h"
+#include "widgets/Layout.h"
 #include "widgets/Maker.h"
 #include "widgets/SoftBttn.h"
 #include "widgets/Twips.h"
@@ -52,19 +53,20 @@ frmStart::frmStart(Program& program, QWidget* owner)
     setAttribute(Qt::WA_DeleteOnClose);
     new EscCloses(*this); // what cmdOK does
     setAccessibleName("Kestrel Reader (PT)");
-    Image1->setObjectName("Image1");
-    Image1->setAccessibleName("Kestrel Reader (PT)");
     Image1->setAccessibleDescription(textCredit);
     Image1->setPixmap(splashPicture(devicePixelRatioF()));
-    Image1->move(toPixels(margin), toPixels(margin));
-    Image1->adjustSize();
     Image2->setToolTip(mailLink().toString());
-    Image2->setAccessibleName(cmdMail->text());
-    place(*Image2, margin, 4760, 360, 360);
-    cmdMail->move(toPixels(600), toPixels(4760));
-    cmdMail->adjustSize();
-    for (SoftBttn* button : {cmdMore, cmdDonation, cmdQORV, cmdOK})
-        place(*button, margin, 4760, 480, 480);
+    layOut({
+        {Image1, "Image1", "Kestrel Reader (PT)", {margin, margin, 0, 0}},
+        {Image2, "Image2", cmdMail->text(), {margin, 4760, 360, 360}},
+        {cmdMail, "cmdMail", "", {600, 4760, 0, 0}},
+        {cmdMore, "cmdMore", "", {margin, 4760, 480, 480}},
+        {cmdDonation, "cmdDonation", "", {margin, 4760, 480, 480}},
+        {cmdQORV, "cmdQORV", "", {margin, 4760, 480, 480}},
+        {cmdOK, "cmdOK", "", {margin, 4760, 480, 480}},
+    });
+    Image1->adjustSize();  // as large as the picture,
+    cmdMail->adjustSize(); // and as the text
     Timer1->setObjectName("Timer1");
     Timer1->setTimerType(Qt::PreciseTimer);
     Timer1->setSingleShot(true);

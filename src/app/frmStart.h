@@ -21,15 +21,6 @@ public:
     /// Form_Load; false when a start-up check failed and the program is to end at once.
     bool load();
 
-    QLabel* Image1;
-    LinkLabel* Image2;
-    LinkLabel* cmdMail;
-    SoftBttn* cmdMore;
-    SoftBttn* cmdDonation;
-    SoftBttn* cmdQORV;
-    SoftBttn* cmdOK;
-    QTimer* Timer1;
-
 protected:
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -50,6 +41,15 @@ private:
     bool passesChecks();
     void hideAboutControls();
     void layOutAbout();
+
+    QLabel* Image1;
+    LinkLabel* Image2;
+    LinkLabel* cmdMail;
+    SoftBttn* cmdMore;
+    SoftBttn* cmdDonation;
+    SoftBttn* cmdQORV;
+    SoftBttn* cmdOK;
+    QTimer* Timer1;
 
     Program& m_program;
 };

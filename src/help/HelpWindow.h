@@ -22,6 +22,16 @@ public:
     /// Shows the window so that it can be used while a modal window is open; modal may be nullptr.
     void standBeside(const QWidget* modal);
 
+private:
+    void pageChanged();
+    void contentsChosen(int row);
+    void search(bool backward);
+    void zoom(int step);
+    void setLanguage(HelpLanguage language);
+
+    QAction* addCommand(const QString& name, const QString& text, const QList<QKeySequence>& keys);
+    void makeToolbar();
+
     QAction* back;
     QAction* forward;
     QAction* copy;
@@ -35,16 +45,6 @@ public:
     QLineEdit* searchText;
     QListWidget* contents;
     HelpBrowser* browser;
-
-private:
-    void pageChanged();
-    void contentsChosen(int row);
-    void search(bool backward);
-    void zoom(int step);
-    void setLanguage(HelpLanguage language);
-
-    QAction* addCommand(const QString& name, const QString& text, const QList<QKeySequence>& keys);
-    void makeToolbar();
 
     const QList<HelpPage> m_allPages;
     QList<HelpPage> m_pages; ///< those in the language that is shown

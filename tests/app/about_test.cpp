@@ -28,6 +28,21 @@ AboutPlaces designed()
     return places;
 }
 
+SoftBttn& button(const frmStart& window, const QString& name)
+{
+    return control<SoftBttn>(window, name);
+}
+
+LinkLabel& link(const frmStart& window, const QString& name)
+{
+    return control<LinkLabel>(window, name);
+}
+
+QPlainTextEdit& textOf(const QDialog& letter)
+{
+    return control<QPlainTextEdit>(letter, "Text1");
+}
+
 int rightOf(const ControlPlace& place)
 {
     return place.left + place.width;
@@ -144,7 +159,7 @@ protected:
             if (open && open->isVisible())
                 open->close();
         });
-        click(*frame().cmdAbout);
+        click(control<SoftBttn>(frame(), "cmdAbout"));
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_TRUE(used);
         EXPECT_EQ(program->startWindow(), nullptr) << "the About window is still there";
@@ -176,7 +191,7 @@ TEST_F(About, IsModalOverTheFrameWithTheFlagSet)
         EXPECT_EQ(program->flags.StartFormMode, 3);
         EXPECT_TRUE(window.isModal());
         EXPECT_EQ(window.parentWidget(), &frame());
-        EXPECT_FALSE(window.Timer1->isActive());
+        EXPECT_FALSE(control<QTimer>(window, "Timer1").isActive());
         EXPECT_EQ(window.windowTitle(), "");
         EXPECT_NE(window.cursor().shape(), Qt::WaitCursor);
     });
@@ -187,7 +202,7 @@ TEST_F(About, NeverHandsOverToAnotherFrame)
 {
     MDIParent* const only = program->frame();
     whileAboutIsOpen([&](frmStart& window) {
-        window.Timer1->setInterval(1);
+        control<QTimer>(window, "Timer1").setInterval(1);
         QTest::qWait(50);
         EXPECT_EQ(program->frame(), only);
         EXPECT_TRUE(window.isVisible());
@@ -197,10 +212,11 @@ TEST_F(About, NeverHandsOverToAnotherFrame)
 TEST_F(About, ShowsItsControlsWhereTheLayoutPutsThem)
 {
     whileAboutIsOpen([&](frmStart& window) {
-        const QList<SoftBttn*> row = {window.cmdMore, window.cmdDonation, window.cmdQORV, window.cmdOK};
+        const QList<SoftBttn*> row = {&button(window, "cmdMore"), &button(window, "cmdDonation"),
+                                      &button(window, "cmdQORV"), &button(window, "cmdOK")};
         const QStringList names = {"cmdMore", "cmdDonation", "cmdQORV", "cmdOK"};
         const QStringList tips = {"More Info", "DonationWare", "QORV CD-ROM Offer", "OK"};
-        const QRect image = window.Image1->geometry();
+        const QRect image = control<QLabel>(window, "Image1").geometry();
         int right = image.right() + 1;
         for (qsizetype i = row.size() - 1; i >= 0; --i) {
             EXPECT_TRUE(row[i]->isVisible() && row[i]->isEnabled());
@@ -213,21 +229,22 @@ TEST_F(About, ShowsItsControlsWhereTheLayoutPutsThem)
         const int top = image.bottom() + 1;
         for (const SoftBttn* button : row)
             EXPECT_EQ(button->y(), top + 7); // 110 twips
-        EXPECT_NEAR(window.Image2->y(), top + (110 + 235) / 15.0, 1);
-        EXPECT_EQ(window.cmdMail->y(), window.cmdOK->y() + 285 / 15);
-        EXPECT_EQ(window.cmdMail->height(), window.cmdMail->fontMetrics().height()) << "no ring around it";
-        EXPECT_GT(window.cmdMail->y(), window.Image2->y());
-        EXPECT_TRUE(window.cmdMail->isVisible() && window.cmdMail->isEnabled());
-        EXPECT_TRUE(window.Image2->isVisible() && window.Image2->isEnabled());
-        EXPECT_EQ(window.cmdMail->text(), "E-mail: " + Maker::mail);
-        EXPECT_EQ(window.Image2->toolTip(), "mailto:" + Maker::mail);
-        EXPECT_EQ(window.Image1->accessibleName(), "Kestrel Reader (PT)");
+        EXPECT_NEAR(link(window, "Image2").y(), top + (110 + 235) / 15.0, 1);
+        EXPECT_EQ(link(window, "cmdMail").y(), button(window, "cmdOK").y() + 285 / 15);
+        EXPECT_EQ(link(window, "cmdMail").height(), link(window, "cmdMail").fontMetrics().height())
+            << "no ring around it";
+        EXPECT_GT(link(window, "cmdMail").y(), link(window, "Image2").y());
+        EXPECT_TRUE(link(window, "cmdMail").isVisible() && link(window, "cmdMail").isEnabled());
+        EXPECT_TRUE(link(window, "Image2").isVisible() && link(window, "Image2").isEnabled());
+        EXPECT_EQ(link(window, "cmdMail").text(), "E-mail: " + Maker::mail);
+        EXPECT_EQ(link(window, "Image2").toolTip(), "mailto:" + Maker::mail);
+        EXPECT_EQ(control<QLabel>(window, "Image1").accessibleName(), "Kestrel Reader (PT)");
         EXPECT_EQ(window.width(), image.right() + 1 + 10);
-        EXPECT_EQ(window.height(), window.cmdOK->geometry().bottom() + 1 + 10);
-        EXPECT_LT(window.cmdMail->geometry().right(), window.cmdMore->x())
+        EXPECT_EQ(window.height(), button(window, "cmdOK").geometry().bottom() + 1 + 10);
+        EXPECT_LT(link(window, "cmdMail").geometry().right(), button(window, "cmdMore").x())
             << "the address runs into the buttons";
-        EXPECT_TRUE(window.rect().contains(window.cmdMail->geometry()));
-        EXPECT_TRUE(window.rect().contains(window.Image2->geometry()));
+        EXPECT_TRUE(window.rect().contains(link(window, "cmdMail").geometry()));
+        EXPECT_TRUE(window.rect().contains(link(window, "Image2").geometry()));
     });
 }
 
@@ -238,7 +255,7 @@ TEST_F(About, OpensFromTheMenuOfAnyWindow)
         const auto looking = onceModal([&](QWidget&) {
             ASSERT_NE(program->startWindow(), nullptr);
             seen = program->startWindow()->isVisible();
-            click(*program->startWindow()->cmdOK);
+            click(button(*program->startWindow(), "cmdOK"));
         });
         choose("mnuAbout");
         EXPECT_TRUE(seen);
@@ -251,7 +268,7 @@ TEST_F(About, OpensFromTheMenuOfAnyWindow)
 TEST_F(About, OkClosesIt)
 {
     whileAboutIsOpen([&](frmStart& window) {
-        click(*window.cmdOK);
+        click(button(window, "cmdOK"));
         EXPECT_FALSE(window.isVisible());
     });
 }
@@ -260,8 +277,9 @@ TEST_F(About, EscClosesItFromEveryControl)
 {
     for (int i = 0; i < 5; ++i)
         whileAboutIsOpen([&](frmStart& window) {
-            QWidget* const controls[] = {window.cmdMore, window.cmdDonation, window.cmdQORV, window.cmdOK,
-                                         window.cmdMail};
+            QWidget* const controls[] = {&button(window, "cmdMore"), &button(window, "cmdDonation"),
+                                         &button(window, "cmdQORV"), &button(window, "cmdOK"),
+                                         &link(window, "cmdMail")};
             controls[i]->setFocus();
             press(Qt::Key_Escape);
             EXPECT_FALSE(window.isVisible()) << i;
@@ -282,9 +300,9 @@ TEST_F(About, EscClosesItWithAnyModifier)
 TEST_F(About, EscClosesItWhileAButtonIsHeldDown)
 {
     whileAboutIsOpen([&](frmStart& window) {
-        window.cmdMore->setFocus();
-        QTest::keyPress(window.cmdMore, Qt::Key_Space);
-        ASSERT_TRUE(window.cmdMore->isDown());
+        button(window, "cmdMore").setFocus();
+        QTest::keyPress(&button(window, "cmdMore"), Qt::Key_Space);
+        ASSERT_TRUE(button(window, "cmdMore").isDown());
         press(Qt::Key_Escape);
         EXPECT_FALSE(window.isVisible());
     });
@@ -301,7 +319,7 @@ TEST_F(About, EscClosesALetterWithAnyModifier)
                 EXPECT_FALSE(letter.isVisible());
                 letter.close();
             });
-            click(*window.cmdDonation);
+            click(button(window, "cmdDonation"));
             EXPECT_TRUE(window.isVisible());
         });
 }
@@ -317,7 +335,7 @@ TEST_F(About, ExistsOnce)
 
 TEST_F(About, MoreInfoShowsTheInformationBox)
 {
-    whileAboutIsOpen([&](frmStart& window) { click(*window.cmdMore); });
+    whileAboutIsOpen([&](frmStart& window) { click(button(window, "cmdMore")); });
     ASSERT_EQ(boxes.shown.size(), 1);
     EXPECT_EQ(boxes.shown[0].text, informationText());
     EXPECT_EQ(boxes.shown[0].icon, MsgIcon::Information);
@@ -334,8 +352,8 @@ TEST_F(About, InformationHasVersionFirstAndEndsWithTheLastDownload)
 TEST_F(About, MailLabelAndItsPictureOpenAMessageToTheAuthor)
 {
     whileAboutIsOpen([&](frmStart& window) {
-        click(*window.cmdMail);
-        click(*window.Image2);
+        click(link(window, "cmdMail"));
+        click(link(window, "Image2"));
     });
     EXPECT_EQ(services.links, QList<QUrl>({mailLink(), mailLink()}));
 }
@@ -343,9 +361,9 @@ TEST_F(About, MailLabelAndItsPictureOpenAMessageToTheAuthor)
 TEST_F(About, MailLabelWorksByKeyboard)
 {
     whileAboutIsOpen([&](frmStart& window) {
-        for (int tabs = 0; tabs < 10 && QApplication::focusWidget() != window.cmdMail; ++tabs)
+        for (int tabs = 0; tabs < 10 && QApplication::focusWidget() != &link(window, "cmdMail"); ++tabs)
             press(Qt::Key_Tab);
-        ASSERT_EQ(QApplication::focusWidget(), window.cmdMail);
+        ASSERT_EQ(QApplication::focusWidget(), &link(window, "cmdMail"));
         press(Qt::Key_Space);
         press(Qt::Key_Return);
         press(Qt::Key_Enter);
@@ -356,7 +374,7 @@ TEST_F(About, MailLabelWorksByKeyboard)
 TEST_F(About, TabWalksTheControlsFromLeftToRight)
 {
     whileAboutIsOpen([&](frmStart& window) {
-        EXPECT_EQ(QApplication::focusWidget(), window.cmdOK);
+        EXPECT_EQ(QApplication::focusWidget(), &button(window, "cmdOK"));
         QStringList order;
         for (int i = 0; i < 5; ++i) {
             press(Qt::Key_Tab);
@@ -369,17 +387,17 @@ TEST_F(About, TabWalksTheControlsFromLeftToRight)
 TEST_F(About, DonationWindowHasItsCaptionAndTextToReadOnly)
 {
     whileAboutIsOpen([&](frmStart& window) {
-        whileLetterIsOpen([&] { click(*window.cmdDonation); },
+        whileLetterIsOpen([&] { click(button(window, "cmdDonation")); },
                           [&](QDialog& letter) {
                               auto* donation = qobject_cast<frmDN*>(&letter);
                               ASSERT_NE(donation, nullptr);
                               EXPECT_EQ(donation->objectName(), "frmDN");
                               EXPECT_EQ(donation->windowTitle(), "Your support is needed!");
-                              EXPECT_EQ(donation->Text1->objectName(), "Text1");
-                              EXPECT_EQ(donation->Text1->accessibleName(), "Your support is needed!");
-                              EXPECT_EQ(donation->Text1->toPlainText(),
+                              EXPECT_EQ(textOf(*donation).objectName(), "Text1");
+                              EXPECT_EQ(textOf(*donation).accessibleName(), "Your support is needed!");
+                              EXPECT_EQ(textOf(*donation).toPlainText(),
                                         QString(donationText()).replace("\r\n", "\n"));
-                              EXPECT_TRUE(donation->Text1->isReadOnly());
+                              EXPECT_TRUE(textOf(*donation).isReadOnly());
                               EXPECT_EQ(donation->parentWidget(), &window);
                               EXPECT_TRUE(donation->isModal());
                           });
@@ -389,16 +407,16 @@ TEST_F(About, DonationWindowHasItsCaptionAndTextToReadOnly)
 TEST_F(About, TheWheelWithCtrlLeavesTheLettersTypeAsItIs)
 {
     whileAboutIsOpen([&](frmStart& window) {
-        whileLetterIsOpen([&] { click(*window.cmdDonation); },
+        whileLetterIsOpen([&] { click(button(window, "cmdDonation")); },
                           [&](QDialog& letter) {
-                              QWidget* text = qobject_cast<frmDN*>(&letter)->Text1->viewport();
+                              QWidget* text = textOf(letter).viewport();
                               const QFont before = text->font();
                               QWheelEvent turn(QPointF(20, 20), text->mapToGlobal(QPointF(20, 20)), {},
                                                QPoint(0, 120), Qt::NoButton, Qt::ControlModifier,
                                                Qt::NoScrollPhase, false);
                               QCoreApplication::sendEvent(text, &turn);
                               EXPECT_EQ(text->font(), before);
-                              EXPECT_EQ(qobject_cast<frmDN*>(&letter)->Text1->font(), before);
+                              EXPECT_EQ(textOf(letter).font(), before);
                           });
     });
 }
@@ -406,15 +424,15 @@ TEST_F(About, TheWheelWithCtrlLeavesTheLettersTypeAsItIs)
 TEST_F(About, OfferWindowHasItsCaptionAndTextToReadOnly)
 {
     whileAboutIsOpen([&](frmStart& window) {
-        whileLetterIsOpen([&] { click(*window.cmdQORV); },
+        whileLetterIsOpen([&] { click(button(window, "cmdQORV")); },
                           [&](QDialog& letter) {
                               auto* offer = qobject_cast<frmQORV*>(&letter);
                               ASSERT_NE(offer, nullptr);
                               EXPECT_EQ(offer->objectName(), "frmQORV");
                               EXPECT_EQ(offer->windowTitle(), "QORV CD-ROM Offer");
-                              EXPECT_EQ(offer->Text1->toPlainText(),
+                              EXPECT_EQ(textOf(*offer).toPlainText(),
                                         QString(discOfferText()).replace("\r\n", "\n"));
-                              EXPECT_TRUE(offer->Text1->isReadOnly());
+                              EXPECT_TRUE(textOf(*offer).isReadOnly());
                               EXPECT_EQ(offer->parentWidget(), &window);
                               EXPECT_TRUE(offer->isModal());
                           });
@@ -425,7 +443,8 @@ TEST_F(About, EscClosesOnlyTheDonationWindowAndThenTheAboutWindow)
 {
     whileAboutIsOpen([&](frmStart& window) {
         QPointer<QDialog> donation;
-        whileLetterIsOpen([&] { click(*window.cmdDonation); }, [&](QDialog& letter) { donation = &letter; });
+        whileLetterIsOpen([&] { click(button(window, "cmdDonation")); },
+                          [&](QDialog& letter) { donation = &letter; });
         EXPECT_TRUE(donation.isNull()) << "the donation window stays loaded";
         EXPECT_TRUE(window.isVisible());
         QTest::keyClick(&window, Qt::Key_Escape);
@@ -437,7 +456,7 @@ TEST_F(About, LettersAreLoadedAfreshEachTime)
 {
     whileAboutIsOpen([&](frmStart& window) {
         for (int i = 0; i < 2; ++i)
-            whileLetterIsOpen([&] { click(*window.cmdQORV); },
+            whileLetterIsOpen([&] { click(button(window, "cmdQORV")); },
                               [&](QDialog& letter) {
                                   auto* text = letter.findChild<QPlainTextEdit*>("Text1");
                                   EXPECT_FALSE(text->textCursor().hasSelection());
@@ -492,8 +511,9 @@ TEST_F(AboutControlsOfTheSplash, AreHiddenAndDisabled)
     ASSERT_TRUE(program->start());
     frmStart& splash = *program->startWindow();
     makeActive(&splash);
-    const QList<QWidget*> controls = {splash.cmdOK,       splash.cmdMore, splash.cmdQORV,
-                                      splash.cmdDonation, splash.cmdMail, splash.Image2};
+    const QList<QWidget*> controls = {&button(splash, "cmdOK"),   &button(splash, "cmdMore"),
+                                      &button(splash, "cmdQORV"), &button(splash, "cmdDonation"),
+                                      &link(splash, "cmdMail"),   &link(splash, "Image2")};
     for (const QWidget* control : controls) {
         EXPECT_FALSE(control->isVisible()) << control->objectName().toStdString();
         EXPECT_FALSE(control->isEnabled()) << control->objectName().toStdString();

@@ -1,8 +1,7 @@
 // What holds for every window of tests/windows.tsv; a new one is held to it from its first day.
 #include "help/Help.h"
-#include "help/HelpBrowser.h"
+#include "help/HelpControls.h"
 #include "help/HelpFile.h"
-#include "help/HelpWindow.h"
 #include "support/Session.h"
 #include "support/Windows.h"
 #include <QAccessible>
@@ -61,7 +60,7 @@ TEST_P(EveryWindow, HasAPageInTheHelpThatF1Shows)
         settle();
         HelpWindow* help = frame().help().window();
         ASSERT_NE(help, nullptr);
-        EXPECT_EQ(help->browser->page(), GetParam().name);
+        EXPECT_EQ(browser(*help).page(), GetParam().name);
     });
 }
 

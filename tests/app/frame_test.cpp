@@ -44,14 +44,17 @@ TEST_F(Frame, OpensTheSelectionWindowWithTheFocus)
 
 TEST_F(Frame, HasFiveToolbarButtonsInOrder)
 {
-    const QList<SoftBttn*> buttons = {frame().cmdSelect, frame().cmdNote, frame().cmdSearch, frame().cmdTools,
-                                      frame().cmdAbout};
+    const QList<SoftBttn*> buttons = {
+        &control<SoftBttn>(frame(), "cmdSelect"), &control<SoftBttn>(frame(), "cmdNote"),
+        &control<SoftBttn>(frame(), "cmdSearch"), &control<SoftBttn>(frame(), "cmdTools"),
+        &control<SoftBttn>(frame(), "cmdAbout")};
     const QStringList names = {"cmdSelect", "cmdNote", "cmdSearch", "cmdTools", "cmdAbout"};
     const QStringList tips = {"Select Verse to read", "Notepad", "Search", "Study Aids",
                               "About/QORV CD-ROM Offer"};
-    EXPECT_EQ(frame().picToolbar->objectName(), "picToolbar");
-    EXPECT_EQ(frame().picToolbar->mapTo(&frame(), QPoint()), QPoint(0, frame().menuBar()->height()));
-    EXPECT_EQ(frame().picToolbar->width(), frame().width());
+    EXPECT_EQ(control<QWidget>(frame(), "picToolbar").objectName(), "picToolbar");
+    EXPECT_EQ(control<QWidget>(frame(), "picToolbar").mapTo(&frame(), QPoint()),
+              QPoint(0, frame().menuBar()->height()));
+    EXPECT_EQ(control<QWidget>(frame(), "picToolbar").width(), frame().width());
     int left = 2; // 30 twips
     for (int i = 0; i < buttons.size(); ++i) {
         EXPECT_EQ(buttons[i]->objectName(), names[i]);
@@ -193,9 +196,9 @@ TEST_F(Frame, AToolbarButtonItsMenuItemAndItsKeyDoTheSame)
             EXPECT_EQ(activeForm()->objectName(), window) << item;
         }
     };
-    expectEachToOpen("ChildSelect", frame().cmdSelect, "mnuSelect", Qt::Key_F2);
-    expectEachToOpen("frmAdvSearch", frame().cmdSearch, "mnuSearch", Qt::Key_F3);
-    expectEachToOpen("ChildMapSel", frame().cmdTools, "mnuTools", Qt::Key_F8);
+    expectEachToOpen("ChildSelect", &control<SoftBttn>(frame(), "cmdSelect"), "mnuSelect", Qt::Key_F2);
+    expectEachToOpen("frmAdvSearch", &control<SoftBttn>(frame(), "cmdSearch"), "mnuSearch", Qt::Key_F3);
+    expectEachToOpen("ChildMapSel", &control<SoftBttn>(frame(), "cmdTools"), "mnuTools", Qt::Key_F8);
 }
 
 TEST_F(Frame, ExitInAChildEndsTheProgramWithoutAskingTheChildren)

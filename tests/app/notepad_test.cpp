@@ -30,7 +30,7 @@ TEST_F(NotepadCommand, IsTheSameFromToolbarMenuAndKeyInTheFrameAndItsWindows)
 {
     const QStringList once = {folder.filePath("notepad.exe")};
     boxes.answer = MsgAnswer::Yes;
-    click(*frame().cmdNote);
+    click(control<SoftBttn>(frame(), "cmdNote"));
     EXPECT_EQ(services.programs, once);
     choose("mnuNote"); // the selection window's
     EXPECT_EQ(services.programs, once + once);
@@ -48,7 +48,7 @@ TEST_F(NotepadCommand, IsTheSameFromToolbarMenuAndKeyInTheFrameAndItsWindows)
 TEST_F(NotepadCommand, RefusedStartIsReportedAndForgotten)
 {
     services.programsStart = false;
-    click(*frame().cmdNote);
+    click(control<SoftBttn>(frame(), "cmdNote"));
     ASSERT_EQ(boxes.shown.size(), 1);
     expectFailure(boxes.shown.first());
     EXPECT_EQ(program->flags.NotepadLaunched, 0);

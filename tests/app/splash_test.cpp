@@ -26,7 +26,7 @@ TEST_F(Splash, GivesWayToTheFrameTwoSecondsAfterItIsShownAndNotEarlier)
 TEST_F(Splash, TicksOnce)
 {
     ASSERT_TRUE(program->start());
-    const QTimer* timer = program->startWindow()->Timer1;
+    const QTimer* timer = &control<QTimer>(*program->startWindow(), "Timer1");
     EXPECT_TRUE(timer->isActive());
     EXPECT_EQ(timer->interval(), 2000);
     EXPECT_TRUE(timer->isSingleShot());

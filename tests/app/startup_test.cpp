@@ -3,6 +3,7 @@
 #include "app/StartupChecks.h"
 #include "desktop/BasePath.h"
 #include "desktop/MsgBox.h"
+#include "support/Controls.h"
 #include "support/Files.h"
 #include "support/Recorders.h"
 #include <gtest/gtest.h>
@@ -181,8 +182,8 @@ TEST_F(StartUp, FitsTheWindowAroundThePicture)
 {
     Program program(folder.path());
     ASSERT_TRUE(program.start());
-    const QRect picture = program.startWindow()->Image1->geometry();
-    EXPECT_FALSE(program.startWindow()->Image1->pixmap().isNull());
+    const QRect picture = control<QLabel>(*program.startWindow(), "Image1").geometry();
+    EXPECT_FALSE(control<QLabel>(*program.startWindow(), "Image1").pixmap().isNull());
     EXPECT_EQ(program.startWindow()->size(),
               QSize(picture.x() + picture.width() + 10, picture.y() + picture.height() + 10));
 }

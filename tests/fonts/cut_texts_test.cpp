@@ -77,7 +77,7 @@ TEST_F(CutTexts, AreNotInTheSearchWindow)
 
 TEST_F(CutTexts, AreNotInTheStudyAids)
 {
-    click(*frame().cmdTools);
+    click(control<SoftBttn>(frame(), "cmdTools"));
     auto& window = get<ChildMapSel>();
     for (auto* group : window.findChildren<QRadioButton*>("optEvents")) {
         group->click();

@@ -1,6 +1,6 @@
 // The help names captions as they stand on the screen, and every key that a caption underlines.
 #include "help/Help.h"
-#include "help/HelpWindow.h"
+#include "help/HelpControls.h"
 #include "help/SessionWithHelp.h"
 #include "maps/ChildMapSel.h"
 #include "support/OnceModal.h"
@@ -90,7 +90,7 @@ protected:
         lookAtTheStudyAids();
         frame().help().open();
         look();
-        frame().help().window()->otherLanguage->trigger();
+        action(*frame().help().window(), "otherLanguage").trigger();
         look();
         lookAtTheAboutWindow();
     }

@@ -1,9 +1,8 @@
 // The help: its text, the ways to it, and its window.
 #include "desktop/MsgBox.h"
 #include "help/Help.h"
-#include "help/HelpBrowser.h"
+#include "help/HelpControls.h"
 #include "help/HelpFile.h"
-#include "help/HelpWindow.h"
 #include "help/ShippedHelp.h"
 #include "store/BookCatalog.h"
 #include "support/OnceModal.h"
@@ -16,8 +15,6 @@
 #include <QClipboard>
 #include <QDir>
 #include <QFile>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QLocale>
 #include <QMessageBox>
 #include <QRegularExpression>
@@ -198,7 +195,7 @@ protected:
     {
         press(Qt::Key_F1);
         QTest::qWait(0);
-        return helpWindow() ? helpWindow()->browser->page() : QString();
+        return helpWindow() ? browser(*helpWindow()).page() : QString();
     }
 
     HelpWindow& openHelp(const QString& page)
@@ -233,7 +230,7 @@ TEST_F(HelpSession, FitsOnASmallScreen)
 
 TEST_F(HelpSession, ToolbarBelongsToTheActiveChildWindow)
 {
-    frame().cmdNote->setFocus();
+    control<SoftBttn>(frame(), "cmdNote").setFocus();
     EXPECT_EQ(pageOnF1(), "ChildSelect");
 }
 
@@ -241,7 +238,7 @@ TEST_F(HelpSession, OpensAtTheFramesPageWhenNoChildIsOpen)
 {
     outer(get<ChildSelect>()).close();
     QTest::qWait(0);
-    frame().cmdNote->setFocus();
+    control<SoftBttn>(frame(), "cmdNote").setFocus();
     EXPECT_EQ(pageOnF1(), "MDIParent");
 }
 
@@ -250,7 +247,7 @@ TEST_F(HelpSession, OpensAtTheAboutWindowsPageWhileThatIsOpen)
     QString page;
     const auto looking = onceModal([&](QWidget&) {
         makeActive(program->startWindow());
-        program->startWindow()->cmdMore->setFocus();
+        control<SoftBttn>(*program->startWindow(), "cmdMore").setFocus();
         page = pageOnF1();
         EXPECT_TRUE(helpWindow()->isVisible());
         EXPECT_TRUE(program->startWindow()->isVisible());
@@ -260,7 +257,7 @@ TEST_F(HelpSession, OpensAtTheAboutWindowsPageWhileThatIsOpen)
         EXPECT_TRUE(program->startWindow()->isVisible()) << "closing the help closed the About window";
         QTest::keyClick(program->startWindow(), Qt::Key_Escape);
     });
-    click(*frame().cmdAbout);
+    click(control<SoftBttn>(frame(), "cmdAbout"));
     EXPECT_EQ(page, "frmStart");
 }
 
@@ -268,19 +265,20 @@ TEST_F(HelpSession, OpensAtThePageOfBothLetters)
 {
     QStringList pages;
     const auto looking = onceModal([&](QWidget&) {
-        for (SoftBttn* button : {program->startWindow()->cmdDonation, program->startWindow()->cmdQORV}) {
+        for (const char* name : {"cmdDonation", "cmdQORV"}) {
+            auto& button = control<SoftBttn>(*program->startWindow(), name);
             const auto reading = onceModal([&](QWidget& letter) {
                 makeActive(&letter);
                 pages << pageOnF1();
                 makeActive(&letter);
                 QTest::keyClick(letter.focusWidget(), Qt::Key_Escape);
             });
-            click(*button);
+            click(button);
         }
         makeActive(program->startWindow());
         QTest::keyClick(program->startWindow(), Qt::Key_Escape);
     });
-    click(*frame().cmdAbout);
+    click(control<SoftBttn>(frame(), "cmdAbout"));
     EXPECT_EQ(pages, QStringList({"frmDN", "frmQORV"}));
 }
 
@@ -310,7 +308,7 @@ TEST_F(HelpSession, CanBeUsedBesideAModalWindowAndStaysWhenThatCloses)
         makeActive(program->startWindow());
         QTest::keyClick(program->startWindow(), Qt::Key_Escape);
     });
-    click(*frame().cmdAbout);
+    click(control<SoftBttn>(frame(), "cmdAbout"));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     ASSERT_NE(helpWindow(), nullptr);
     EXPECT_TRUE(helpWindow()->isVisible());
@@ -321,7 +319,7 @@ TEST_F(HelpSession, OpensAtThePageOfTheActiveWindow)
 {
     frame().help().open();
     ASSERT_NE(helpWindow(), nullptr);
-    EXPECT_EQ(helpWindow()->browser->page(), "ChildSelect");
+    EXPECT_EQ(browser(*helpWindow()).page(), "ChildSelect");
 }
 
 TEST_F(HelpSession, OnlyThePlainKeyOpensIt)
@@ -360,7 +358,7 @@ TEST_F(HelpSession, ThereIsOneWindowThatKeepsItsPlace)
 
 TEST_F(HelpSession, ItsOwnPageIsShownByF1InIt)
 {
-    openHelp("Keys").browser->setFocus();
+    browser(openHelp("Keys")).setFocus();
     EXPECT_EQ(pageOnF1(), "HelpWindow");
 }
 
@@ -402,79 +400,79 @@ TEST_F(HelpSession, ListsItsPagesAndFollowsTheChosenOne)
 {
     HelpWindow& window = openHelp("ChildRead");
     EXPECT_EQ(window.windowTitle(), "Kestrel Reader Help");
-    EXPECT_EQ(window.contents->accessibleName(), "Contents");
-    ASSERT_EQ(window.contents->count(), shippedPages().size());
-    EXPECT_EQ(window.contents->currentItem()->text(), "Reading Window");
-    for (int row = 0; row < window.contents->count(); ++row) {
-        window.contents->setCurrentRow(row);
-        EXPECT_EQ(window.browser->page(), shippedPages()[row].name);
-        EXPECT_TRUE(window.browser->toPlainText().startsWith(shippedPages()[row].title));
-        EXPECT_EQ(window.browser->accessibleName(), shippedPages()[row].title);
+    EXPECT_EQ(contents(window).accessibleName(), "Contents");
+    ASSERT_EQ(contents(window).count(), shippedPages().size());
+    EXPECT_EQ(contents(window).currentItem()->text(), "Reading Window");
+    for (int row = 0; row < contents(window).count(); ++row) {
+        contents(window).setCurrentRow(row);
+        EXPECT_EQ(browser(window).page(), shippedPages()[row].name);
+        EXPECT_TRUE(browser(window).toPlainText().startsWith(shippedPages()[row].title));
+        EXPECT_EQ(browser(window).accessibleName(), shippedPages()[row].title);
     }
 }
 
 TEST_F(HelpSession, FollowsInternalLinksAndGoesBackAndForward)
 {
     HelpWindow& window = openHelp("Welcome");
-    EXPECT_FALSE(window.forward->isEnabled());
-    window.browser->setFocus();
+    EXPECT_FALSE(action(window, "forward").isEnabled());
+    browser(window).setFocus();
     press(Qt::Key_Tab); // the first link of the page
     press(Qt::Key_Return);
-    EXPECT_EQ(window.browser->page(), "ChildSelect");
-    EXPECT_EQ(window.contents->currentItem()->text(), "Select Verse for Reading");
-    window.back->trigger();
-    EXPECT_EQ(window.browser->page(), "Welcome");
-    window.forward->trigger();
-    EXPECT_EQ(window.browser->page(), "ChildSelect");
+    EXPECT_EQ(browser(window).page(), "ChildSelect");
+    EXPECT_EQ(contents(window).currentItem()->text(), "Select Verse for Reading");
+    action(window, "back").trigger();
+    EXPECT_EQ(browser(window).page(), "Welcome");
+    action(window, "forward").trigger();
+    EXPECT_EQ(browser(window).page(), "ChildSelect");
     EXPECT_TRUE(services.links.isEmpty());
 }
 
 TEST_F(HelpSession, ExternalLinksAreTheDesktops)
 {
     HelpWindow& window = openHelp("Credits");
-    window.browser->setFocus();
+    browser(window).setFocus();
     press(Qt::Key_Tab);
     press(Qt::Key_Return);
     EXPECT_EQ(services.links, QList<QUrl>({QUrl("http://sites.google.com/site/biblialivre/")}));
-    EXPECT_EQ(window.browser->page(), "Credits");
+    EXPECT_EQ(browser(window).page(), "Credits");
 }
 
 TEST_F(HelpSession, FindsAWordOnThePageAndThenOnTheOthers)
 {
     HelpWindow& window = openHelp("Welcome");
-    window.find->trigger();
-    EXPECT_EQ(QApplication::focusWidget(), window.searchText);
-    QTest::keyClicks(window.searchText, "Chapter Window");
+    action(window, "find").trigger();
+    EXPECT_EQ(QApplication::focusWidget(), &searchText(window));
+    QTest::keyClicks(&searchText(window), "Chapter Window");
     press(Qt::Key_Return);
-    EXPECT_EQ(window.browser->page(), "Welcome");
-    EXPECT_EQ(window.browser->textCursor().selectedText(), "Chapter Window");
-    const int firstPlace = window.browser->textCursor().position();
-    window.findNext->trigger();
-    EXPECT_NE(window.browser->page(), "Welcome");
-    EXPECT_EQ(window.browser->textCursor().selectedText(), "Chapter Window");
-    window.findPrevious->trigger();
-    EXPECT_EQ(window.browser->page(), "Welcome");
-    EXPECT_EQ(window.browser->textCursor().position(), firstPlace);
+    EXPECT_EQ(browser(window).page(), "Welcome");
+    EXPECT_EQ(browser(window).textCursor().selectedText(), "Chapter Window");
+    const int firstPlace = browser(window).textCursor().position();
+    action(window, "findNext").trigger();
+    EXPECT_NE(browser(window).page(), "Welcome");
+    EXPECT_EQ(browser(window).textCursor().selectedText(), "Chapter Window");
+    action(window, "findPrevious").trigger();
+    EXPECT_EQ(browser(window).page(), "Welcome");
+    EXPECT_EQ(browser(window).textCursor().position(), firstPlace);
 }
 
 TEST_F(HelpSession, FindGoesRoundAndReturnsToTheOnlyPlace)
 {
     HelpWindow& window = openHelp("Credits");
-    window.searchText->setText("GSHHG");
-    window.findNext->trigger();
-    const int place = window.browser->textCursor().position();
-    window.findNext->trigger();
-    EXPECT_EQ(window.browser->page(), "Credits");
-    EXPECT_EQ(window.browser->textCursor().position(), place);
+    searchText(window).setText("GSHHG");
+    action(window, "findNext").trigger();
+    const int place = browser(window).textCursor().position();
+    action(window, "findNext").trigger();
+    EXPECT_EQ(browser(window).page(), "Credits");
+    EXPECT_EQ(browser(window).textCursor().position(), place);
     EXPECT_TRUE(window.statusBar()->currentMessage().isEmpty());
 }
 
 TEST_F(HelpSession, SaysWhenAWordIsNowhere)
 {
     HelpWindow& window = openHelp("Welcome");
-    window.searchText->setText("xyzzy");
-    window.findNext->trigger();
-    EXPECT_EQ(window.browser->page(), "Welcome");
+    searchText(window).setText("xyzzy");
+    action(window, "findNext").trigger();
+    EXPECT_EQ(browser(window).page(), "Welcome");
     EXPECT_EQ(window.statusBar()->currentMessage(), "The help does not have \"xyzzy\".");
     EXPECT_EQ(services.beeps, 1);
 }
@@ -482,30 +480,30 @@ TEST_F(HelpSession, SaysWhenAWordIsNowhere)
 TEST_F(HelpSession, CopiesTheSelectedText)
 {
     HelpWindow& window = openHelp("Credits");
-    EXPECT_FALSE(window.copy->isEnabled());
-    window.searchText->setText("GSHHG 2.3.7");
-    window.findNext->trigger();
-    window.copy->trigger();
+    EXPECT_FALSE(action(window, "copy").isEnabled());
+    searchText(window).setText("GSHHG 2.3.7");
+    action(window, "findNext").trigger();
+    action(window, "copy").trigger();
     EXPECT_EQ(QApplication::clipboard()->text(), "GSHHG 2.3.7");
 }
 
 TEST_F(HelpSession, ZoomsByKeyboardWithinBounds)
 {
     HelpWindow& window = openHelp("Keys");
-    const int normal = window.browser->font().pointSize();
-    window.browser->setFocus();
+    const int normal = browser(window).font().pointSize();
+    browser(window).setFocus();
     press(Qt::Key_Plus, Qt::ControlModifier);
     press(Qt::Key_Plus, Qt::ControlModifier);
-    EXPECT_EQ(window.browser->font().pointSize(), normal + 2);
+    EXPECT_EQ(browser(window).font().pointSize(), normal + 2);
     press(Qt::Key_Minus, Qt::ControlModifier);
-    EXPECT_EQ(window.browser->font().pointSize(), normal + 1);
+    EXPECT_EQ(browser(window).font().pointSize(), normal + 1);
     press(Qt::Key_0, Qt::ControlModifier);
-    EXPECT_EQ(window.browser->font().pointSize(), normal);
+    EXPECT_EQ(browser(window).font().pointSize(), normal);
     for (int i = 0; i < 100; ++i)
-        window.smaller->trigger();
-    EXPECT_GE(window.browser->font().pointSize(), 6);
-    window.normalSize->trigger();
-    EXPECT_EQ(window.browser->font().pointSize(), normal);
+        action(window, "smaller").trigger();
+    EXPECT_GE(browser(window).font().pointSize(), 6);
+    action(window, "normalSize").trigger();
+    EXPECT_EQ(browser(window).font().pointSize(), normal);
 }
 
 TEST_F(HelpSession, ListsEveryShortcutOfItsOwn)

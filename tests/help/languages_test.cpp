@@ -1,10 +1,7 @@
 // The help in two languages: which one it opens in, and the switch.
 #include "help/Help.h"
-#include "help/HelpBrowser.h"
-#include "help/HelpWindow.h"
+#include "help/HelpControls.h"
 #include "help/SessionWithHelp.h"
-#include <QLineEdit>
-#include <QListWidget>
 #include <QLocale>
 #include <QStatusBar>
 #include <QToolBar>
@@ -61,14 +58,14 @@ protected:
 
     static bool shows(const HelpWindow& window, const QString& beginning)
     {
-        return window.browser->toPlainText().startsWith(beginning);
+        return browser(window).toPlainText().startsWith(beginning);
     }
 
     /// The button of the toolbar as a person sees it.
     static QToolButton& switchButton(const HelpWindow& window)
     {
         return *qobject_cast<QToolButton*>(
-            window.findChild<QToolBar*>("toolbar")->widgetForAction(window.otherLanguage));
+            window.findChild<QToolBar*>("toolbar")->widgetForAction(&action(window, "otherLanguage")));
     }
 
 private:
@@ -81,11 +78,11 @@ const QLocale english(QLocale::English, QLocale::UnitedStates);
 TEST_F(HelpIn, PortugueseOpensAtThePageOfTheWindow)
 {
     HelpWindow& window = openHelp(brazil);
-    EXPECT_EQ(window.browser->page(), "ChildSelect");
+    EXPECT_EQ(browser(window).page(), "ChildSelect");
     EXPECT_TRUE(shows(window, "Escolha do versículo"));
-    EXPECT_EQ(window.contents->currentItem()->text(), "Escolha do versículo");
-    EXPECT_EQ(window.browser->accessibleName(), "Escolha do versículo");
-    EXPECT_EQ(window.contents->count(), shippedPages(HelpLanguage::Portuguese).size());
+    EXPECT_EQ(contents(window).currentItem()->text(), "Escolha do versículo");
+    EXPECT_EQ(browser(window).accessibleName(), "Escolha do versículo");
+    EXPECT_EQ(contents(window).count(), shippedPages(HelpLanguage::Portuguese).size());
     EXPECT_EQ(switchButton(window).text(), "English");
 }
 
@@ -105,11 +102,11 @@ TEST_F(HelpIn, TheSwitchShowsTheSamePageInTheOtherLanguage)
     HelpWindow& window = openHelp(english);
     window.showPage("Keys");
     click(switchButton(window));
-    EXPECT_EQ(window.browser->page(), "Keys");
+    EXPECT_EQ(browser(window).page(), "Keys");
     EXPECT_TRUE(shows(window, "Teclas"));
-    EXPECT_EQ(window.contents->currentItem()->text(), "Teclas");
-    EXPECT_EQ(window.contents->item(0)->text(), "Boas-vindas");
-    EXPECT_EQ(window.browser->accessibleName(), "Teclas");
+    EXPECT_EQ(contents(window).currentItem()->text(), "Teclas");
+    EXPECT_EQ(contents(window).item(0)->text(), "Boas-vindas");
+    EXPECT_EQ(browser(window).accessibleName(), "Teclas");
     EXPECT_EQ(switchButton(window).text(), "English");
     EXPECT_EQ(switchButton(window).toolTip(), "English (Ctrl+L)");
     click(switchButton(window));
@@ -120,49 +117,49 @@ TEST_F(HelpIn, TheSwitchShowsTheSamePageInTheOtherLanguage)
 TEST_F(HelpIn, TheSwitchHasAKey)
 {
     HelpWindow& window = openHelp(english);
-    window.browser->setFocus();
+    browser(window).setFocus();
     press(Qt::Key_L, Qt::ControlModifier);
     EXPECT_TRUE(shows(window, "Escolha do versículo"));
-    EXPECT_EQ(QApplication::focusWidget(), window.browser);
+    EXPECT_EQ(QApplication::focusWidget(), &browser(window));
 }
 
 TEST_F(HelpIn, TheWayBackGoesOnInTheLanguageThatIsShown)
 {
     HelpWindow& window = openHelp(english);
     window.showPage("Keys");
-    window.otherLanguage->trigger();
-    window.otherLanguage->trigger();
-    window.otherLanguage->trigger();
-    window.back->trigger();
-    EXPECT_EQ(window.browser->page(), "ChildSelect");
+    action(window, "otherLanguage").trigger();
+    action(window, "otherLanguage").trigger();
+    action(window, "otherLanguage").trigger();
+    action(window, "back").trigger();
+    EXPECT_EQ(browser(window).page(), "ChildSelect");
     EXPECT_TRUE(shows(window, "Escolha do versículo"));
-    EXPECT_FALSE(window.back->isEnabled()) << "the switch counted as a step";
-    window.forward->trigger();
+    EXPECT_FALSE(action(window, "back").isEnabled()) << "the switch counted as a step";
+    action(window, "forward").trigger();
     EXPECT_TRUE(shows(window, "Teclas"));
 }
 
 TEST_F(HelpIn, TheSwitchKeepsTheSizeOfTheType)
 {
     HelpWindow& window = openHelp(english);
-    window.larger->trigger();
-    const int size = window.browser->font().pointSize();
-    window.otherLanguage->trigger();
-    EXPECT_EQ(window.browser->font().pointSize(), size);
-    window.normalSize->trigger();
-    EXPECT_EQ(window.browser->font().pointSize(), size - 1);
+    action(window, "larger").trigger();
+    const int size = browser(window).font().pointSize();
+    action(window, "otherLanguage").trigger();
+    EXPECT_EQ(browser(window).font().pointSize(), size);
+    action(window, "normalSize").trigger();
+    EXPECT_EQ(browser(window).font().pointSize(), size - 1);
 }
 
 TEST_F(HelpIn, LinksAndTheContentsStayInTheLanguage)
 {
     HelpWindow& window = openHelp(brazil);
     window.showPage("Welcome");
-    window.browser->setFocus();
+    browser(window).setFocus();
     press(Qt::Key_Tab); // the first link of the page
     press(Qt::Key_Return);
     EXPECT_TRUE(shows(window, "Escolha do versículo"));
-    for (int row = 0; row < window.contents->count(); ++row) {
-        window.contents->setCurrentRow(row);
-        EXPECT_EQ(window.browser->page(), shippedPages(HelpLanguage::Portuguese)[row].name);
+    for (int row = 0; row < contents(window).count(); ++row) {
+        contents(window).setCurrentRow(row);
+        EXPECT_EQ(browser(window).page(), shippedPages(HelpLanguage::Portuguese)[row].name);
         EXPECT_TRUE(shows(window, shippedPages(HelpLanguage::Portuguese)[row].title));
     }
 }
@@ -170,11 +167,11 @@ TEST_F(HelpIn, LinksAndTheContentsStayInTheLanguage)
 TEST_F(HelpIn, WordsAreSoughtInTheLanguageThatIsShown)
 {
     HelpWindow& window = openHelp(brazil);
-    window.searchText->setText("curingas");
-    window.findNext->trigger();
-    EXPECT_EQ(window.browser->page(), "Searching");
-    window.searchText->setText("wildcards");
-    window.findNext->trigger();
+    searchText(window).setText("curingas");
+    action(window, "findNext").trigger();
+    EXPECT_EQ(browser(window).page(), "Searching");
+    searchText(window).setText("wildcards");
+    action(window, "findNext").trigger();
     EXPECT_EQ(window.statusBar()->currentMessage(), "The help does not have \"wildcards\".");
 }
 
@@ -187,7 +184,7 @@ TEST_F(HelpIn, AFileOfOneLanguageIsShownWithoutASwitch)
     HelpWindow& window = openHelp(brazil);
     EXPECT_TRUE(shows(window, "Only one"));
     EXPECT_FALSE(switchButton(window).isVisible());
-    window.browser->setFocus();
+    browser(window).setFocus();
     press(Qt::Key_L, Qt::ControlModifier);
     EXPECT_TRUE(shows(window, "Only one"));
 }

@@ -63,7 +63,7 @@ protected:
 
     ChildMapSel& openStudyAids()
     {
-        click(*frame().cmdTools);
+        click(control<SoftBttn>(frame(), "cmdTools"));
         return get<ChildMapSel>();
     }
 

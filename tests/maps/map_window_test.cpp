@@ -361,7 +361,8 @@ TEST_F(ChildMapDspTest, MaximisedWindowOfALargeMapFillsTheFrame)
     QTest::qWait(0);
     EXPECT_EQ(outer(map).geometry(), frame().area()->viewport()->rect());
     EXPECT_EQ(frame().area()->viewport()->width(), frame().area()->width()); // its scroll bars are gone
-    QTest::mouseClick(frame().cmdTools, Qt::LeftButton); // the maximised state goes over to the next window
+    QTest::mouseClick(&control<SoftBttn>(frame(), "cmdTools"),
+                      Qt::LeftButton); // the maximised state goes over to the next window
     QTest::qWait(0);
     EXPECT_EQ(get<ChildMapSel>().state(), Form::Maximized);
     EXPECT_EQ(outer(get<ChildMapSel>()).geometry(), frame().area()->viewport()->rect());

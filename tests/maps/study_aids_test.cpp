@@ -618,7 +618,7 @@ TEST_F(ChildMapSelTest, ATabBehindTheAboutWindowStaysAsItIs)
         pressed = true;
         about.close();
     });
-    click(*frame().cmdAbout);
+    click(control<SoftBttn>(frame(), "cmdAbout"));
     EXPECT_TRUE(pressed);
     EXPECT_EQ(TabStrip1().currentIndex(), 0);
     EXPECT_TRUE(Frame1().isVisible());

@@ -28,10 +28,10 @@ AREAS = {
 }
 NAME_WITH_ITS_DOT = {"map04": ["Heshbon", "Gezer", "Shechem"]}  # towns by a border whose names must not lie beyond it
 HEAD = ["MapNumber", "file", "width", "height", "MapDesc"]
-MOST_BYTES = 1_600_000  # the database has its fixed length, and this leaves its tables room to grow
-LARGEST = (1200, 680)  # natural size: with its window it fits into the frame on a screen of 1280 x 800
+MAX_BYTES = 1_600_000  # the database has its fixed length, and this leaves its tables room to grow
+MAX_SIZE = (1200, 680)  # natural size: with its window it fits into the frame on a screen of 1280 x 800
 SHARPNESS = 1.5  # stored pixels to one of the natural size, at least
-LONGEST_DESCRIPTION = 160
+MAX_DESCRIPTION_LENGTH = 160
 CLEAR = 6.0  # points that letters behind a number keep from another town's symbol
 TOUCH = 0.6  # points that two names may share: rims of letters, not ink
 MARGIN = 2.0  # points between a name and the frame around it, at least
@@ -65,15 +65,15 @@ def check_rows(folder):
     if len({row[4] for row in rows}) != len(rows):
         faults.append("two maps have the same description")
     total = sum((folder / row[1]).stat().st_size for row in rows if (folder / row[1]).is_file())
-    if total > MOST_BYTES:
-        faults.append(f"the pictures have {total} bytes together, more than {MOST_BYTES}")
+    if total > MAX_BYTES:
+        faults.append(f"the pictures have {total} bytes together, more than {MAX_BYTES}")
     return faults
 
 
 def check_picture(folder, file, width, height):
     width, height = int(width), int(height)
     faults = []
-    if width > LARGEST[0] or height > LARGEST[1]:
+    if width > MAX_SIZE[0] or height > MAX_SIZE[1]:
         faults.append(f"{file}: natural size {width} x {height} is too large")
     if not (folder / file).is_file():
         return faults + [f"{file}: no such file"]
@@ -91,7 +91,7 @@ def check_description(number, text, name):
     faults = []
     if not text.startswith(name) or len(text) <= len(name):
         faults.append(f"map {number}: the description does not begin with its name and go on")
-    if len(text) > LONGEST_DESCRIPTION:
+    if len(text) > MAX_DESCRIPTION_LENGTH:
         faults.append(f"map {number}: the description has {len(text)} characters")
     return faults
 

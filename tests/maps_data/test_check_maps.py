@@ -109,7 +109,7 @@ def test_too_few_pixels_are_found(copy, place):
 
 def test_too_many_bytes_are_found(copy):
     with open(copy / "map01.png", "ab") as file:
-        file.write(bytes(check_maps.MOST_BYTES))
+        file.write(bytes(check_maps.MAX_BYTES))
     assert any("bytes together" in fault for fault in check_maps.check_rows(copy))
 
 

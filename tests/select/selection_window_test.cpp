@@ -559,7 +559,7 @@ TEST_F(Selection, TheSelectCommandGivesTheBoxTheFocusAlsoInTheActiveWindow)
 {
     const QList<std::function<void()>> commands = {
         [] { press(Qt::Key_F2); },
-        [this] { click(*frame().cmdSelect); },
+        [this] { click(control<SoftBttn>(frame(), "cmdSelect")); },
         [this] { choose("mnuSelect"); },
     };
     for (const auto& command : commands)

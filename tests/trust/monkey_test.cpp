@@ -187,7 +187,7 @@ protected:
     /// The widgets of one window, or of the toolbar, that a mouse can click.
     QList<QWidget*> clickable()
     {
-        QList<QWidget*> windows = {frame().picToolbar};
+        QList<QWidget*> windows = {&control<QWidget>(frame(), "picToolbar")};
         for (Form* form : forms())
             windows << form << form;
         if (HelpWindow* help = frame().help().window())
@@ -392,8 +392,10 @@ protected:
             tell("    close " + nameOf(text));
             text->close();
         } else if (auto* about = qobject_cast<frmStart*>(dialog)) {
-            const QList<QWidget*> controls = {about->cmdMore, about->cmdDonation, about->cmdQORV,
-                                              about->cmdOK,   about->cmdOK,       about};
+            const QList<QWidget*> controls = {
+                &control<SoftBttn>(*about, "cmdMore"), &control<SoftBttn>(*about, "cmdDonation"),
+                &control<SoftBttn>(*about, "cmdQORV"), &control<SoftBttn>(*about, "cmdOK"),
+                &control<SoftBttn>(*about, "cmdOK"),   about};
             QWidget* control = controls.at(static_cast<int>(randomOfDialogs() % 6));
             tell("    use " + nameOf(control) + " of the About window");
             if (control == about)
