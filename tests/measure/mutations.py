@@ -8,6 +8,8 @@ SWAPS = {"==": "!=", "!=": "==", " < ": " <= ", " > ": " >= ", "<=": "<", ">=": 
 TOKENS = re.compile(r"==|!=|<=|>=| < | > |&&|\|\||\+\+|--| \+ | - |\btrue\b|\bfalse\b|\b\d+\b|(?<=[(\s&|])!(?=[\w(])")
 CALL = re.compile(r"\s+[\w.>:\-]+\(.*\);\s*")
 QUOTED = re.compile(r'"(?:\\.|[^"\\])*"|\'(?:\\.|[^\'\\])+\'')
+LAYOUT = re.compile(r'\s*\{.+, ".*", \{\w+(, \w+){3}\}\},')  # a row of layOut(), in twips
+TWIPS_PER_PIXEL = 15
 NO_CODE = re.compile(r"\s*(//|#|static_assert|namespace|using|Q_)")
 
 
@@ -23,10 +25,12 @@ class Mutation:
         return f"{self.path}:{self.number}\n    - {self.before.strip()}\n    + {self.after.strip() or '(removed)'}"
 
 
-def changed(token):
+def changed(token, line):
     if token == "!":
         return ""
-    return SWAPS[token] if token in SWAPS else str(int(token) + 1)
+    if token in SWAPS:
+        return SWAPS[token]
+    return str(int(token) + (TWIPS_PER_PIXEL if LAYOUT.match(line) else 1))
 
 
 def code_of(line):
@@ -43,7 +47,7 @@ def mutations_of(path, text):
         if not in_comment and not NO_CODE.match(line):
             code = code_of(line)
             for token in TOKENS.finditer(code):
-                after = line[:token.start()] + changed(token.group()) + line[token.end():]
+                after = line[:token.start()] + changed(token.group(), line) + line[token.end():]
                 found.append(Mutation(path, number, line, after))
             if CALL.fullmatch(line):
                 found.append(Mutation(path, number, line, ""))

@@ -33,6 +33,11 @@ def test_comments_texts_and_declarations_are_left_alone(line):
     assert [change for change in after(line) if change] == []
 
 
+def test_a_place_in_a_layout_changes_by_a_pixel():
+    row = '        {cmdGo, "cmdGo", "", {margin, 60, 400, 400}},'
+    assert after(row) == [row.replace("60", "75"), row.replace("400, 400", "415, 400"), row.replace("400, 400", "400, 415")]
+
+
 def test_a_change_names_its_line():
     mutation = mutations_of("src/a.cpp", "int a;\n    b = 1;")[0]
     assert (mutation.number, str(mutation)) == (2, "src/a.cpp:2\n    - b = 1;\n    + b = 2;")
