@@ -27,23 +27,23 @@ VerseLabel::VerseLabel(QWidget* parent)
     m_scrollBar->setFocusPolicy(Qt::StrongFocus);
     m_scrollBar->setAccessibleName("Scroll the verse");
     m_scrollBar->hide();
-    connect(m_scrollBar, &QScrollBar::valueChanged, this, [this] { update(); });
+    connect(m_scrollBar, &QScrollBar::valueChanged, this, [this](int line) {
+        m_firstShown = m_lines.lineAt(line).textStart();
+        update();
+    });
 }
 
 void VerseLabel::setText(const QString& text)
 {
     QLabel::setText(text);
-    m_scrollBar->setValue(0);
+    m_firstShown = 0;
     fitScrollBar();
 }
 
-// The line that was the first to show is so again, wherever its words stand now.
 void VerseLabel::setFont(const QFont& font)
 {
-    const int first = m_lines.lineCount() > 0 ? m_lines.lineAt(m_scrollBar->value()).textStart() : 0;
     QLabel::setFont(font);
     fitScrollBar();
-    m_scrollBar->setValue(m_lines.lineForTextPosition(first).lineNumber());
 }
 
 bool VerseLabel::scrollByPages(int pages)
@@ -144,7 +144,10 @@ void VerseLabel::fitScrollBar()
         m_scrollBar->show();
         breakLines(textArea().width());
     }
+    // The scroll bar's signal is for what the reader does: by many sizes on the way the place would wander.
+    const QSignalBlocker fitting(m_scrollBar);
     m_scrollBar->setRange(0, qMax(0, m_lines.lineCount() - linesWithRoom()));
     m_scrollBar->setPageStep(qMax(1, linesWithRoom() - 1));
+    m_scrollBar->setValue(m_lines.lineForTextPosition(m_firstShown).lineNumber());
     update();
 }

@@ -41,8 +41,11 @@ private:
     /// Breaks the text into lines of this width in pixels.
     void breakLines(int width);
     int linesWithRoom() const;
+    /// The character that was the first to show is in the first line on show again, wherever its line stands
+    /// now.
     void fitScrollBar();
 
     QTextLayout m_lines;
     QScrollBar* m_scrollBar; ///< its value is the first line on show
+    int m_firstShown = 0;    ///< the character at which the reader has that line begin
 };

@@ -597,6 +597,31 @@ TEST_F(Reading, AnotherTypeKeepsThePlaceInALongVerse)
     EXPECT_NEAR(bar->value(), lines, 2);
 }
 
+// By any number of sizes on the way, as while a border is dragged.
+TEST_F(Reading, AnotherSizeOfTheWindowKeepsThePlaceInALongVerse)
+{
+    hand("VerseId = 'Est:8:9'");
+    click(button("cmdFont"));
+    press(Qt::Key_PageDown);
+    const QSize size = outer(*window).size();
+    QAccessibleTextInterface* text = QAccessible::queryAccessibleInterface(&verse())->textInterface();
+    const auto top = [&](int character) {
+        return verse().mapFromGlobal(text->characterRect(character).center()).y();
+    };
+    auto* bar = verse().findChild<QScrollBar*>();
+    const int lines = bar->value();
+    const int first = text->offsetAtPoint(verse().mapToGlobal(QPoint(20, 20)));
+    ASSERT_GT(first, 0);
+    const int height = top(first);
+    for (int wider = 10; wider <= 200; wider += 10) {
+        outer(*window).resize(size.width() + wider, size.height());
+        EXPECT_EQ(top(first), height) << wider;
+    }
+    EXPECT_LT(bar->value(), lines);
+    outer(*window).resize(size);
+    EXPECT_EQ(bar->value(), lines);
+}
+
 TEST_F(Reading, TheWheelScrollsALongVerse)
 {
     hand("VerseId = 'Est:8:9'");
