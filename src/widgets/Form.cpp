@@ -319,6 +319,7 @@ void Form::resizeEvent(QResizeEvent* event)
 
 void Form::closeEvent(QCloseEvent* event)
 {
+    handOver();
     becomeActive(false);
     Form_Unload();
     Q_EMIT unloaded();
@@ -339,18 +340,21 @@ void Form::windowStateChanged(Qt::WindowStates oldState, Qt::WindowStates newSta
     if (m_lastFocus && isAncestorOf(window()->focusWidget()))
         m_lastFocus->setFocus();
     Form_Resize();
-    if (newState.testFlag(Qt::WindowMinimized) && subWindow()->mdiArea()->currentSubWindow() == subWindow())
+    if (newState.testFlag(Qt::WindowMinimized))
         handOver();
 }
 
-// QMdiArea leaves a minimised window active, with the keys going to controls that nobody sees.
+// QMdiArea leaves a minimised window active, and makes one active when another is closed: the keys would go
+// to controls that nobody sees.
 void Form::handOver()
 {
+    if (!subWindow() || subWindow()->mdiArea()->currentSubWindow() != subWindow())
+        return;
     QList<QMdiSubWindow*> windows = subWindow()->mdiArea()->subWindowList(QMdiArea::ActivationHistoryOrder);
     std::reverse(windows.begin(), windows.end());
     for (const QMdiSubWindow* window : windows) {
         auto* form = qobject_cast<Form*>(window->widget());
-        if (form && form->state() != Minimized) {
+        if (form && form != this && form->state() != Minimized) {
             form->activate();
             return;
         }

@@ -126,6 +126,24 @@ TEST_F(FrameStates, AMinimisedWindowHandsActivityAndFocusToTheOneBeforeIt)
     EXPECT_EQ(get<ChildSelect>().state(), Form::Normal);
 }
 
+TEST_F(FrameStates, AClosedWindowHandsActivityAndFocusToAWindowBeforeAnyIcon)
+{
+    frame().openStudyAids();
+    frame().openSearch();
+    frame().readingWindow().restoreAndActivate();
+    outer(get<frmAdvSearch>()).showMinimized(); // not active, so that Qt's history is as it was
+    settle();
+    ASSERT_EQ(activeForm(), &frame().readingWindow());
+    frame().readingWindow().unload();
+    settle();
+    EXPECT_EQ(activeForm(), &get<ChildMapSel>());
+    EXPECT_TRUE(get<ChildMapSel>().isAncestorOf(QApplication::focusWidget()));
+    get<ChildMapSel>().unload();
+    get<ChildSelect>().unload();
+    settle();
+    EXPECT_EQ(activeForm(), open<frmAdvSearch>()) << "where there is nothing else, an icon";
+}
+
 TEST_F(FrameStates, IconsShowWhichVerseAndChapterTheyHold)
 {
     frame().readingWindow().showFirst("SELECT * FROM NewTestament WHERE VerseId = '2Thes:3:16'");
