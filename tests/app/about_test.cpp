@@ -523,3 +523,22 @@ TEST_F(AboutControlsOfTheSplash, AreHiddenAndDisabled)
     EXPECT_FALSE(splash.isVisible());
     EXPECT_EQ(program->frame(), nullptr);
 }
+
+TEST_F(About, LeavesTheFocusNowhereWhereItWasNowhere)
+{
+    const auto closing = onceModal([](QWidget& about) { about.close(); });
+    frame().focusWidget()->clearFocus();
+    ASSERT_EQ(frame().focusWidget(), nullptr);
+    choose("mnuAbout");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(frame().focusWidget(), nullptr);
+}
+
+TEST(LinkLabel, IsAsLargeAsItsPictureOrItsText)
+{
+    LinkLabel picture("Image2", iconOf(PictureId::About), nullptr);
+    picture.setIconSize(QSize(20, 24));
+    EXPECT_EQ(picture.sizeHint(), QSize(20, 24));
+    LinkLabel text("cmdMail", "mail", nullptr);
+    EXPECT_GT(text.sizeHint().width(), text.fontMetrics().horizontalAdvance("mail"));
+}

@@ -67,6 +67,24 @@ QImage titleBar(QStyle::State state, const QString& text = {}, const QWidget* wi
     return image;
 }
 
+/// With the pointer over its close button.
+QImage touchedTitleBar(QStyle::State state)
+{
+    QImage image(titleBarRect.size(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    QStyleOptionTitleBar bar;
+    bar.rect = titleBarRect;
+    bar.palette = light();
+    bar.titleBarFlags = Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint;
+    bar.titleBarState = QStyle::State_Active;
+    bar.state = state;
+    bar.subControls = QStyle::SC_All;
+    bar.activeSubControls = QStyle::SC_TitleBarCloseButton;
+    FrameStyle().drawComplexControl(QStyle::CC_TitleBar, &bar, &painter, nullptr);
+    return image;
+}
+
 QRect titleBarPart(QStyle::SubControl part)
 {
     QStyleOptionTitleBar bar;
@@ -110,6 +128,18 @@ TEST(TitleBar, CloseButtonBearsACross)
     const QRect close = titleBarPart(QStyle::SC_TitleBarCloseButton);
     ASSERT_TRUE(close.isValid());
     EXPECT_GE(whiteOnDiagonal(titleBar(QStyle::State_Active), close), 7);
+}
+
+TEST(TitleBar, ButtonUnderThePointerIsLighterAndPressedDarker)
+{
+    const QPoint face = titleBarPart(QStyle::SC_TitleBarCloseButton).center() - QPoint(0, 5);
+    const QPoint other = titleBarPart(QStyle::SC_TitleBarMinButton).center() - QPoint(0, 5);
+    const QImage resting = titleBar(QStyle::State_Active);
+    const QImage touched = touchedTitleBar(QStyle::State_Enabled);
+    const QImage pressed = touchedTitleBar(QStyle::State_Enabled | QStyle::State_Sunken);
+    EXPECT_GT(touched.pixelColor(face).lightness(), resting.pixelColor(face).lightness());
+    EXPECT_LT(pressed.pixelColor(face).lightness(), resting.pixelColor(face).lightness());
+    EXPECT_EQ(touched.pixelColor(other), resting.pixelColor(other));
 }
 
 TEST(TitleBar, KeepsBothEndsOfACaptionThatIsTooLong)

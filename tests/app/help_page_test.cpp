@@ -24,3 +24,8 @@ TEST_F(HelpPageOf, AnOpenMenuIsThatOfTheActiveWindow)
     EXPECT_EQ(helpPageOf(file), "ChildSelect");
     file->close();
 }
+
+TEST_F(HelpPageOf, WithNothingInUseIsThatOfTheFrame)
+{
+    EXPECT_EQ(helpPageOf(nullptr), "MDIParent");
+}
