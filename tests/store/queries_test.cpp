@@ -312,4 +312,35 @@ TEST(SmallBible, AnswersAllRowsInDescendingOrderToo)
                 ElementsAre("Gn:1:2", "Gn:1:1", "Mt:2:1", "Mt:1:1"));
 }
 
+TEST(SmallBible, ComparesTextsAndLikensNumbersAsSqliteDoes)
+{
+    const TestFolder folder;
+    makeDatabase(folder.file(), smallBible);
+    const auto found = [&](const std::string& condition) {
+        return keys(folder.file(), " WHERE " + condition);
+    };
+    EXPECT_THAT(found("VerseId < 'Gn:1:2'"), ElementsAre("Gn:1:1"));
+    EXPECT_THAT(found("VerseId <= 'Gn:1:2'"), ElementsAre("Gn:1:1", "Gn:1:2"));
+    EXPECT_THAT(found("VerseId > 'Mt:10:1'"), ElementsAre("Mt:1:1", "Mt:2:1"));
+    EXPECT_THAT(found("VerseId >= 'Mt:10:1'"), ElementsAre("Mt:1:1", "Mt:2:1", "Mt:10:1"));
+    EXPECT_THAT(found("KJVerseText = ' E vem o padeiro.'"), ElementsAre("Mt:2:1"));
+    EXPECT_THAT(found("VerseNumber LIKE '[23]'"), ElementsAre("Mt:2:1", "Mt:10:1"));
+    EXPECT_THAT(found("VerseId = x'4D743A313A31'"), IsEmpty()) << "bytes are no text";
+}
+
+TEST(SmallBible, ATextIsSoughtAnewForEachRowBesideIt)
+{
+    const TestFolder folder;
+    makeDatabase(folder.file(), smallBible);
+    DataSource source;
+    std::vector<std::string> pairs;
+    for (openIn(source, folder.file(),
+                "SELECT a.VerseId || ' ' || b.VerseId FROM NewTestament a CROSS JOIN NewTestament b "
+                "WHERE a.VerseNumber < 3 AND NOT b.KJVerseText LIKE '*o*'");
+         !source.eof(); source.moveNext())
+        pairs.emplace_back(source.field(0));
+    EXPECT_THAT(pairs, ElementsAre("Mt:1:1 Mt:10:1", "Mt:1:1 Gn:1:2", "Mt:1:1 Gn:1:3", "Mt:2:1 Mt:10:1",
+                                   "Mt:2:1 Gn:1:2", "Mt:2:1 Gn:1:3"));
+}
+
 } // namespace
