@@ -1,5 +1,7 @@
 // How Platform lets a screen reader speak, over the connection that Qt holds to AT-SPI's bus. Qt has no
 // announcement before 6.8.
+#include "desktop/AnnouncementLinux.h"
+
 #include "desktop/Platform.h"
 #include <QAccessible>
 #include <QApplication>
@@ -12,7 +14,7 @@
 
 namespace {
 
-void send(QWidget& from, const QString& event, const QString& kind, const QString& text)
+void send(QDBusConnection bus, QWidget& from, const QString& event, const QString& kind, const QString& text)
 {
     QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&from);
     if (!spoken)
@@ -20,7 +22,7 @@ void send(QWidget& from, const QString& event, const QString& kind, const QStrin
     const QString path = "/org/a11y/atspi/accessible/" + QString::number(QAccessible::uniqueId(spoken));
     QDBusMessage signal = QDBusMessage::createSignal(path, "org.a11y.atspi.Event.Object", event);
     signal << kind << 0 << 0 << QVariant::fromValue(QDBusVariant(text)) << QVariantMap();
-    QDBusConnection("a11y").send(signal);
+    bus.send(signal);
 }
 
 /// Whether some assistive program listens for announcements, by AT-SPI's registry, whose answer lists pairs
@@ -46,32 +48,36 @@ bool isHeard(const QDBusMessage& registered)
 
 /// Orca before 45 knows no announcement, but speaks a new description of the control with the focus. It keeps
 /// what it is told, so the control's own follows at once.
-void sendAsDescription(const QString& text)
+void sendAsDescription(const QDBusConnection& bus, const QString& text)
 {
     QWidget* const control = QApplication::focusWidget();
     QAccessibleInterface* spoken = control ? QAccessible::queryAccessibleInterface(control) : nullptr;
     if (!spoken)
         return;
-    send(*control, "PropertyChange", "accessible-description", text);
-    send(*control, "PropertyChange", "accessible-description", spoken->text(QAccessible::Description));
+    send(bus, *control, "PropertyChange", "accessible-description", text);
+    send(bus, *control, "PropertyChange", "accessible-description", spoken->text(QAccessible::Description));
 }
 
 } // namespace
 
-void Platform::announce(QWidget& about, const QString& text)
+void announceOver(const QDBusConnection& bus, QWidget& about, const QString& text)
 {
-    const QDBusConnection bus("a11y");
-    if (!QAccessible::isActive() || !bus.isConnected())
-        return;
     const QDBusMessage ask =
         QDBusMessage::createMethodCall("org.a11y.atspi.Registry", "/org/a11y/atspi/registry",
                                        "org.a11y.atspi.Registry", "GetRegisteredEvents");
     auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(ask), &about);
-    QObject::connect(answer, &QDBusPendingCallWatcher::finished, &about, [&about, answer, text] {
+    QObject::connect(answer, &QDBusPendingCallWatcher::finished, &about, [bus, &about, answer, text] {
         if (isHeard(answer->reply()))
-            send(about, "Announcement", {}, text);
+            send(bus, about, "Announcement", {}, text);
         else
-            sendAsDescription(text);
+            sendAsDescription(bus, text);
         answer->deleteLater();
     });
+}
+
+void Platform::announce(QWidget& about, const QString& text)
+{
+    const QDBusConnection bus("a11y");
+    if (QAccessible::isActive() && bus.isConnected())
+        announceOver(bus, about, text);
 }

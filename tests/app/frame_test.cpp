@@ -274,16 +274,3 @@ TEST_F(Frame, ArrangesMinimisedWindowsAlongTheBottom)
     EXPECT_FALSE(outer(reading).geometry().intersects(outer(get<ChildSelect>()).geometry()));
     EXPECT_EQ(qMin(outer(reading).x(), outer(get<ChildSelect>()).x()), 0);
 }
-
-TEST_F(Frame, KeepsItsActiveWindowWhileTheAreaNamesNoneBehindAnotherProgram)
-{
-    ChildRead& reading = frame().readingWindow();
-    reading.activate();
-    makeActive(nullptr);
-    Q_EMIT frame().area()->subWindowActivated(nullptr);
-    EXPECT_TRUE(reading.isActive());
-    EXPECT_TRUE(menuBarCaptions().contains("&Edit"));
-    makeActive(&frame());
-    Q_EMIT frame().area()->subWindowActivated(&outer(get<ChildSelect>()));
-    EXPECT_TRUE(reading.isActive()) << "the area's active window is what counts";
-}

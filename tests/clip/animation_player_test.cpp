@@ -20,7 +20,7 @@ protected:
     }
 };
 
-class AnimationPlayerTest : public testing::Test
+class Animation : public testing::Test
 {
 protected:
     QString write(const QByteArray& bytes)
@@ -51,7 +51,7 @@ protected:
 };
 } // namespace
 
-TEST_F(AnimationPlayerTest, OpensAGoodClip)
+TEST_F(Animation, OpensAGoodClip)
 {
     EXPECT_TRUE(player.open(write(AviBytes::goodClip())));
     EXPECT_EQ(player.frameCount(), 3);
@@ -59,7 +59,7 @@ TEST_F(AnimationPlayerTest, OpensAGoodClip)
     EXPECT_FALSE(player.isPlaying());
 }
 
-TEST_F(AnimationPlayerTest, ABadOrMissingClipLeavesItEmpty)
+TEST_F(Animation, ABadOrMissingClipLeavesItEmpty)
 {
     ASSERT_TRUE(player.open(write(AviBytes::goodClip())));
     EXPECT_FALSE(player.open(write(QByteArray(60, 'x'))));
@@ -69,7 +69,7 @@ TEST_F(AnimationPlayerTest, ABadOrMissingClipLeavesItEmpty)
     EXPECT_FALSE(player.open(folder.path()));
 }
 
-TEST_F(AnimationPlayerTest, APipeIsNotOpened)
+TEST_F(Animation, APipeIsNotOpened)
 {
     const QString path = folder.filePath("pipe");
     if (!Files::makePipe(path.toStdString()))
@@ -77,7 +77,7 @@ TEST_F(AnimationPlayerTest, APipeIsNotOpened)
     EXPECT_FALSE(player.open(path)) << "and above all it returns";
 }
 
-TEST_F(AnimationPlayerTest, AnEmptyPlayerPlaysNothing)
+TEST_F(Animation, AnEmptyPlayerPlaysNothing)
 {
     show();
     player.play();
@@ -87,7 +87,7 @@ TEST_F(AnimationPlayerTest, AnEmptyPlayerPlaysNothing)
     player.stop();
 }
 
-TEST_F(AnimationPlayerTest, PlayShowsTheFirstFrameWithoutWaitingForEvents)
+TEST_F(Animation, PlayShowsTheFirstFrameWithoutWaitingForEvents)
 {
     player.open(write(AviBytes::goodClip()));
     show();
@@ -97,7 +97,7 @@ TEST_F(AnimationPlayerTest, PlayShowsTheFirstFrameWithoutWaitingForEvents)
     EXPECT_GT(middle().red(), 240);
 }
 
-TEST_F(AnimationPlayerTest, TickShowsTheFrameOfTheElapsedTimeOnce)
+TEST_F(Animation, TickShowsTheFrameOfTheElapsedTimeOnce)
 {
     player.open(write(
         AviBytes::file(AviBytes::headers(300'000), AviBytes::chunk("00dc", AviBytes::jpeg(Qt::red)) +
@@ -117,7 +117,7 @@ TEST_F(AnimationPlayerTest, TickShowsTheFrameOfTheElapsedTimeOnce)
     EXPECT_EQ(player.currentFrame(), 0) << "the clip goes round";
 }
 
-TEST_F(AnimationPlayerTest, TickAfterStopDoesNothing)
+TEST_F(Animation, TickAfterStopDoesNothing)
 {
     player.open(write(AviBytes::goodClip()));
     show();
@@ -130,7 +130,7 @@ TEST_F(AnimationPlayerTest, TickAfterStopDoesNothing)
     EXPECT_EQ(player.paints, 0);
 }
 
-TEST_F(AnimationPlayerTest, PlayBeginsAgainAtTheFirstFrame)
+TEST_F(Animation, PlayBeginsAgainAtTheFirstFrame)
 {
     player.open(write(AviBytes::goodClip()));
     show();
@@ -143,7 +143,7 @@ TEST_F(AnimationPlayerTest, PlayBeginsAgainAtTheFirstFrame)
     EXPECT_EQ(player.currentFrame(), 0);
 }
 
-TEST_F(AnimationPlayerTest, OpeningAnotherClipStopsTheFirst)
+TEST_F(Animation, OpeningAnotherClipStopsTheFirst)
 {
     player.open(write(AviBytes::goodClip()));
     player.play();
@@ -152,4 +152,9 @@ TEST_F(AnimationPlayerTest, OpeningAnotherClipStopsTheFirst)
     show();
     player.tick();
     EXPECT_EQ(player.paints, 0);
+}
+
+TEST_F(Animation, WithoutAClipAsksForTheRoomOfOne)
+{
+    EXPECT_EQ(player.sizeHint(), QSize(240, 60));
 }

@@ -4,9 +4,11 @@
 #include <cstring>
 #include <gtest/gtest.h>
 #include <memory>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -64,6 +66,30 @@ private:
     pid_t m_process = -1;
 };
 
+/// A name that is taken, by us, and that nobody listens to yet.
+class Beginner
+{
+public:
+    explicit Beginner(const QByteArray& name)
+        : m_socket(socket(AF_UNIX, SOCK_STREAM, 0))
+    {
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        std::memcpy(address.sun_path + 1, name.constData(), static_cast<std::size_t>(name.size()));
+        const auto length =
+            static_cast<socklen_t>(sizeof(sa_family_t) + 1) + static_cast<socklen_t>(name.size());
+        EXPECT_EQ(bind(m_socket, reinterpret_cast<const sockaddr*>(&address), length), 0);
+    }
+    ~Beginner() { close(m_socket); }
+    Beginner(const Beginner&) = delete;
+    Beginner& operator=(const Beginner&) = delete;
+
+    void listen() { EXPECT_EQ(::listen(m_socket, 1), 0); }
+
+private:
+    int m_socket;
+};
+
 class OneCopyAmongStrangers : public testing::Test
 {
 protected:
@@ -117,4 +143,30 @@ TEST_F(OneCopyAmongStrangers, StartsWhenStrangersHoldEveryName)
 {
     const Stranger stranger(allCandidates());
     EXPECT_TRUE(InstanceName(name).take());
+}
+
+TEST(OneCopyAtOnce, WaitsForACopyThatHasTheNameAndIsAboutToSaySo)
+{
+    const QByteArray name = "kestrel-test-beginner-" + QByteArray::number(getpid());
+    Beginner beginner(name);
+    std::thread soon([&] {
+        usleep(50'000);
+        beginner.listen();
+    });
+    EXPECT_FALSE(InstanceName(name).take());
+    soon.join();
+}
+
+TEST(OneCopyAtOnce, StartsWhereTheSystemGivesNoSocket)
+{
+    const QByteArray name = "kestrel-test-none-" + QByteArray::number(getpid());
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
+    const rlimit none{0, before.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+    InstanceName first(name);
+    const bool starts = first.take();
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &before), 0);
+    EXPECT_TRUE(starts);
+    EXPECT_TRUE(InstanceName(name).take()) << "a name was taken all the same";
 }

@@ -574,3 +574,39 @@ TEST_F(HelpAndMenus, AgreeInEveryWindow)
             expectKeysListed(activeForm()->objectName());
     }
 }
+
+TEST_F(HelpSession, LoadsNothingButItsPages)
+{
+    QTest::keyClick(&keyReceiver(), Qt::Key_F1);
+    settle();
+    HelpBrowser& shown = browser(*frame().help().window());
+    const QUrl file = QUrl::fromLocalFile(helpSource);
+    EXPECT_EQ(shown.document()->resource(QTextDocument::ImageResource, file).toByteArray(), "");
+    EXPECT_EQ(shown.document()->resource(QTextDocument::StyleSheetResource, file).toByteArray(), "");
+    EXPECT_NE(shown.document()->resource(QTextDocument::HtmlResource, shown.source()).toString(), "");
+}
+
+TEST_F(HelpSession, FollowsNoLinkThatIsNotForTheDesktop)
+{
+    QTest::keyClick(&keyReceiver(), Qt::Key_F1);
+    settle();
+    HelpBrowser& shown = browser(*frame().help().window());
+    const QString before = shown.page();
+    Q_EMIT shown.anchorClicked(QUrl("file:///etc/passwd"));
+    EXPECT_EQ(services.links, QList<QUrl>());
+    EXPECT_EQ(shown.page(), before);
+}
+
+TEST_F(HelpSession, ComesBackWhenItWasMinimised)
+{
+    QTest::keyClick(&keyReceiver(), Qt::Key_F1);
+    settle();
+    HelpWindow& help = *frame().help().window();
+    help.showMinimized();
+    ASSERT_TRUE(help.isMinimized());
+    makeActive(&frame());
+    press(Qt::Key_F1);
+    settle();
+    EXPECT_FALSE(help.isMinimized());
+    EXPECT_TRUE(help.isVisible());
+}

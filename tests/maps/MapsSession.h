@@ -19,7 +19,7 @@
 #include <QToolButton>
 
 /// The running program over a database of the real topics and a few small pictures.
-class MapsTest : public Session
+class MapsSession : public Session
 {
 protected:
     void SetUp() override

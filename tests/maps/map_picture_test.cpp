@@ -21,7 +21,7 @@ QImage imageOf(int width, int height, int dotsPerInch)
     return image;
 }
 
-class MapPictureTest : public testing::Test
+class Picture : public testing::Test
 {
 protected:
     void pressAt(QPoint place) { QTest::mousePress(&picture, Qt::LeftButton, {}, place); }
@@ -39,13 +39,13 @@ protected:
 
 } // namespace
 
-TEST_F(MapPictureTest, HasTheDesignedSizeBeforeAnImageComes)
+TEST_F(Picture, HasTheDesignedSizeBeforeAnImageComes)
 {
     EXPECT_EQ(picture.extent(), QSizeF(735, 735));
     EXPECT_EQ(picture.size(), QSize(49, 49));
 }
 
-TEST_F(MapPictureTest, TakesTheNaturalSizeByTheResolution)
+TEST_F(Picture, TakesTheNaturalSizeByTheResolution)
 {
     picture.setImage(imageOf(400, 300, 192));
     EXPECT_EQ(picture.size(), QSize(200, 150));
@@ -53,19 +53,19 @@ TEST_F(MapPictureTest, TakesTheNaturalSizeByTheResolution)
     EXPECT_NEAR(picture.extent().height(), 2250, 0.1);
 }
 
-TEST_F(MapPictureTest, CountsPixelsWhereThereIsNoResolution)
+TEST_F(Picture, CountsPixelsWhereThereIsNoResolution)
 {
     picture.setImage(QImage(300, 200, QImage::Format_RGB32));
     EXPECT_EQ(picture.extent(), QSizeF(4500, 3000));
 }
 
-TEST_F(MapPictureTest, CountsPixelsWhereTheResolutionIsAbsurd)
+TEST_F(Picture, CountsPixelsWhereTheResolutionIsAbsurd)
 {
     picture.setImage(imageOf(30, 20, 1));
     EXPECT_EQ(picture.size(), QSize(30, 20));
 }
 
-TEST_F(MapPictureTest, EmptyPictureIsAsHighAsTheButtonsBesideItNeed)
+TEST_F(Picture, EmptyPictureIsAsHighAsTheButtonsBesideItNeed)
 {
     picture.setImage(imageOf(400, 300, 192));
     picture.setImage({});
@@ -73,7 +73,7 @@ TEST_F(MapPictureTest, EmptyPictureIsAsHighAsTheButtonsBesideItNeed)
     EXPECT_TRUE(picture.pixmap().isNull());
 }
 
-TEST_F(MapPictureTest, StretchedPictureKeepsItsSizeForAnotherImage)
+TEST_F(Picture, StretchedPictureKeepsItsSizeForAnotherImage)
 {
     picture.setStretch(true);
     picture.setExtent({6000, 3000});
@@ -82,7 +82,7 @@ TEST_F(MapPictureTest, StretchedPictureKeepsItsSizeForAnotherImage)
     EXPECT_EQ(picture.pixmap().size(), QSize(400, 200));
 }
 
-TEST_F(MapPictureTest, WithoutStretchingTheNaturalSizeComesBack)
+TEST_F(Picture, WithoutStretchingTheNaturalSizeComesBack)
 {
     picture.setImage(imageOf(400, 300, 192));
     picture.setStretch(true);
@@ -92,7 +92,7 @@ TEST_F(MapPictureTest, WithoutStretchingTheNaturalSizeComesBack)
     EXPECT_EQ(picture.size(), QSize(200, 150));
 }
 
-TEST_F(MapPictureTest, PaintsFinelyWhatIsScaledDown)
+TEST_F(Picture, PaintsFinelyWhatIsScaledDown)
 {
     // Lines of one pixel, black and white in turn: scaled to half they are an even grey.
     QImage lines = imageOf(400, 300, 192);
@@ -106,7 +106,7 @@ TEST_F(MapPictureTest, PaintsFinelyWhatIsScaledDown)
 }
 
 // Maps are large and have a palette of few colours, of which scaling mixes more than a palette holds.
-TEST_F(MapPictureTest, ShowsAColourOfAPaletteAsItIs)
+TEST_F(Picture, ShowsAColourOfAPaletteAsItIs)
 {
     constexpr int side = 1100;
     const QColor sea(207, 223, 231);
@@ -128,7 +128,7 @@ TEST_F(MapPictureTest, ShowsAColourOfAPaletteAsItIs)
     }
 }
 
-TEST_F(MapPictureTest, TellsAScreenReaderThatItIsAPicture)
+TEST_F(Picture, TellsAScreenReaderThatItIsAPicture)
 {
     picture.setImage(imageOf(400, 300, 192));
     picture.setAccessibleName("The Journeys of Abraham");
@@ -137,7 +137,7 @@ TEST_F(MapPictureTest, TellsAScreenReaderThatItIsAPicture)
     EXPECT_EQ(spoken->text(QAccessible::Name), "The Journeys of Abraham");
 }
 
-TEST_F(MapPictureTest, CanBeDraggedOutWithAllItsPixels)
+TEST_F(Picture, CanBeDraggedOutWithAllItsPixels)
 {
     window.show();
     picture.setImage(imageOf(400, 300, 192));
@@ -151,7 +151,7 @@ TEST_F(MapPictureTest, CanBeDraggedOutWithAllItsPixels)
     EXPECT_EQ(completed.count(), 1);
 }
 
-TEST_F(MapPictureTest, ShortWayOrEmptyPictureStartsNoDrag)
+TEST_F(Picture, ShortWayOrEmptyPictureStartsNoDrag)
 {
     window.show();
     QSignalSpy completed(&picture, &MapPicture::dragCompleted);
@@ -183,4 +183,42 @@ TEST(DecodedImage, SizeThatNoMapHasIsRefused)
 {
     EXPECT_TRUE(decodedImage("P6 60000 60000 255\n").isNull());
     EXPECT_FALSE(decodedImage("P6 1 1 255\nabc").isNull());
+}
+
+TEST_F(Picture, IsScaledAnewOnAScreenOfAnotherDensity)
+{
+    picture.setImage(imageOf(40, 30, 96));
+    QPixmap dense(80, 60);
+    dense.setDevicePixelRatio(2); // as it was on the screen that the window comes from
+    picture.setPixmap(dense);
+    picture.grab();
+    EXPECT_EQ(picture.pixmap().devicePixelRatio(), 1);
+    EXPECT_EQ(picture.pixmap().toImage().pixelColor(20, 15), QColor(Qt::red));
+}
+
+TEST_F(Picture, IsNotDraggedWithoutTheLeftButton)
+{
+    picture.setImage(imageOf(200, 200, 96));
+    QSignalSpy drags(&picture, &MapPicture::dragCompleted);
+    pressAt({5, 5});
+    const QPointF far(150, 150);
+    QMouseEvent move(QEvent::MouseMove, far, picture.mapToGlobal(far), Qt::NoButton, Qt::RightButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(&picture, &move);
+    EXPECT_EQ(drags.count(), 0);
+}
+
+TEST(DecodedImage, IsNoneWhereItWouldFillTheMemory)
+{
+    const auto bitmapOf = [](int width, int height) {
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        QImage image(width, height, QImage::Format_Mono);
+        image.fill(1);
+        image.save(&buffer, "BMP");
+        return bytes;
+    };
+    EXPECT_EQ(decodedImage(bitmapOf(4000, 4000)).size(), QSize(4000, 4000));
+    EXPECT_TRUE(decodedImage(bitmapOf(4000, 4001)).isNull());
 }

@@ -1,5 +1,5 @@
 #include "desktop/Clipboard.h"
-#include "maps/MapsTest.h"
+#include "maps/MapsSession.h"
 #include <QAccessible>
 #include <QClipboard>
 #include <QLabel>
@@ -7,7 +7,7 @@
 
 namespace {
 
-class ChildMapDspTest : public MapsTest
+class MapWindow : public MapsSession
 {
 protected:
     /// The window around a picture of a size in pixels: 520 twips higher, 800 wider.
@@ -27,7 +27,7 @@ protected:
 
 } // namespace
 
-TEST_F(ChildMapDspTest, FitsTheMapAtTheFramesCorner)
+TEST_F(MapWindow, FitsTheMapAtTheFramesCorner)
 {
     ChildMapDsp& map = openMap(denseMap);
     expectFitted(map, {200, 150});
@@ -40,7 +40,7 @@ TEST_F(ChildMapDspTest, FitsTheMapAtTheFramesCorner)
     EXPECT_EQ(program->flags.MapZoomed, 0);
 }
 
-TEST_F(ChildMapDspTest, ShowsPictureAndButtonsWhole)
+TEST_F(MapWindow, ShowsPictureAndButtonsWhole)
 {
     ChildMapDsp& map = openMap(denseMap);
     const QRect inside(QPoint(), map.size());
@@ -53,7 +53,7 @@ TEST_F(ChildMapDspTest, ShowsPictureAndButtonsWhole)
         EXPECT_EQ(bar->maximum(), 0);
 }
 
-TEST_F(ChildMapDspTest, EveryMapIsFittedAnew)
+TEST_F(MapWindow, EveryMapIsFittedAnew)
 {
     openMap(denseMap);
     ChildMapDsp& map = openMap(plainMap);
@@ -63,7 +63,7 @@ TEST_F(ChildMapDspTest, EveryMapIsFittedAnew)
     expectFitted(openMap(lastMap), {210, 140});
 }
 
-TEST_F(ChildMapDspTest, MovedWindowComesBackToTheCornerOnlyWithANewMap)
+TEST_F(MapWindow, MovedWindowComesBackToTheCornerOnlyWithANewMap)
 {
     ChildMapDsp& map = openMap(denseMap);
     outer(map).move(100, 80);
@@ -74,7 +74,7 @@ TEST_F(ChildMapDspTest, MovedWindowComesBackToTheCornerOnlyWithANewMap)
     EXPECT_EQ(outer(map).pos(), QPoint(0, 0));
 }
 
-TEST_F(ChildMapDspTest, ChoosingAMapRestoresAMaximisedWindow)
+TEST_F(MapWindow, ChoosingAMapRestoresAMaximisedWindow)
 {
     ChildMapDsp& map = openMap(denseMap);
     map.setState(Form::Maximized);
@@ -85,7 +85,7 @@ TEST_F(ChildMapDspTest, ChoosingAMapRestoresAMaximisedWindow)
     EXPECT_EQ(outer(map).pos(), QPoint(0, 0));
 }
 
-TEST_F(ChildMapDspTest, ChoosingAMapRestoresAMinimisedWindow)
+TEST_F(MapWindow, ChoosingAMapRestoresAMinimisedWindow)
 {
     ChildMapDsp& map = openMap(denseMap);
     map.setState(Form::Minimized);
@@ -94,7 +94,7 @@ TEST_F(ChildMapDspTest, ChoosingAMapRestoresAMinimisedWindow)
     expectFitted(map, {300, 200});
 }
 
-TEST_F(ChildMapDspTest, ChoosingAMapFromAMaximisedStudyAidsWindowShowsItFitted)
+TEST_F(MapWindow, ChoosingAMapFromAMaximisedStudyAidsWindowShowsItFitted)
 {
     openStudyAids().setState(Form::Maximized);
     ChildMapDsp& map = openMap(denseMap);
@@ -102,7 +102,7 @@ TEST_F(ChildMapDspTest, ChoosingAMapFromAMaximisedStudyAidsWindowShowsItFitted)
     expectFitted(map, {200, 150});
 }
 
-TEST_F(ChildMapDspTest, ZoomEnlargesByAFifthAndZoomAgainRestores)
+TEST_F(MapWindow, ZoomEnlargesByAFifthAndZoomAgainRestores)
 {
     ChildMapDsp& map = openMap(lastMap);
     const QSizeF natural = Image1().extent();
@@ -117,7 +117,7 @@ TEST_F(ChildMapDspTest, ZoomEnlargesByAFifthAndZoomAgainRestores)
     EXPECT_NEAR(Image1().extent().height(), natural.height(), 0.001);
 }
 
-TEST_F(ChildMapDspTest, ZoomingManyTimesDoesNotDrift)
+TEST_F(MapWindow, ZoomingManyTimesDoesNotDrift)
 {
     ChildMapDsp& map = openMap(denseMap);
     for (int i = 0; i < 100; ++i)
@@ -125,7 +125,7 @@ TEST_F(ChildMapDspTest, ZoomingManyTimesDoesNotDrift)
     expectFitted(map, {200, 150});
 }
 
-TEST_F(ChildMapDspTest, ZoomWhileMinimisedIsSeenAfterwards)
+TEST_F(MapWindow, ZoomWhileMinimisedIsSeenAfterwards)
 {
     ChildMapDsp& map = openMap(denseMap);
     map.setState(Form::Minimized);
@@ -135,7 +135,7 @@ TEST_F(ChildMapDspTest, ZoomWhileMinimisedIsSeenAfterwards)
     expectFitted(map, {240, 180});
 }
 
-TEST_F(ChildMapDspTest, ZoomWhileMaximisedKeepsTheWindow)
+TEST_F(MapWindow, ZoomWhileMaximisedKeepsTheWindow)
 {
     ChildMapDsp& map = openMap(denseMap);
     map.setState(Form::Maximized);
@@ -147,7 +147,7 @@ TEST_F(ChildMapDspTest, ZoomWhileMaximisedKeepsTheWindow)
     expectFitted(map, {240, 180});
 }
 
-TEST_F(ChildMapDspTest, NewMapIsNotEnlarged)
+TEST_F(MapWindow, NewMapIsNotEnlarged)
 {
     ChildMapDsp& map = openMap(denseMap);
     QTest::mouseClick(&cmdZoom(), Qt::LeftButton);
@@ -159,7 +159,7 @@ TEST_F(ChildMapDspTest, NewMapIsNotEnlarged)
     expectFitted(map, {252, 168});
 }
 
-TEST_F(ChildMapDspTest, DraggedBorderIsUndoneAtOnce)
+TEST_F(MapWindow, DraggedBorderIsUndoneAtOnce)
 {
     ChildMapDsp& map = openMap(denseMap);
     outer(map).resize(600, 500);
@@ -168,7 +168,7 @@ TEST_F(ChildMapDspTest, DraggedBorderIsUndoneAtOnce)
     expectFitted(map, {200, 150});
 }
 
-TEST_F(ChildMapDspTest, DragOfAnyBorderIsUndoneInPlace)
+TEST_F(MapWindow, DragOfAnyBorderIsUndoneInPlace)
 {
     QMdiSubWindow& window = outer(openMap(denseMap));
     window.move(120, 90);
@@ -189,7 +189,7 @@ TEST_F(ChildMapDspTest, DragOfAnyBorderIsUndoneInPlace)
     EXPECT_EQ(window.geometry(), place.translated(40, 30));
 }
 
-TEST_F(ChildMapDspTest, MenusHaveCopyAndZoom)
+TEST_F(MapWindow, MenusHaveCopyAndZoom)
 {
     ChildMapDsp& map = openMap(denseMap);
     EXPECT_EQ(menuBarCaptions(),
@@ -204,7 +204,7 @@ TEST_F(ChildMapDspTest, MenusHaveCopyAndZoom)
     expectFitted(map, {240, 180});
 }
 
-TEST_F(ChildMapDspTest, ButtonsSayWhatTheyDo)
+TEST_F(MapWindow, ButtonsSayWhatTheyDo)
 {
     openMap(denseMap);
     EXPECT_EQ(cmdZoom().toolTip(), "Zoom In/Restore Normal Size");
@@ -213,7 +213,7 @@ TEST_F(ChildMapDspTest, ButtonsSayWhatTheyDo)
     EXPECT_EQ(cmdPicCopy().objectName(), "cmdPicCopy");
 }
 
-TEST_F(ChildMapDspTest, DescriptionIsTheLabelsTextAndThePicturesName)
+TEST_F(MapWindow, DescriptionIsTheLabelsTextAndThePicturesName)
 {
     ChildMapDsp& map = openMap(9);
     EXPECT_EQ(lblMapDesc().text(), "Ninth & Last <b>but Two</b>");
@@ -221,7 +221,7 @@ TEST_F(ChildMapDspTest, DescriptionIsTheLabelsTextAndThePicturesName)
     EXPECT_EQ(map.caption(), "Map -- Ninth & Last <b>but Two</b>");
 }
 
-TEST_F(ChildMapDspTest, CopyPutsAllPixelsOnTheClipboard)
+TEST_F(MapWindow, CopyPutsAllPixelsOnTheClipboard)
 {
     frame().readingWindow().activate(); // has the same shortcut
     openMap(denseMap);
@@ -236,7 +236,7 @@ TEST_F(ChildMapDspTest, CopyPutsAllPixelsOnTheClipboard)
     EXPECT_TRUE(boxes.shown.isEmpty());
 }
 
-TEST_F(ChildMapDspTest, CopyOfAnEmptyPictureClearsTheClipboardWithoutAMessage)
+TEST_F(MapWindow, CopyOfAnEmptyPictureClearsTheClipboardWithoutAMessage)
 {
     openMap(emptyMap);
     QApplication::clipboard()->setText("before");
@@ -246,7 +246,7 @@ TEST_F(ChildMapDspTest, CopyOfAnEmptyPictureClearsTheClipboardWithoutAMessage)
     EXPECT_TRUE(boxes.shown.isEmpty());
 }
 
-TEST_F(ChildMapDspTest, ClipboardThatTakesNothingIsReported)
+TEST_F(MapWindow, ClipboardThatTakesNothingIsReported)
 {
     openMap(denseMap);
     services.clipboardWorks = false;
@@ -255,7 +255,7 @@ TEST_F(ChildMapDspTest, ClipboardThatTakesNothingIsReported)
     EXPECT_EQ(boxes.shown[0].title, clipboardErrorTitle);
 }
 
-TEST_F(ChildMapDspTest, PictureThatCannotBeReadIsEmpty)
+TEST_F(MapWindow, PictureThatCannotBeReadIsEmpty)
 {
     for (int number : {damagedMap, endlessMap, emptyMap, cutMap}) {
         ChildMapDsp& map = openMap(number);
@@ -266,7 +266,7 @@ TEST_F(ChildMapDspTest, PictureThatCannotBeReadIsEmpty)
     EXPECT_TRUE(boxes.shown.isEmpty());
 }
 
-TEST_F(ChildMapDspTest, EmptyPictureLeavesItsButtonsWhole)
+TEST_F(MapWindow, EmptyPictureLeavesItsButtonsWhole)
 {
     ChildMapDsp& map = openMap(emptyMap);
     expectFitted(map, {49, 66});
@@ -283,13 +283,13 @@ TEST_F(ChildMapDspTest, EmptyPictureLeavesItsButtonsWhole)
     EXPECT_EQ(QApplication::clipboard()->text(), "");
 }
 
-TEST_F(ChildMapDspTest, AbsurdResolutionIsNotFollowed)
+TEST_F(MapWindow, AbsurdResolutionIsNotFollowed)
 {
     openMap(sparseMap);
     EXPECT_EQ(Image1().size(), QSize(30, 20));
 }
 
-TEST_F(ChildMapDspTest, DragBringsPictureAndDescriptionBack)
+TEST_F(MapWindow, DragBringsPictureAndDescriptionBack)
 {
     openMap(denseMap);
     QTest::mouseClick(&cmdZoom(), Qt::LeftButton);
@@ -300,7 +300,7 @@ TEST_F(ChildMapDspTest, DragBringsPictureAndDescriptionBack)
     EXPECT_EQ(lblMapDesc().text(), "The Journeys of Abraham");
 }
 
-TEST_F(ChildMapDspTest, MapLargerThanTheFrameIsOnTheScreenForAScreenReader)
+TEST_F(MapWindow, MapLargerThanTheFrameIsOnTheScreenForAScreenReader)
 {
     ChildMapDsp& map = openMap(largeMap);
     QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&outer(map));
@@ -319,7 +319,7 @@ TEST_F(ChildMapDspTest, MapLargerThanTheFrameIsOnTheScreenForAScreenReader)
     EXPECT_TRUE(spoken->state().offscreen) << "none of it shows";
 }
 
-TEST_F(ChildMapDspTest, MapLargerThanTheFrameCanBeScrolledByKeys)
+TEST_F(MapWindow, MapLargerThanTheFrameCanBeScrolledByKeys)
 {
     ChildMapDsp& map = openMap(largeMap);
     EXPECT_EQ(outer(map).size(), around({1500, 1200}));
@@ -337,9 +337,14 @@ TEST_F(ChildMapDspTest, MapLargerThanTheFrameCanBeScrolledByKeys)
         QTest::keyClick(&cmdZoom(), Qt::Key_PageUp);
     }
     EXPECT_EQ(outer(map).pos(), QPoint(0, 0));
+    QTest::keyClick(&cmdZoom(), Qt::Key_PageDown);
+    const int below = outer(map).y();
+    EXPECT_LT(below, -60);
+    QTest::keyClick(&cmdZoom(), Qt::Key_Up);
+    EXPECT_EQ(outer(map).y(), below + 60);
 }
 
-TEST_F(ChildMapDspTest, MapLargerThanAMaximisedWindowCanBeScrolledByKeys)
+TEST_F(MapWindow, MapLargerThanAMaximisedWindowCanBeScrolledByKeys)
 {
     ChildMapDsp& map = openMap(largeMap);
     map.setState(Form::Maximized);
@@ -353,7 +358,7 @@ TEST_F(ChildMapDspTest, MapLargerThanAMaximisedWindowCanBeScrolledByKeys)
     EXPECT_TRUE(map.rect().contains(farCorner()));
 }
 
-TEST_F(ChildMapDspTest, MaximisedWindowOfALargeMapFillsTheFrame)
+TEST_F(MapWindow, MaximisedWindowOfALargeMapFillsTheFrame)
 {
     ChildMapDsp& map = openMap(largeMap);
     QTest::qWait(0);
@@ -369,14 +374,14 @@ TEST_F(ChildMapDspTest, MaximisedWindowOfALargeMapFillsTheFrame)
     EXPECT_EQ(outer(map).size(), around({1500, 1200}));
 }
 
-TEST_F(ChildMapDspTest, ClosedWindowIsLoadedAfresh)
+TEST_F(MapWindow, ClosedWindowIsLoadedAfresh)
 {
     closeWindow(openMap(denseMap));
     ASSERT_FALSE(open<ChildMapDsp>());
     expectFitted(openMap(plainMap), {300, 200});
 }
 
-TEST_F(ChildMapDspTest, TheListOfMapsKeepsTheFocusWhileMapsAreMaximised)
+TEST_F(MapWindow, TheListOfMapsKeepsTheFocusWhileMapsAreMaximised)
 {
     ChildMapSel& aids = openStudyAids();
     choosePage(1);

@@ -1,4 +1,4 @@
-#include "maps/MapsTest.h"
+#include "maps/MapsSession.h"
 #include "maps/TopicText.h"
 #include <QComboBox>
 #include <QFile>
@@ -18,7 +18,7 @@ bool hasRows(const QString& path, const char* table)
 }
 
 /// The same windows over the database that is shipped.
-class ShippedDatabaseTest : public MapsTest
+class ShippedStudyAids : public MapsSession
 {
 protected:
     void SetUp() override
@@ -32,7 +32,7 @@ protected:
 
 } // namespace
 
-TEST_F(ShippedDatabaseTest, EveryReferenceOfEveryTopicShowsItsVerse)
+TEST_F(ShippedStudyAids, EveryReferenceOfEveryTopicShowsItsVerse)
 {
     openStudyAids();
     int opened = 0;
@@ -54,7 +54,7 @@ TEST_F(ShippedDatabaseTest, EveryReferenceOfEveryTopicShowsItsVerse)
     EXPECT_GT(opened, 500);
 }
 
-TEST_F(ShippedDatabaseTest, EveryMapIsShownSharperThanItsSize)
+TEST_F(ShippedStudyAids, EveryMapIsShownSharperThanItsSize)
 {
     for (int number = 1; number <= 11; ++number) {
         openMap(number);

@@ -1,5 +1,5 @@
 #include "maps/CaptionFrame.h"
-#include "maps/MapsTest.h"
+#include "maps/MapsSession.h"
 #include "support/CutTexts.h"
 #include "support/OnceModal.h"
 #include "widgets/DataControl.h"
@@ -14,12 +14,12 @@
 
 namespace {
 
-class ChildMapSelTest : public MapsTest
+class StudyAids : public MapsSession
 {
 protected:
     void SetUp() override
     {
-        MapsTest::SetUp();
+        MapsSession::SetUp();
         aids = &openStudyAids();
         List1().setFocus();
     }
@@ -69,7 +69,7 @@ protected:
 
 } // namespace
 
-TEST_F(ChildMapSelTest, OpensOnTheClassifiedVerses)
+TEST_F(StudyAids, OpensOnTheClassifiedVerses)
 {
     EXPECT_EQ(aids->caption(), "Study Aids");
     EXPECT_EQ(activeForm(), aids);
@@ -89,7 +89,7 @@ TEST_F(ChildMapSelTest, OpensOnTheClassifiedVerses)
     EXPECT_FALSE(Frame4().isVisible());
 }
 
-TEST_F(ChildMapSelTest, HasTheFourGroupsInTwoColumns)
+TEST_F(StudyAids, HasTheFourGroupsInTwoColumns)
 {
     const QStringList captions = {"Major &Gospels Events", "Christ's M&iracles", "Christ's &Parables",
                                   "M&essianic Prophecies"};
@@ -105,7 +105,7 @@ TEST_F(ChildMapSelTest, HasTheFourGroupsInTwoColumns)
     EXPECT_LT(optEvents(0).y(), optEvents(1).y());
 }
 
-TEST_F(ChildMapSelTest, ListsTheElevenMapsInOrder)
+TEST_F(StudyAids, ListsTheElevenMapsInOrder)
 {
     EXPECT_EQ(textsOf(lstMaps()),
               QStringList({"Abraham's Journeys", "Jacob's Journey", "Route of the Exodus",
@@ -114,7 +114,7 @@ TEST_F(ChildMapSelTest, ListsTheElevenMapsInOrder)
                            "Paul's Second Journey", "Paul's Third Journey", "Paul's Journey to Rome"}));
 }
 
-TEST_F(ChildMapSelTest, StartsWithTheGospelEventsAndTheFirstOnesReferences)
+TEST_F(StudyAids, StartsWithTheGospelEventsAndTheFirstOnesReferences)
 {
     const QList<Topic> events = topicsOf("events");
     QStringList names;
@@ -127,7 +127,7 @@ TEST_F(ChildMapSelTest, StartsWithTheGospelEventsAndTheFirstOnesReferences)
               "SELECT * FROM ClassifiedVerses WHERE Name = '" + events.first().name.toStdString() + "'");
 }
 
-TEST_F(ChildMapSelTest, GroupFillsTheTopicsAndTheFirstOnesReferences)
+TEST_F(StudyAids, GroupFillsTheTopicsAndTheFirstOnesReferences)
 {
     const QStringList groups = {"events", "miracles", "parables", "prophecy"};
     for (int index : {3, 2, 1, 0}) {
@@ -141,7 +141,7 @@ TEST_F(ChildMapSelTest, GroupFillsTheTopicsAndTheFirstOnesReferences)
     }
 }
 
-TEST_F(ChildMapSelTest, GroupIsAskedForByItsTypeAndItsFirstTopicByName)
+TEST_F(StudyAids, GroupIsAskedForByItsTypeAndItsFirstTopicByName)
 {
     QStringList asked;
     Data1().currentRowChanged = [&] {
@@ -154,7 +154,7 @@ TEST_F(ChildMapSelTest, GroupIsAskedForByItsTypeAndItsFirstTopicByName)
                                       topicsOf("miracles").first().name + "'"}));
 }
 
-TEST_F(ChildMapSelTest, GroupIsChosenByAccessKeyAndArrowToo)
+TEST_F(StudyAids, GroupIsChosenByAccessKeyAndArrowToo)
 {
     QTest::keyClick(aids, Qt::Key_E, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([this] { return Combo2().count() == topicsOf("prophecy").size(); }));
@@ -162,7 +162,7 @@ TEST_F(ChildMapSelTest, GroupIsChosenByAccessKeyAndArrowToo)
     EXPECT_TRUE(QTest::qWaitFor([this] { return Combo2().count() == topicsOf("parables").size(); }));
 }
 
-TEST_F(ChildMapSelTest, GroupThatIsChosenAlreadyBeginsWithItsFirstTopicAgain)
+TEST_F(StudyAids, GroupThatIsChosenAlreadyBeginsWithItsFirstTopicAgain)
 {
     QTest::keyClick(&Combo2(), Qt::Key_End);
     ASSERT_GT(Combo2().currentIndex(), 0);
@@ -171,14 +171,14 @@ TEST_F(ChildMapSelTest, GroupThatIsChosenAlreadyBeginsWithItsFirstTopicAgain)
     EXPECT_EQ(textsOf(List1()), entriesOf(topicsOf("events").first()));
 }
 
-TEST_F(ChildMapSelTest, TopicFillsItsReferences)
+TEST_F(StudyAids, TopicFillsItsReferences)
 {
     QTest::keyClick(&Combo2(), Qt::Key_Down);
     QTest::keyClick(&Combo2(), Qt::Key_Down);
     EXPECT_EQ(textsOf(List1()), entriesOf(topicsOf("events")[2]));
 }
 
-TEST_F(ChildMapSelTest, TypedLettersFindATopicBehindItsBlankAndItsArticle)
+TEST_F(StudyAids, TypedLettersFindATopicBehindItsBlankAndItsArticle)
 {
     QTest::mouseClick(&optEvents(2), Qt::LeftButton, {}, {8, 8});
     QTest::keyClicks(&Combo2(), "sow");
@@ -190,7 +190,7 @@ TEST_F(ChildMapSelTest, TypedLettersFindATopicBehindItsBlankAndItsArticle)
     EXPECT_TRUE(Combo2().currentText().startsWith(" Raising")) << Combo2().currentText().toStdString();
 }
 
-TEST_F(ChildMapSelTest, TypedLettersFindAReferenceBehindItsBlank)
+TEST_F(StudyAids, TypedLettersFindAReferenceBehindItsBlank)
 {
     QTest::mouseClick(&optEvents(2), Qt::LeftButton, {}, {8, 8});
     QTest::keyClicks(&Combo2(), "sow");
@@ -202,7 +202,7 @@ TEST_F(ChildMapSelTest, TypedLettersFindAReferenceBehindItsBlank)
     EXPECT_EQ(lstMaps().selected(), 3);
 }
 
-TEST_F(ChildMapSelTest, ClickOpensTheVerseBeforeTheHyphen)
+TEST_F(StudyAids, ClickOpensTheVerseBeforeTheHyphen)
 {
     setEntries(List1(), {" Mt:5:3-12 "});
     clickEntry(List1(), 0);
@@ -214,7 +214,7 @@ TEST_F(ChildMapSelTest, ClickOpensTheVerseBeforeTheHyphen)
     EXPECT_EQ(activeForm(), reading);
 }
 
-TEST_F(ChildMapSelTest, ClickRestoresAMinimisedReadingWindow)
+TEST_F(StudyAids, ClickRestoresAMinimisedReadingWindow)
 {
     clickEntry(List1(), 0);
     auto* reading = open<ChildRead>();
@@ -225,13 +225,13 @@ TEST_F(ChildMapSelTest, ClickRestoresAMinimisedReadingWindow)
     EXPECT_TRUE(reading->isAncestorOf(QApplication::focusWidget()));
 }
 
-TEST_F(ChildMapSelTest, EveryClickOpensAlsoOnTheChosenEntry)
+TEST_F(StudyAids, EveryClickOpensAlsoOnTheChosenEntry)
 {
     EXPECT_TRUE(opensVerse([this] { clickEntry(List1(), 0); }));
     EXPECT_TRUE(opensVerse([this] { clickEntry(List1(), 0); }));
 }
 
-TEST_F(ChildMapSelTest, MouseLetGoOnAnotherEntryOpensThatOne)
+TEST_F(StudyAids, MouseLetGoOnAnotherEntryOpensThatOne)
 {
     setEntries(List1(), {" Jn:1:1 ", " Mt:5:3-12 "});
     drag(List1().viewport(), centerOf(List1(), 0), centerOf(List1(), 1));
@@ -239,7 +239,7 @@ TEST_F(ChildMapSelTest, MouseLetGoOnAnotherEntryOpensThatOne)
     EXPECT_EQ(recordSource(), "SELECT * FROM NewTestament WHERE VerseId LIKE 'Mt:5:3*'");
 }
 
-TEST_F(ChildMapSelTest, EachClickOfADoubleClickOpens)
+TEST_F(StudyAids, EachClickOfADoubleClickOpens)
 {
     QWidget* viewport = List1().viewport();
     const QPoint entry = centerOf(List1(), 0);
@@ -250,7 +250,7 @@ TEST_F(ChildMapSelTest, EachClickOfADoubleClickOpens)
     }));
 }
 
-TEST_F(ChildMapSelTest, ChosenEntryOpensWhileCtrlOrShiftIsHeld)
+TEST_F(StudyAids, ChosenEntryOpensWhileCtrlOrShiftIsHeld)
 {
     const QPoint entry = centerOf(List1(), 0);
     EXPECT_TRUE(opensVerse([this] { clickEntry(List1(), 0); }));
@@ -259,7 +259,7 @@ TEST_F(ChildMapSelTest, ChosenEntryOpensWhileCtrlOrShiftIsHeld)
             opensVerse([&] { QTest::mouseClick(List1().viewport(), Qt::LeftButton, modifier, entry); }));
 }
 
-TEST_F(ChildMapSelTest, EveryClickOnAMapOpensItWhateverIsHeld)
+TEST_F(StudyAids, EveryClickOnAMapOpensItWhateverIsHeld)
 {
     choosePage(1);
     QWidget* viewport = lstMaps().viewport();
@@ -282,7 +282,7 @@ TEST_F(ChildMapSelTest, EveryClickOnAMapOpensItWhateverIsHeld)
     EXPECT_FALSE(opensMap([&] { QTest::mouseClick(viewport, Qt::RightButton, {}, entry); }));
 }
 
-TEST_F(ChildMapSelTest, ClickBesideTheEntriesOpensNothing)
+TEST_F(StudyAids, ClickBesideTheEntriesOpensNothing)
 {
     QWidget* viewport = List1().viewport();
     EXPECT_FALSE(opensVerse([&] {
@@ -290,20 +290,20 @@ TEST_F(ChildMapSelTest, ClickBesideTheEntriesOpensNothing)
     }));
 }
 
-TEST_F(ChildMapSelTest, OtherMouseButtonsOpenNothing)
+TEST_F(StudyAids, OtherMouseButtonsOpenNothing)
 {
     EXPECT_FALSE(opensVerse([this] {
         QTest::mouseClick(List1().viewport(), Qt::RightButton, {}, {20, 10});
     }));
 }
 
-TEST_F(ChildMapSelTest, FirstArrowKeyChoosesTheFirstEntry)
+TEST_F(StudyAids, FirstArrowKeyChoosesTheFirstEntry)
 {
     EXPECT_FALSE(opensVerse([this] { QTest::keyClick(&List1(), Qt::Key_Down); }));
     EXPECT_EQ(List1().selected(), 0);
 }
 
-TEST_F(ChildMapSelTest, FirstJumpInAListOfOneChoosesItsEntry)
+TEST_F(StudyAids, FirstJumpInAListOfOneChoosesItsEntry)
 {
     ASSERT_EQ(List1().count(), 1);
     for (Qt::Key key : {Qt::Key_Home, Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageDown}) {
@@ -314,7 +314,7 @@ TEST_F(ChildMapSelTest, FirstJumpInAListOfOneChoosesItsEntry)
     }
 }
 
-TEST_F(ChildMapSelTest, ArrowKeyMovesAndOpensNothing)
+TEST_F(StudyAids, ArrowKeyMovesAndOpensNothing)
 {
     setEntries(List1(), {" Jn:1:1 ", " Mt:5:3-12 "});
     QTest::keyClick(&List1(), Qt::Key_Down);
@@ -322,7 +322,7 @@ TEST_F(ChildMapSelTest, ArrowKeyMovesAndOpensNothing)
     EXPECT_EQ(List1().selected(), 1);
 }
 
-TEST_F(ChildMapSelTest, EnterOrSpaceOpensTheChosenEntry)
+TEST_F(StudyAids, EnterOrSpaceOpensTheChosenEntry)
 {
     setEntries(List1(), {" Jn:1:1 ", " Mt:5:3-12 "});
     for (Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
@@ -336,21 +336,21 @@ TEST_F(ChildMapSelTest, EnterOrSpaceOpensTheChosenEntry)
     }
 }
 
-TEST_F(ChildMapSelTest, EnterInAnEmptyListOpensNothing)
+TEST_F(StudyAids, EnterInAnEmptyListOpensNothing)
 {
     List1().clear();
     EXPECT_FALSE(opensVerse([this] { QTest::keyClick(&List1(), Qt::Key_Return); }));
     EXPECT_FALSE(opensVerse([this] { QTest::keyClick(&List1(), Qt::Key_Space); }));
 }
 
-TEST_F(ChildMapSelTest, KeyThatMovesNothingSwallowsTheNextClickOnce)
+TEST_F(StudyAids, KeyThatMovesNothingSwallowsTheNextClickOnce)
 {
     pressIdleKey(&List1());
     EXPECT_FALSE(opensVerse([this] { clickEntry(List1(), 0); }));
     EXPECT_TRUE(opensVerse([this] { clickEntry(List1(), 0); }));
 }
 
-TEST_F(ChildMapSelTest, ArrowAtTheEndOfTheListSwallowsTheNextClickOnce)
+TEST_F(StudyAids, ArrowAtTheEndOfTheListSwallowsTheNextClickOnce)
 {
     QTest::keyClick(&List1(), Qt::Key_Down);
     QTest::keyClick(&List1(), Qt::Key_Up);
@@ -358,13 +358,13 @@ TEST_F(ChildMapSelTest, ArrowAtTheEndOfTheListSwallowsTheNextClickOnce)
     EXPECT_TRUE(opensVerse([this] { clickEntry(List1(), 0); }));
 }
 
-TEST_F(ChildMapSelTest, ArrowThatMovesUsesItsSwallowedClickUpItself)
+TEST_F(StudyAids, ArrowThatMovesUsesItsSwallowedClickUpItself)
 {
     QTest::keyClick(&List1(), Qt::Key_Down);
     EXPECT_TRUE(opensVerse([this] { clickEntry(List1(), 0); }));
 }
 
-TEST_F(ChildMapSelTest, ClickIsSwallowedInTheOtherListToo)
+TEST_F(StudyAids, ClickIsSwallowedInTheOtherListToo)
 {
     pressIdleKey(&List1());
     choosePage(1);
@@ -374,7 +374,7 @@ TEST_F(ChildMapSelTest, ClickIsSwallowedInTheOtherListToo)
     EXPECT_TRUE(open<ChildMapDsp>());
 }
 
-TEST_F(ChildMapSelTest, ClickIsSwallowedFromTheMapsToTheReferences)
+TEST_F(StudyAids, ClickIsSwallowedFromTheMapsToTheReferences)
 {
     choosePage(1);
     pressIdleKey(&lstMaps());
@@ -383,7 +383,7 @@ TEST_F(ChildMapSelTest, ClickIsSwallowedFromTheMapsToTheReferences)
     EXPECT_TRUE(opensVerse([this] { clickEntry(List1(), 0); }));
 }
 
-TEST_F(ChildMapSelTest, EnterOpensAfterAKeyThatMovedNothing)
+TEST_F(StudyAids, EnterOpensAfterAKeyThatMovedNothing)
 {
     QTest::keyClick(&List1(), Qt::Key_Down);
     pressIdleKey(&List1());
@@ -391,7 +391,7 @@ TEST_F(ChildMapSelTest, EnterOpensAfterAKeyThatMovedNothing)
     EXPECT_TRUE(opensVerse([this] { clickEntry(List1(), 0); })); // Enter left no swallowing behind
 }
 
-TEST_F(ChildMapSelTest, KeysMoveThroughTheMapsAndEnterOpensOne)
+TEST_F(StudyAids, KeysMoveThroughTheMapsAndEnterOpensOne)
 {
     choosePage(1);
     lstMaps().setFocus();
@@ -406,7 +406,7 @@ TEST_F(ChildMapSelTest, KeysMoveThroughTheMapsAndEnterOpensOne)
     EXPECT_EQ(DataMap().recordSource(), "SELECT * FROM NTMaps WHERE MapNumber = 11");
 }
 
-TEST_F(ChildMapSelTest, ClickOnTheLastMapOpensMapEleven)
+TEST_F(StudyAids, ClickOnTheLastMapOpensMapEleven)
 {
     ChildMapDsp& map = openMap(11);
     EXPECT_EQ(DataMap().recordSource(), "SELECT * FROM NTMaps WHERE MapNumber = 11");
@@ -414,7 +414,7 @@ TEST_F(ChildMapSelTest, ClickOnTheLastMapOpensMapEleven)
     EXPECT_EQ(activeForm(), &map);
 }
 
-TEST_F(ChildMapSelTest, TabsShowTheirFrames)
+TEST_F(StudyAids, TabsShowTheirFrames)
 {
     const auto shown = [this] {
         QList<bool> visible;
@@ -431,7 +431,7 @@ TEST_F(ChildMapSelTest, TabsShowTheirFrames)
     EXPECT_EQ(shown(), QList<bool>({true, true, false, false}));
 }
 
-TEST_F(ChildMapSelTest, TabsAreReachedByTheirAccessKeys)
+TEST_F(StudyAids, TabsAreReachedByTheirAccessKeys)
 {
     QTest::keyClick(aids, Qt::Key_M, Qt::AltModifier);
     EXPECT_EQ(TabStrip1().currentIndex(), 1);
@@ -441,7 +441,7 @@ TEST_F(ChildMapSelTest, TabsAreReachedByTheirAccessKeys)
     EXPECT_EQ(TabStrip1().currentIndex(), 0);
 }
 
-TEST_F(ChildMapSelTest, FramesAccessKeysGoToTheirFirstControl)
+TEST_F(StudyAids, FramesAccessKeysGoToTheirFirstControl)
 {
     QTest::keyClick(aids, Qt::Key_R, Qt::AltModifier);
     EXPECT_EQ(QApplication::focusWidget(), &Combo2());
@@ -452,7 +452,7 @@ TEST_F(ChildMapSelTest, FramesAccessKeysGoToTheirFirstControl)
     EXPECT_EQ(QApplication::focusWidget(), &lstMaps());
 }
 
-TEST_F(ChildMapSelTest, FocusStaysInTheWindowWhenItsPageIsHidden)
+TEST_F(StudyAids, FocusStaysInTheWindowWhenItsPageIsHidden)
 {
     QTest::keyClick(aids, Qt::Key_M, Qt::AltModifier);
     ASSERT_TRUE(QApplication::focusWidget());
@@ -461,7 +461,7 @@ TEST_F(ChildMapSelTest, FocusStaysInTheWindowWhenItsPageIsHidden)
     EXPECT_EQ(QApplication::focusWidget(), &lstMaps());
 }
 
-TEST_F(ChildMapSelTest, PictureAndButtonOpenTheMakersSite)
+TEST_F(StudyAids, PictureAndButtonOpenTheMakersSite)
 {
     choosePage(2);
     QTest::mouseClick(&webPicture(), Qt::LeftButton);
@@ -474,7 +474,7 @@ TEST_F(ChildMapSelTest, PictureAndButtonOpenTheMakersSite)
     EXPECT_TRUE(Maker::webSite.contains(".example/"));
 }
 
-TEST_F(ChildMapSelTest, StandsLeftOfTheMiddleInTheUpperPart)
+TEST_F(StudyAids, StandsLeftOfTheMiddleInTheUpperPart)
 {
     const QSize room = frame().area()->viewport()->size();
     const QRect place = outer(*aids).geometry();
@@ -484,7 +484,7 @@ TEST_F(ChildMapSelTest, StandsLeftOfTheMiddleInTheUpperPart)
     EXPECT_NEAR(place.y(), (room.height() - place.height()) / 4.0, 1);
 }
 
-TEST_F(ChildMapSelTest, DraggedBorderSnapsBack)
+TEST_F(StudyAids, DraggedBorderSnapsBack)
 {
     QMdiSubWindow* window = &outer(*aids);
     const QSize size = window->size();
@@ -495,7 +495,7 @@ TEST_F(ChildMapSelTest, DraggedBorderSnapsBack)
     EXPECT_EQ(window->size(), size);
 }
 
-TEST_F(ChildMapSelTest, DragOfTheLeftOrTopBorderIsUndoneInPlace)
+TEST_F(StudyAids, DragOfTheLeftOrTopBorderIsUndoneInPlace)
 {
     QMdiSubWindow& window = outer(*aids);
     const QRect place = window.geometry();
@@ -506,7 +506,7 @@ TEST_F(ChildMapSelTest, DragOfTheLeftOrTopBorderIsUndoneInPlace)
     }
 }
 
-TEST_F(ChildMapSelTest, OpensMaximisedBesideAMaximisedWindowAndComesBackToItsPlace)
+TEST_F(StudyAids, OpensMaximisedBesideAMaximisedWindowAndComesBackToItsPlace)
 {
     const QRect place = outer(*aids).geometry();
     closeWindow(*aids);
@@ -518,7 +518,7 @@ TEST_F(ChildMapSelTest, OpensMaximisedBesideAMaximisedWindowAndComesBackToItsPla
     EXPECT_EQ(outer(*aids).geometry(), place);
 }
 
-TEST_F(ChildMapSelTest, KeepsItsSizeThroughMinimisedAndMaximised)
+TEST_F(StudyAids, KeepsItsSizeThroughMinimisedAndMaximised)
 {
     const QSize size = outer(*aids).size();
     for (Form::WindowState state : {Form::Minimized, Form::Normal, Form::Maximized, Form::Normal}) {
@@ -532,7 +532,7 @@ TEST_F(ChildMapSelTest, KeepsItsSizeThroughMinimisedAndMaximised)
     }
 }
 
-TEST_F(ChildMapSelTest, MaximisedWindowFollowsTheFrame)
+TEST_F(StudyAids, MaximisedWindowFollowsTheFrame)
 {
     const QSize size = outer(*aids).size();
     aids->setState(Form::Maximized);
@@ -544,7 +544,7 @@ TEST_F(ChildMapSelTest, MaximisedWindowFollowsTheFrame)
     EXPECT_EQ(outer(*aids).size(), size);
 }
 
-TEST_F(ChildMapSelTest, OpeningItAgainOnlyBringsItForward)
+TEST_F(StudyAids, OpeningItAgainOnlyBringsItForward)
 {
     QTest::mouseClick(&optEvents(3), Qt::LeftButton, {}, {8, 8});
     choosePage(1);
@@ -557,12 +557,12 @@ TEST_F(ChildMapSelTest, OpeningItAgainOnlyBringsItForward)
     EXPECT_TRUE(optEvents(3).isChecked());
 }
 
-TEST_F(ChildMapSelTest, HasTheSharedMenusAlone)
+TEST_F(StudyAids, HasTheSharedMenusAlone)
 {
     EXPECT_EQ(menuBarCaptions(), QStringList({"&File", "&Search", "&Tools", "&Window", "&Help"}));
 }
 
-TEST_F(ChildMapSelTest, NothingIsCutOrOverlaps)
+TEST_F(StudyAids, NothingIsCutOrOverlaps)
 {
     for (int page = 0; page < 3; ++page) {
         choosePage(page);
@@ -572,14 +572,14 @@ TEST_F(ChildMapSelTest, NothingIsCutOrOverlaps)
     EXPECT_GE(Combo2().width(), Combo2().fontMetrics().horizontalAdvance(longest) + 40);
 }
 
-TEST_F(ChildMapSelTest, HasLinesOfSeventeenPixelsOrMore)
+TEST_F(StudyAids, HasLinesOfSeventeenPixelsOrMore)
 {
     EXPECT_GE(List1().visualRect(List1().model()->index(0, 0)).height(), 17);
     choosePage(1);
     EXPECT_GE(lstMaps().visualRect(lstMaps().model()->index(0, 0)).height(), 17);
 }
 
-TEST_F(ChildMapSelTest, ADropDownShowsTwelveRowsAtMostAndAScrollBar)
+TEST_F(StudyAids, ADropDownShowsTwelveRowsAtMostAndAScrollBar)
 {
     Combo2().showPopup();
     settle();
@@ -590,7 +590,7 @@ TEST_F(ChildMapSelTest, ADropDownShowsTwelveRowsAtMostAndAScrollBar)
     Combo2().hidePopup();
 }
 
-TEST_F(ChildMapSelTest, TellsAScreenReaderItsNames)
+TEST_F(StudyAids, TellsAScreenReaderItsNames)
 {
     const auto spoken = [](QWidget* widget) { return QAccessible::queryAccessibleInterface(widget); };
     EXPECT_EQ(spoken(&TabStrip1())->role(), QAccessible::PageTabList);
@@ -605,7 +605,7 @@ TEST_F(ChildMapSelTest, TellsAScreenReaderItsNames)
 }
 
 /// By an assistive program, which a modal window does not keep from the controls behind it.
-TEST_F(ChildMapSelTest, ATabBehindTheAboutWindowStaysAsItIs)
+TEST_F(StudyAids, ATabBehindTheAboutWindowStaysAsItIs)
 {
     QAccessibleInterface* maps = QAccessible::queryAccessibleInterface(&TabStrip1())->child(1);
     const auto pressMaps = [maps] {

@@ -94,3 +94,19 @@ TEST(Pictures, TheSplashHasItsSizeAtEveryDensity)
         EXPECT_EQ(splash.devicePixelRatio(), ratio);
     }
 }
+
+TEST(Pictures, StayTheSameInACopyOfTheirIcon)
+{
+    const QIcon icon = iconOf(PictureId::Search);
+    QIcon copy = icon;
+    copy.detach();
+    ASSERT_NE(copy.cacheKey(), 0);
+    EXPECT_EQ(copy.pixmap(24, 24).toImage(), icon.pixmap(24, 24).toImage());
+    EXPECT_NE(copy.pixmap(24, 24).toImage(), iconOf(PictureId::Help).pixmap(24, 24).toImage());
+}
+
+TEST(FocusRing, IsBlackOrWhiteOnAFaceThatNeitherBlueIsSeenOn)
+{
+    EXPECT_EQ(focusRingColor(QColor(0x6f6f6f)), QColor(Qt::white));
+    EXPECT_EQ(focusRingColor(QColor(0x808080)), QColor(Qt::black));
+}

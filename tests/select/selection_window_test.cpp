@@ -747,3 +747,11 @@ TEST_F(Selection, AnAssistiveProgramChoosesAndScrollsNothingBehindAMessage)
     EXPECT_NE(tree().selectedItems(), QList{chosen});
     EXPECT_GT(bar.value(), 0);
 }
+
+TEST_F(Selection, TheListOfBooksOpensWithoutAChoiceForAnEmptyReference)
+{
+    type("");
+    combo().showPopup();
+    EXPECT_FALSE(combo().view()->currentIndex().isValid());
+    combo().hidePopup();
+}

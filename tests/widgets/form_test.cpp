@@ -46,7 +46,20 @@ protected:
     }
 };
 
-class FormTest : public Session
+/// A window that takes every event of its life as it comes.
+class Quiet : public Form
+{
+public:
+    explicit Quiet(Shell& shell)
+        : Form(shell, "Quiet")
+        , field(new QLineEdit(this))
+    {
+    }
+
+    QLineEdit* field;
+};
+
+class ChildWindow : public Session
 {
 protected:
     void SetUp() override
@@ -62,14 +75,14 @@ protected:
 
 } // namespace
 
-TEST_F(FormTest, LoadsBeforeItIsSizedAndActivated)
+TEST_F(ChildWindow, LoadsBeforeItIsSizedAndActivated)
 {
     EXPECT_EQ(diary->events.first(), "Load");
     EXPECT_TRUE(diary->events.contains("Activate"));
     EXPECT_EQ(diary->events.count("Activate"), 1);
 }
 
-TEST_F(FormTest, GivesTheFocusToTheFirstControlThenToTheOneThatHadItLast)
+TEST_F(ChildWindow, GivesTheFocusToTheFirstControlThenToTheOneThatHadItLast)
 {
     EXPECT_TRUE(diary->first->hasFocus());
     diary->second->setFocus();
@@ -78,7 +91,7 @@ TEST_F(FormTest, GivesTheFocusToTheFirstControlThenToTheOneThatHadItLast)
     EXPECT_TRUE(diary->second->hasFocus());
 }
 
-TEST_F(FormTest, TellsWhenAnotherWindowBecomesActive)
+TEST_F(ChildWindow, TellsWhenAnotherWindowBecomesActive)
 {
     diary->events.clear();
     frame().openSelection();
@@ -87,7 +100,7 @@ TEST_F(FormTest, TellsWhenAnotherWindowBecomesActive)
     EXPECT_EQ(diary->events, QStringList({"Deactivate", "Activate"}));
 }
 
-TEST_F(FormTest, PreviewsEachKeyOnceAndPassesItOn)
+TEST_F(ChildWindow, PreviewsEachKeyOnceAndPassesItOn)
 {
     diary->events.clear();
     QTest::keyClicks(diary->first, "a");
@@ -99,14 +112,14 @@ TEST_F(FormTest, PreviewsEachKeyOnceAndPassesItOn)
     EXPECT_EQ(diary->events.size(), 1);
 }
 
-TEST_F(FormTest, KeepsASwallowedKeyFromTheControl)
+TEST_F(ChildWindow, KeepsASwallowedKeyFromTheControl)
 {
     diary->swallow = true;
     QTest::keyClicks(diary->first, "x");
     EXPECT_EQ(diary->first->text(), "");
 }
 
-TEST_F(FormTest, DoesNotSeeTheKeysOfOtherWindows)
+TEST_F(ChildWindow, DoesNotSeeTheKeysOfOtherWindows)
 {
     frame().openSelection();
     diary->events.clear();
@@ -114,7 +127,7 @@ TEST_F(FormTest, DoesNotSeeTheKeysOfOtherWindows)
     EXPECT_TRUE(diary->events.isEmpty());
 }
 
-TEST_F(FormTest, MeasuresItsOuterAndInnerSizeInTwips)
+TEST_F(ChildWindow, MeasuresItsOuterAndInnerSizeInTwips)
 {
     diary->setOuterSize(6000, 4500);
     EXPECT_EQ(diary->outerWidth(), 6000);
@@ -125,7 +138,7 @@ TEST_F(FormTest, MeasuresItsOuterAndInnerSizeInTwips)
     EXPECT_EQ(outer(*diary).pos(), QPoint(10, 20));
 }
 
-TEST_F(FormTest, IgnoresSizesUnlessItIsInTheNormalState)
+TEST_F(ChildWindow, IgnoresSizesUnlessItIsInTheNormalState)
 {
     diary->setState(Form::Maximized);
     const QSize before = outer(*diary).size();
@@ -138,7 +151,7 @@ TEST_F(FormTest, IgnoresSizesUnlessItIsInTheNormalState)
     EXPECT_EQ(diary->state(), Form::Minimized);
 }
 
-TEST_F(FormTest, ReportsEveryChangeOfState)
+TEST_F(ChildWindow, ReportsEveryChangeOfState)
 {
     for (const Form::WindowState state : {Form::Maximized, Form::Normal, Form::Minimized, Form::Normal}) {
         diary->events.clear();
@@ -148,7 +161,7 @@ TEST_F(FormTest, ReportsEveryChangeOfState)
     }
 }
 
-TEST_F(FormTest, RestoreAndActivateLeavesAMaximisedWindowMaximised)
+TEST_F(ChildWindow, RestoreAndActivateLeavesAMaximisedWindowMaximised)
 {
     diary->setState(Form::Maximized);
     diary->restoreAndActivate();
@@ -158,7 +171,7 @@ TEST_F(FormTest, RestoreAndActivateLeavesAMaximisedWindowMaximised)
     EXPECT_NE(diary->state(), Form::Minimized);
 }
 
-TEST_F(FormTest, IsOnTheScreenButNotActiveUntilItIsActivated)
+TEST_F(ChildWindow, IsOnTheScreenButNotActiveUntilItIsActivated)
 {
     auto* other = new Diary(frame());
     diary->events.clear();
@@ -176,7 +189,7 @@ TEST_F(FormTest, IsOnTheScreenButNotActiveUntilItIsActivated)
     EXPECT_EQ(other->events.count("Activate"), 1);
 }
 
-TEST_F(FormTest, OpensMaximisedWhileAnotherIs)
+TEST_F(ChildWindow, OpensMaximisedWhileAnotherIs)
 {
     diary->setState(Form::Maximized);
     auto* other = new Diary(frame());
@@ -189,7 +202,7 @@ TEST_F(FormTest, OpensMaximisedWhileAnotherIs)
     EXPECT_TRUE(other->isAncestorOf(QApplication::focusWidget()));
 }
 
-TEST_F(FormTest, AMinimisedWindowComesBackWhileAnotherIsMaximised)
+TEST_F(ChildWindow, AMinimisedWindowComesBackWhileAnotherIsMaximised)
 {
     auto* other = new Diary(frame());
     other->loadInto(*frame().area());
@@ -204,7 +217,7 @@ TEST_F(FormTest, AMinimisedWindowComesBackWhileAnotherIsMaximised)
     EXPECT_TRUE(other->first->isVisible());
 }
 
-TEST_F(FormTest, AFirstClickIntoAControlLeavesTheFocusThere)
+TEST_F(ChildWindow, AFirstClickIntoAControlLeavesTheFocusThere)
 {
     frame().openSelection();
     QTest::mouseClick(diary->second, Qt::LeftButton);
@@ -212,7 +225,7 @@ TEST_F(FormTest, AFirstClickIntoAControlLeavesTheFocusThere)
     EXPECT_TRUE(diary->second->hasFocus());
 }
 
-TEST_F(FormTest, ClosingUnloadsItOnceAndDeletesIt)
+TEST_F(ChildWindow, ClosingUnloadsItOnceAndDeletesIt)
 {
     QStringList seen;
     QObject::connect(diary, &Form::unloaded, [&] { seen = diary->events; });
@@ -223,8 +236,46 @@ TEST_F(FormTest, ClosingUnloadsItOnceAndDeletesIt)
     EXPECT_TRUE(diary.isNull());
 }
 
-TEST_F(FormTest, ItsCaptionStandsOnTheTitleBar)
+TEST_F(ChildWindow, ItsCaptionStandsOnTheTitleBar)
 {
     diary->setCaption("A caption");
     EXPECT_EQ(outer(*diary).windowTitle(), "A caption");
+}
+
+TEST_F(ChildWindow, BeforeItIsLoadedItHasNoPlaceAndNothingMovesIt)
+{
+    Diary fresh(frame());
+    fresh.resize(20, 10);
+    fresh.setState(Form::Maximized);
+    fresh.setOuterSize(6000, 4500);
+    fresh.setOuterPosition(150, 300);
+    fresh.activate();
+    fresh.becomeCurrent();
+    fresh.unload();
+    EXPECT_EQ(fresh.state(), Form::Normal);
+    EXPECT_FALSE(fresh.isVisible());
+    EXPECT_EQ(fresh.outerWidth(), 0);
+    EXPECT_EQ(fresh.outerHeight(), 0);
+    EXPECT_EQ(fresh.pos(), QPoint());
+    EXPECT_EQ(fresh.innerSize(), QSize(20, 10) * twipsPerPixel);
+    EXPECT_EQ(fresh.frameInnerSize(), QSize());
+    EXPECT_EQ(fresh.events, QStringList());
+    EXPECT_EQ(activeForm(), diary);
+}
+
+TEST_F(ChildWindow, ThatAddsNothingToItsLifeLivesAsWell)
+{
+    QPointer<Quiet> quiet = new Quiet(frame());
+    quiet->loadInto(*frame().area());
+    quiet->activate();
+    EXPECT_EQ(activeForm(), quiet);
+    outer(*quiet).resize(300, 200);
+    QTest::keyClicks(quiet->field, "a");
+    EXPECT_EQ(quiet->field->text(), "a");
+    diary->activate();
+    EXPECT_FALSE(quiet->isActive());
+    quiet->unload();
+    settle();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(quiet.isNull());
 }

@@ -2,14 +2,17 @@
 #include "support/ActiveWindow.h"
 #include "widgets/ListBox.h"
 #include "widgets/ListLines.h"
+#include "widgets/TypeAhead.h"
 #include <gtest/gtest.h>
 #include <QApplication>
 #include <QClipboard>
+#include <QHelpEvent>
 #include <QTest>
+#include <QToolTip>
 
 namespace {
 
-class ListBoxTest : public testing::Test
+class Lines : public testing::Test
 {
 protected:
     void SetUp() override
@@ -60,7 +63,7 @@ protected:
 
 } // namespace
 
-TEST_F(ListBoxTest, CountsAPressAndAReleaseAsOneClickOnTheSelectedLine)
+TEST_F(Lines, CountsAPressAndAReleaseAsOneClickOnTheSelectedLine)
 {
     press(pointOf(2));
     EXPECT_EQ(list.selected(), 2);
@@ -69,14 +72,14 @@ TEST_F(ListBoxTest, CountsAPressAndAReleaseAsOneClickOnTheSelectedLine)
     EXPECT_EQ(clicks, QList<int>({2}));
 }
 
-TEST_F(ListBoxTest, CountsAClickOnTheSelectedLineAgain)
+TEST_F(Lines, CountsAClickOnTheSelectedLineAgain)
 {
     click(pointOf(2));
     click(pointOf(2));
     EXPECT_EQ(clicks, QList<int>({2, 2}));
 }
 
-TEST_F(ListBoxTest, CountsEachClickOfADoubleClick)
+TEST_F(Lines, CountsEachClickOfADoubleClick)
 {
     click(pointOf(1));
     send(QEvent::MouseButtonDblClick, pointOf(1), Qt::LeftButton, Qt::LeftButton);
@@ -84,7 +87,7 @@ TEST_F(ListBoxTest, CountsEachClickOfADoubleClick)
     EXPECT_EQ(clicks, QList<int>({1, 1}));
 }
 
-TEST_F(ListBoxTest, CountsADoubleClickOverTwoLinesOnEachOfThem)
+TEST_F(Lines, CountsADoubleClickOverTwoLinesOnEachOfThem)
 {
     click(pointOf(1));
     send(QEvent::MouseButtonDblClick, pointOf(2), Qt::LeftButton, Qt::LeftButton);
@@ -92,7 +95,7 @@ TEST_F(ListBoxTest, CountsADoubleClickOverTwoLinesOnEachOfThem)
     EXPECT_EQ(clicks, QList<int>({1, 2}));
 }
 
-TEST_F(ListBoxTest, ClicksTheSameWhateverModifierIsHeld)
+TEST_F(Lines, ClicksTheSameWhateverModifierIsHeld)
 {
     for (const auto modifiers :
          {Qt::KeyboardModifiers(Qt::ControlModifier), Qt::KeyboardModifiers(Qt::ShiftModifier),
@@ -105,7 +108,7 @@ TEST_F(ListBoxTest, ClicksTheSameWhateverModifierIsHeld)
     }
 }
 
-TEST_F(ListBoxTest, ClicksTheLineThatADragEndsOn)
+TEST_F(Lines, ClicksTheLineThatADragEndsOn)
 {
     press(pointOf(0));
     moveTo(pointOf(2));
@@ -115,7 +118,7 @@ TEST_F(ListBoxTest, ClicksTheLineThatADragEndsOn)
     EXPECT_EQ(clicks, QList<int>({3}));
 }
 
-TEST_F(ListBoxTest, ClicksTheSelectedLineBesideTheLinesToo)
+TEST_F(Lines, ClicksTheSelectedLineBesideTheLinesToo)
 {
     click(pointBelow());
     EXPECT_TRUE(clicks.isEmpty()) << "none is selected";
@@ -125,7 +128,7 @@ TEST_F(ListBoxTest, ClicksTheSelectedLineBesideTheLinesToo)
     EXPECT_EQ(clicks, QList<int>({1, 1}));
 }
 
-TEST_F(ListBoxTest, IsNotClickedWhenTheButtonGoesUpOutsideOrWentDownThere)
+TEST_F(Lines, IsNotClickedWhenTheButtonGoesUpOutsideOrWentDownThere)
 {
     press(pointOf(1));
     release({20, -30});
@@ -134,7 +137,7 @@ TEST_F(ListBoxTest, IsNotClickedWhenTheButtonGoesUpOutsideOrWentDownThere)
     EXPECT_TRUE(clicks.isEmpty());
 }
 
-TEST_F(ListBoxTest, DoesNothingForOtherButtons)
+TEST_F(Lines, DoesNothingForOtherButtons)
 {
     click(pointOf(1));
     clicks.clear();
@@ -148,7 +151,7 @@ TEST_F(ListBoxTest, DoesNothingForOtherButtons)
     EXPECT_TRUE(clicks.isEmpty());
 }
 
-TEST_F(ListBoxTest, KeepsAClickOfTheLeftButtonWhileAnotherGoesDownAndUp)
+TEST_F(Lines, KeepsAClickOfTheLeftButtonWhileAnotherGoesDownAndUp)
 {
     press(pointOf(1));
     send(QEvent::MouseButtonPress, pointOf(1), Qt::RightButton, Qt::LeftButton | Qt::RightButton);
@@ -158,7 +161,7 @@ TEST_F(ListBoxTest, KeepsAClickOfTheLeftButtonWhileAnotherGoesDownAndUp)
     EXPECT_EQ(clicks, QList<int>({1}));
 }
 
-TEST_F(ListBoxTest, TellsOfAKeyThenOfTheMoveThenOfTheChoice)
+TEST_F(Lines, TellsOfAKeyThenOfTheMoveThenOfTheChoice)
 {
     QStringList told;
     QObject::connect(&list, &ListBox::keyDown, [&] { told << QString("key on %1").arg(list.selected()); });
@@ -173,14 +176,14 @@ TEST_F(ListBoxTest, TellsOfAKeyThenOfTheMoveThenOfTheChoice)
                                  "key on 1"}));
 }
 
-TEST_F(ListBoxTest, MovesWithCtrlAsWithoutIt)
+TEST_F(Lines, MovesWithCtrlAsWithoutIt)
 {
     QTest::keyClick(&list, Qt::Key_Down, Qt::ControlModifier);
     QTest::keyClick(&list, Qt::Key_Down, Qt::ControlModifier);
     EXPECT_EQ(list.selected(), 1);
 }
 
-TEST_F(ListBoxTest, SelectsTheFirstLineByAKeyAfterItsLinesWereReplaced)
+TEST_F(Lines, SelectsTheFirstLineByAKeyAfterItsLinesWereReplaced)
 {
     QTest::keyClick(&list, Qt::Key_End);
     setLines(3);
@@ -188,7 +191,7 @@ TEST_F(ListBoxTest, SelectsTheFirstLineByAKeyAfterItsLinesWereReplaced)
     EXPECT_EQ(list.selected(), 0);
 }
 
-TEST_F(ListBoxTest, StaysEmptyWithoutLines)
+TEST_F(Lines, StaysEmptyWithoutLines)
 {
     list.clear();
     for (Qt::Key key : {Qt::Key_Down, Qt::Key_Home, Qt::Key_End, Qt::Key_PageUp})
@@ -199,10 +202,41 @@ TEST_F(ListBoxTest, StaysEmptyWithoutLines)
     EXPECT_TRUE(clicks.isEmpty());
 }
 
-TEST_F(ListBoxTest, DoesNotCopyItsLine)
+TEST_F(Lines, DoesNotCopyItsLine)
 {
     QApplication::clipboard()->setText("before");
     QTest::keyClick(&list, Qt::Key_Down);
     QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text(), "before");
+}
+
+TEST_F(Lines, ShowsATipOnlyWhereItHasOne)
+{
+    const auto ask = [this] {
+        QHelpEvent help(QEvent::ToolTip, pointOf(2), list.viewport()->mapToGlobal(pointOf(2)));
+        QApplication::sendEvent(list.viewport(), &help);
+        return QToolTip::text();
+    };
+    EXPECT_EQ(ask(), "");
+    list.setToolTip("a < b");
+    EXPECT_EQ(ask(), "<p>a &lt; b</p>");
+    QToolTip::hideText();
+}
+
+TEST_F(Lines, HasItsLinesAtOneLevel)
+{
+    EXPECT_EQ(list.model()->rowCount(), 5);
+    EXPECT_EQ(list.model()->rowCount(list.model()->index(2, 0)), 0);
+    EXPECT_FALSE(list.model()->data({}).isValid());
+    EXPECT_FALSE(list.model()->data(list.model()->index(2, 0), Qt::DecorationRole).isValid());
+    EXPECT_EQ(list.text(2), "line 2");
+    EXPECT_EQ(list.text(5), "");
+}
+
+TEST_F(Lines, GoesToTheLineThatIsTyped)
+{
+    const QModelIndex first = list.model()->index(0, 0);
+    EXPECT_EQ(rowOfTyped(first, "line 3"), QModelIndexList({list.model()->index(3, 0)}));
+    EXPECT_EQ(rowOfTyped(first, "nowhere"), QModelIndexList());
+    EXPECT_EQ(rowOfTyped({}, "line 3"), QModelIndexList()) << "from no line at all";
 }

@@ -9,10 +9,10 @@
 #include <QTest>
 
 namespace {
-class SoftBttnTest : public testing::Test
+class PictureButton : public testing::Test
 {
 protected:
-    SoftBttnTest()
+    PictureButton()
     {
         window.resize(200, 100);
         button.setGeometry(10, 10, 24, 24);
@@ -48,20 +48,20 @@ int count(const QImage& image, const QColor& color)
 }
 } // namespace
 
-TEST_F(SoftBttnTest, AMouseClickClicks)
+TEST_F(PictureButton, AMouseClickClicks)
 {
     QTest::mouseClick(&button, Qt::LeftButton);
     EXPECT_EQ(clicks.count(), 1);
 }
 
-TEST_F(SoftBttnTest, SpaceClicks)
+TEST_F(PictureButton, SpaceClicks)
 {
     button.setFocus();
     QTest::keyClick(&button, Qt::Key_Space);
     EXPECT_EQ(clicks.count(), 1);
 }
 
-TEST_F(SoftBttnTest, EnterIsLeftToTheWindow)
+TEST_F(PictureButton, EnterIsLeftToTheWindow)
 {
     for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
         QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
@@ -74,7 +74,7 @@ TEST_F(SoftBttnTest, EnterIsLeftToTheWindow)
     EXPECT_EQ(clicks.count(), 0);
 }
 
-TEST_F(SoftBttnTest, ADisabledButtonDoesNotClick)
+TEST_F(PictureButton, ADisabledButtonDoesNotClick)
 {
     button.setEnabled(false);
     QTest::mouseClick(&button, Qt::LeftButton);
@@ -82,7 +82,7 @@ TEST_F(SoftBttnTest, ADisabledButtonDoesNotClick)
     EXPECT_EQ(clicks.count(), 0);
 }
 
-TEST_F(SoftBttnTest, TabAndMouseGiveItTheFocus)
+TEST_F(PictureButton, TabAndMouseGiveItTheFocus)
 {
     button.setFocus();
     QTest::keyClick(&button, Qt::Key_Tab);
@@ -91,7 +91,7 @@ TEST_F(SoftBttnTest, TabAndMouseGiveItTheFocus)
     EXPECT_TRUE(button.hasFocus());
 }
 
-TEST_F(SoftBttnTest, IsAPushButtonNamedByItsToolTip)
+TEST_F(PictureButton, IsAPushButtonNamedByItsToolTip)
 {
     QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&button);
     ASSERT_NE(spoken, nullptr);
@@ -104,7 +104,7 @@ TEST_F(SoftBttnTest, IsAPushButtonNamedByItsToolTip)
     EXPECT_EQ(button.toolTip(), "Notepad");
 }
 
-TEST_F(SoftBttnTest, AScreenReaderSeesStatesAndCanPress)
+TEST_F(PictureButton, AScreenReaderSeesStatesAndCanPress)
 {
     QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&button);
     ASSERT_NE(spoken, nullptr);
@@ -118,7 +118,7 @@ TEST_F(SoftBttnTest, AScreenReaderSeesStatesAndCanPress)
     EXPECT_TRUE(spoken->state().invisible);
 }
 
-TEST_F(SoftBttnTest, TheFaceIsThePalettesUntilAColourIsSet)
+TEST_F(PictureButton, TheFaceIsThePalettesUntilAColourIsSet)
 {
     QPalette palette;
     palette.setColor(QPalette::Button, QColor(10, 200, 30));
@@ -129,7 +129,7 @@ TEST_F(SoftBttnTest, TheFaceIsThePalettesUntilAColourIsSet)
     EXPECT_GT(count(shot(), QColor(200, 220, 240)), 100);
 }
 
-TEST_F(SoftBttnTest, MaskColourLetsTheFaceThroughOnlyWhenUsed)
+TEST_F(PictureButton, MaskColourLetsTheFaceThroughOnlyWhenUsed)
 {
     QPixmap pixmap(24, 24);
     pixmap.fill(Qt::green);
@@ -143,7 +143,7 @@ TEST_F(SoftBttnTest, MaskColourLetsTheFaceThroughOnlyWhenUsed)
     EXPECT_EQ(shot().pixelColor(6, 6), QColor(Qt::blue));
 }
 
-TEST_F(SoftBttnTest, PressedIsSunkenWithThePictureOnePixelOff)
+TEST_F(PictureButton, PressedIsSunkenWithThePictureOnePixelOff)
 {
     QPixmap pixmap(24, 24);
     pixmap.fill(Qt::transparent);
@@ -160,7 +160,7 @@ TEST_F(SoftBttnTest, PressedIsSunkenWithThePictureOnePixelOff)
     EXPECT_LT(down.pixelColor(18, 18).lightness(), up.pixelColor(18, 18).lightness());
 }
 
-TEST_F(SoftBttnTest, TheFocusRingStandsOutOnLightAndDark)
+TEST_F(PictureButton, TheFocusRingStandsOutOnLightAndDark)
 {
     for (const QColor& face : {QColor(0xefefef), QColor(0xffffe0), QColor(0x2b2f33), QColor(0x808080)}) {
         button.setBackColor(face);
@@ -172,7 +172,7 @@ TEST_F(SoftBttnTest, TheFocusRingStandsOutOnLightAndDark)
     }
 }
 
-TEST_F(SoftBttnTest, HoverAndDisabledLookDifferent)
+TEST_F(PictureButton, HoverAndDisabledLookDifferent)
 {
     const QImage normal = shot();
     button.setAttribute(Qt::WA_UnderMouse);
@@ -182,7 +182,7 @@ TEST_F(SoftBttnTest, HoverAndDisabledLookDifferent)
     EXPECT_EQ(count(shot(), pictureColors(button.backColor()).line), 0) << "a disabled picture is grey";
 }
 
-TEST_F(SoftBttnTest, IsSharpAtTwiceTheDensity)
+TEST_F(PictureButton, IsSharpAtTwiceTheDensity)
 {
     QImage dense(button.size() * 2, QImage::Format_ARGB32);
     dense.setDevicePixelRatio(2);
@@ -198,7 +198,7 @@ TEST_F(SoftBttnTest, IsSharpAtTwiceTheDensity)
     EXPECT_GT(different, 100);
 }
 
-TEST_F(SoftBttnTest, AClickBeepsOnlyWithPlaySounds)
+TEST_F(PictureButton, AClickBeepsOnlyWithPlaySounds)
 {
     RecordedServices services;
     QTest::mouseClick(&button, Qt::LeftButton);
@@ -206,4 +206,41 @@ TEST_F(SoftBttnTest, AClickBeepsOnlyWithPlaySounds)
     button.setProperty("playsounds", true);
     QTest::mouseClick(&button, Qt::LeftButton);
     EXPECT_EQ(services.beeps, 1);
+}
+
+TEST_F(PictureButton, TellsItsPropertiesByTheirNames)
+{
+    QPixmap pixmap(24, 24);
+    pixmap.fill(Qt::blue);
+    button.setProperty("picture", QIcon(pixmap));
+    EXPECT_EQ(qvariant_cast<QIcon>(button.property("picture")).cacheKey(), button.picture().cacheKey());
+    EXPECT_EQ(shot().pixelColor(12, 12), QColor(Qt::blue));
+    EXPECT_EQ(button.property("maskcolor"), QColor(Qt::magenta)) << "until another is set";
+    EXPECT_EQ(button.property("usemaskcolor"), false);
+    EXPECT_EQ(button.property("playsounds"), false);
+    button.setProperty("maskcolor", QColor(Qt::blue));
+    button.setProperty("usemaskcolor", true);
+    button.setProperty("playsounds", true);
+    button.setProperty("backcolor", QColor(Qt::yellow));
+    EXPECT_EQ(button.property("maskcolor"), QColor(Qt::blue));
+    EXPECT_EQ(button.property("usemaskcolor"), true);
+    EXPECT_EQ(button.property("playsounds"), true);
+    EXPECT_EQ(button.property("backcolor"), QColor(Qt::yellow));
+    EXPECT_EQ(button.property("tooltiptext"), "Search");
+    EXPECT_EQ(shot().pixelColor(12, 12), QColor(Qt::yellow));
+}
+
+TEST_F(PictureButton, AsksForTheSizeOfAToolbarsButton)
+{
+    EXPECT_EQ(button.sizeHint(), QSize(24, 24));
+}
+
+TEST_F(PictureButton, IsLighterUnderThePointerOnADarkDesktopToo)
+{
+    button.setBackColor(QColor(0x2b2f33));
+    const int resting = shot().pixelColor(3, 12).lightness();
+    button.setAttribute(Qt::WA_UnderMouse);
+    EXPECT_GT(shot().pixelColor(3, 12).lightness(), resting);
+    button.setDown(true);
+    EXPECT_LT(shot().pixelColor(3, 12).lightness(), resting);
 }
