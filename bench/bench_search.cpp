@@ -9,6 +9,7 @@
 #include "app/Program.h"
 #include "desktop/MsgBox.h"
 #include "search/frmAdvSearch.h"
+#include "support/ActiveWindow.h"
 #include "widgets/SoftBttn.h"
 #include <benchmark/benchmark.h>
 #include <QCheckBox>
@@ -121,7 +122,7 @@ int main(int argc, char** argv)
     });
     Program program(QFileInfo(qEnvironmentVariable("KESTREL_DATABASE", "KESTRPT.DAT")).absolutePath());
     program.showFrame();
-    QApplication::setActiveWindow(program.frame());
+    makeActive(program.frame());
     program.frame()->openSearch();
     settle();
     registerAll();

@@ -1,6 +1,7 @@
 // What the style draws itself must be seen, on light and on dark desktops.
 #include "app/FrameStyle.h"
 #include "pictures/Colors.h"
+#include "support/ActiveWindow.h"
 #include <gtest/gtest.h>
 #include <QApplication>
 #include <QCommonStyle>
@@ -270,7 +271,7 @@ TEST(Selections, AreDarkBlueAndPalerWithoutTheFocusAndCanBeReadInBoth)
     rows.addWidget(&list);
     rows.addWidget(&other);
     window.show();
-    QApplication::setActiveWindow(&window);
+    makeActive(&window);
     const auto colours = [&] {
         const QRect row = list.visualItemRect(list.item(0));
         const QImage image = list.viewport()->grab().toImage();

@@ -99,7 +99,7 @@ TEST(MsgBox, StandsBesideWhatItAnnouncesWhereThereIsRoom)
     const QRect screen = window.screen()->availableGeometry();
     window.setGeometry(screen);
     window.show();
-    QApplication::setActiveWindow(&window);
+    makeActive(&window);
     const QPoint middle = screen.center();
     for (const QRect& rows :
          {QRect(middle - QPoint(300, 250), QSize(600, 300)), QRect(middle - QPoint(300, 50), QSize(600, 440)),
