@@ -40,7 +40,7 @@ def profile():
 def exported(merged):
     programs = sorted(path for path in (BUILD / "tests").glob("test_*") if path.is_file() and os.access(path, os.X_OK))
     objects = [word for program in programs[1:] for word in ("-object", program)]
-    command = ["llvm-cov", "export", f"-instr-profile={merged}", f"-compilation-dir={BUILD}", programs[0], *objects, TOP / "src"]
+    command = ["llvm-cov", "export", f"-instr-profile={merged}", f"-compilation-dir={BUILD}", programs[0], *objects]
     return json.loads(subprocess.run([str(part) for part in command], capture_output=True, check=True).stdout)
 
 
