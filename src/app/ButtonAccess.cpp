@@ -40,9 +40,7 @@ public:
         // Its own text goes before the title of a group box around it, which QAccessibleWidget would give.
         if (kind == QAccessible::Name && m_button.accessibleName().isEmpty() && !m_button.text().isEmpty())
             return withoutMnemonic(m_button.text());
-        const QString own = QAccessibleWidget::text(kind);
-        // The tooltip is the name already; said twice, it takes the listener's time.
-        return kind == QAccessible::Description && own == text(QAccessible::Name) ? QString() : own;
+        return kind == QAccessible::Description ? description() : QAccessibleWidget::text(kind);
     }
 
     QAccessible::State state() const override
@@ -84,6 +82,17 @@ public:
     }
 
 private:
+    /// The tooltip, where it says more than the name does: said twice, that takes the listener's time. A
+    /// link's says where it leads, as its name does.
+    QString description() const
+    {
+        const QString own = QAccessibleWidget::text(QAccessible::Description);
+        const QString name = text(QAccessible::Name);
+        if (qobject_cast<const LinkLabel*>(&m_button))
+            return {};
+        return own.startsWith(name) ? own.mid(name.size()).trimmed() : own;
+    }
+
     QAbstractButton& m_button;
 };
 

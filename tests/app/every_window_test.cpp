@@ -71,7 +71,7 @@ TEST_P(EveryWindow, RepeatsNoNameAsADescription)
             QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(control);
             if (!spoken || spoken->text(QAccessible::Name).isEmpty())
                 continue;
-            EXPECT_NE(spoken->text(QAccessible::Description), spoken->text(QAccessible::Name))
+            EXPECT_FALSE(spoken->text(QAccessible::Description).contains(spoken->text(QAccessible::Name)))
                 << control->objectName().toStdString();
         }
     });

@@ -85,6 +85,12 @@ TEST_F(SpokenButton, NeverTellsItsNameTwice)
     EXPECT_EQ(description(button), "");
     button.setToolTip("Looks through every verse");
     EXPECT_EQ(description(button), "Looks through every verse");
+    button.setToolTip("Find (Ctrl+F)");
+    EXPECT_EQ(description(button), "(Ctrl+F)");
+    LinkLabel link("Image2", iconOf(PictureId::Mail), &window);
+    link.setAccessibleName("E-mail: mail@example");
+    link.setToolTip("mailto:mail@example");
+    EXPECT_EQ(description(link), "");
 }
 
 TEST_F(SpokenButton, TellsWhetherItIsTheDefaultOneDownOrChecked)

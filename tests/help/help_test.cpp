@@ -11,6 +11,7 @@
 #include "widgets/Maker.h"
 #include "widgets/SoftBttn.h"
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QDir>
@@ -22,6 +23,7 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QToolButton>
 #include <QWindow>
 
 namespace {
@@ -572,6 +574,17 @@ TEST_F(HelpAndMenus, AgreeInEveryWindow)
         opener();
         if (activeForm())
             expectKeysListed(activeForm()->objectName());
+    }
+}
+
+TEST_F(HelpSession, RepeatsNoNameOfAButtonAsADescription)
+{
+    HelpWindow& window = openHelp("Welcome");
+    for (const char* name : {"back", "forward", "larger", "otherLanguage"}) {
+        QAccessibleInterface* spoken =
+            QAccessible::queryAccessibleInterface(&control<QToolButton>(window, name));
+        const QString description = spoken->text(QAccessible::Description);
+        EXPECT_TRUE(description.startsWith('(')) << "only its keys, not " << description.toStdString();
     }
 }
 
