@@ -234,6 +234,16 @@ void FrameStyle::drawControl(ControlElement element, const QStyleOption* option,
     QProxyStyle::drawControl(element, &resting, painter, widget);
 }
 
+// QFontMetrics measures the two ends apart. Joined they may be wider, and Fusion would leave out the end
+// after all.
+QString captionForRoom(const QString& caption, const QFontMetrics& letters, int room)
+{
+    QString shown = letters.elidedText(caption, Qt::ElideMiddle, room);
+    for (int less = room; less > 0 && letters.elidedText(shown, Qt::ElideRight, room) != shown; --less)
+        shown = letters.elidedText(caption, Qt::ElideMiddle, less);
+    return shown;
+}
+
 // Fusion caches the pixmaps of combo boxes and of scroll bars' arrows by QPalette::cacheKey() and never frees
 // the keys. Each new window's palettes have new keys although their colours are the same, so that the memory
 // would grow with each window opened: Fusion is handed a palette whose key it knows already.
@@ -276,7 +286,7 @@ void FrameStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     if (widget) {                   // QMdiSubWindow leaves out the end, where the reference stands
         constexpr int margins = 14; // that Fusion leaves beside the text
         const int room = subControlRect(control, bar, SC_TitleBarLabel, widget).width() - margins;
-        rest.text = painter->fontMetrics().elidedText(widget->windowTitle(), Qt::ElideMiddle, room);
+        rest.text = captionForRoom(widget->windowTitle(), painter->fontMetrics(), room);
     }
     for (const TitleButton& button : titleButtons)
         rest.subControls &= ~button.control;

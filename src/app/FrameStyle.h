@@ -1,8 +1,13 @@
 #pragma once
 
+#include <QFontMetrics>
 #include <QList>
 #include <QPalette>
 #include <QProxyStyle>
+
+/// A caption with its middle left out where it is wider than the room, in pixels: the reference stands at its
+/// end.
+QString captionForRoom(const QString& caption, const QFontMetrics& letters, int room);
 
 /// The one style of all windows, on every desktop: the windows' sizes count their title bars and borders in.
 class FrameStyle : public QProxyStyle

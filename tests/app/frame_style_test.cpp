@@ -154,6 +154,21 @@ TEST(TitleBar, KeepsBothEndsOfACaptionThatIsTooLong)
     EXPECT_EQ(titleBar({}, "Map -- a long way a l...", &window), titleBar({}, middleLeftOut));
 }
 
+// Fusion leaves out the end of what is wider than the room.
+TEST(TitleBar, KeepsTheEndOfACaptionWhateverTheRoom)
+{
+    const QString caption = "Map -- The Twelve Tribes and the cities of refuge (Jos 13-21)";
+    for (const char* family : {"Liberation Sans", "DejaVu Sans"}) {
+        const QFontMetrics letters(QFont(family, 9));
+        for (int room = 100; room < 320; ++room) {
+            const QString shown = captionForRoom(caption, letters, room);
+            EXPECT_EQ(letters.elidedText(shown, Qt::ElideRight, room), shown) << family << room;
+            EXPECT_TRUE(shown.endsWith("1)")) << family << room;
+        }
+        EXPECT_EQ(captionForRoom(caption, letters, 1000), caption);
+    }
+}
+
 TEST(Palettes, ThatSayTheSameShareOneIdentityInComboBoxesAndScrollBars)
 {
     class Recorder : public QCommonStyle

@@ -98,7 +98,7 @@ double contrast(const QColor& one, const QColor& two)
 
 TEST_F(Box, KeepsCarriageReturnsAndNoBreakBlanks)
 {
-    const QString text = u"a\u00a0b\r\n\r\nc\r\n"_qs;
+    const QString text = QString::fromUtf8("a\u00a0b\r\n\r\nc\r\n");
     box->setText(text);
     EXPECT_EQ(box->text(), text);
     press(Qt::Key_A, Qt::ControlModifier);
@@ -109,7 +109,7 @@ TEST_F(Box, KeepsCarriageReturnsAndNoBreakBlanks)
 TEST_F(Box, EveryOffsetOfTheTextComesBackFromASelection)
 {
     // A lone CR, LF or paragraph mark starts a line too, but is one character, not two.
-    const QString text = u"ab\r\n\r\nc\u00a0\u00e9\nd\re\u2029f\u2028g\r\n"_qs;
+    const QString text = QString::fromUtf8("ab\r\n\r\nc\u00a0\u00e9\nd\re\u2029f\u2028g\r\n");
     box->setText(text);
     for (qsizetype start = 0; start <= text.size(); ++start)
         for (qsizetype end = start; end <= text.size(); ++end) {

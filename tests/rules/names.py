@@ -5,6 +5,8 @@ import re
 from tree import lines, scripts, sources
 
 MAX_LINES = {"src": 450, "tools": 300, "bench": 300, "tests": 800}  # lines of a file
+DEPRECATED = {"setActiveWindow(": "makeActive() of tests/support/ActiveWindow.h stands for it",
+              '"_qs': "QString::fromUtf8() or QStringLiteral() does the same"}
 TEST = r"^TEST(?:_F|_P)?\(\s*(\w+),\s*(\w+)\)"
 
 
@@ -41,9 +43,9 @@ def lengths(top):
 
 def deprecated(top):
     """What a later Qt warns of, which Qt 6.4 does not."""
-    return [f"{path}:{number}: Qt 6.5 deprecates setActiveWindow(); makeActive() of tests/support/ActiveWindow.h stands for it"
+    return [f"{path}:{number}: a later Qt deprecates {call}; {instead}"
             for folder in MAX_LINES for path in sources(top, folder) if path.name != "ActiveWindow.h"
-            for number, line in lines(path) if "setActiveWindow(" in line]
+            for number, line in lines(path) for call, instead in DEPRECATED.items() if call in line]
 
 
 def loose_cd(top):
