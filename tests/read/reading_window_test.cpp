@@ -571,10 +571,11 @@ TEST_F(Reading, PageKeysNeverSlideTheFramesAreaBehindALongVerse)
         }
 }
 
-TEST_F(Reading, TheScrollBarOfAVerseShowsItsFocus)
+TEST_F(Reading, TheScrollBarOfAVerseSaysWhatItIsAndShowsItsFocus)
 {
     hand("VerseId = 'Est:8:9'");
     auto* bar = verse().findChild<QScrollBar*>();
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(bar)->text(QAccessible::Name), "Scroll the verse");
     button("cmdNext").setFocus();
     const QImage without = bar->grab().toImage();
     bar->setFocus();
