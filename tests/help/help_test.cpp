@@ -588,6 +588,15 @@ TEST_F(HelpSession, RepeatsNoNameOfAButtonAsADescription)
     }
 }
 
+TEST_F(HelpSession, LeavesThePagesWhatTheContentsNeedNot)
+{
+    HelpWindow& window = openHelp("Welcome");
+    EXPECT_EQ(contents(window).width(), 200);
+    window.resize(window.width() - 100, window.height());
+    settle();
+    EXPECT_EQ(contents(window).width(), 200);
+}
+
 TEST_F(HelpSession, LoadsNothingButItsPages)
 {
     QTest::keyClick(&keyReceiver(), Qt::Key_F1);

@@ -12,6 +12,7 @@ import os
 import pathlib
 import random
 import shutil
+import signal
 import subprocess
 import sys
 
@@ -28,10 +29,14 @@ NOT_RUN = "e2e|package|valgrind|rules|topics|maps_data|tools|fonts|trust|oracle"
 def run(*command, seconds=None):
     """Whether the command ended with 0, in time."""
     environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen"}
+    # A process group of its own, so that an endless test goes with the ctest that began it.
+    process = subprocess.Popen(command, cwd=COPY, env=environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                               start_new_session=True)
     try:
-        return subprocess.run(command, cwd=COPY, env=environment, timeout=seconds, stdout=subprocess.DEVNULL,
-                              stderr=subprocess.DEVNULL, check=False).returncode == 0
+        return process.wait(seconds) == 0
     except subprocess.TimeoutExpired:
+        os.killpg(process.pid, signal.SIGKILL)
+        process.wait()
         return False
 
 
