@@ -13,7 +13,7 @@ int checkWork(void* argument)
 {
     Work& work = *static_cast<Work*>(argument);
     return ++work.checks > limits::maxSteps / stepsPerCheck ||
-           std::clock() - work.start > limits::maxSeconds * CLOCKS_PER_SEC;
+           processorTime() - work.start > std::chrono::seconds(limits::maxSeconds);
 }
 
 int permit(void*, int action, const char*, const char*, const char*, const char*)

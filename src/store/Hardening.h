@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ctime>
+#include "store/ProcessorTime.h"
 
 struct sqlite3;
 
@@ -8,7 +8,7 @@ struct sqlite3;
 struct Work
 {
     int checks = 0;
-    std::clock_t start = std::clock();
+    std::chrono::nanoseconds start = processorTime();
 };
 
 /// Bounds what a damaged file can make SQLite do: the length of values, its memory, and the steps and the

@@ -328,7 +328,10 @@ TEST(Paths, MayBeRelativeDoubledOrThroughALink)
     std::filesystem::current_path(folder.path());
     EXPECT_EQ(keys("KESTRPT.DAT", "").size(), 6U);
     std::filesystem::current_path(before);
-    EXPECT_EQ(keys("/" + folder.file(), "").size(), 6U);
+    std::string doubled = folder.file();
+    const std::size_t separator = doubled.find_first_of("/\\");
+    doubled.insert(separator, 1, doubled[separator]);
+    EXPECT_EQ(keys(doubled, "").size(), 6U) << doubled;
     if (Files::makeLink(folder.file(), folder.file("link"))) {
         EXPECT_EQ(keys(folder.file("link"), "").size(), 6U);
     }

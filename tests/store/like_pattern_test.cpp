@@ -2,9 +2,7 @@
 #include "store/LikePattern.h"
 #include "support/SlowLike.h"
 #include <chrono>
-#include <ctime>
 #include <gtest/gtest.h>
-#include <limits>
 #include <random>
 
 namespace {
@@ -176,16 +174,15 @@ TEST(LikePattern, AgreesWithTheWitnessOnLongPatternsMadeFromTheirTexts)
     EXPECT_LT(matching, 900);
 }
 
-/// The least of many processor times, each too short for other programs to come between: what the pattern
-/// takes.
-std::clock_t clocksFor(const std::string& pattern, const std::string& text)
+/// The least of many times, each too short for other programs to come between: what the pattern takes.
+std::chrono::nanoseconds timeFor(const std::string& pattern, const std::string& text)
 {
     const LikePattern like(pattern);
-    std::clock_t least = std::numeric_limits<std::clock_t>::max();
+    auto least = std::chrono::nanoseconds::max();
     for (int run = 0; run < 40; ++run) {
-        const std::clock_t start = std::clock();
+        const auto start = std::chrono::steady_clock::now();
         EXPECT_FALSE(like.matches(text)) << pattern;
-        least = std::min(least, std::clock() - start);
+        least = std::min<std::chrono::nanoseconds>(least, std::chrono::steady_clock::now() - start);
     }
     return least;
 }
@@ -201,11 +198,11 @@ TEST(LikePattern, TakesTheSameTimeWhateverItsStepsAre)
             all += part;
         return all;
     };
-    const std::clock_t shortest = clocksFor("*#*", text);
+    const std::chrono::nanoseconds shortest = timeFor("*#*", text);
     for (const std::string& pattern :
          {"*e" + times(57, "?") + "#*", "*" + times(41, "?") + "#*", "*" + times(14, "[!q]") + "#*",
           "*" + times(60, "[a-zã., ]") + "#*", "*" + times(14, "e*") + "#*", "*" + times(62, "a") + "*"})
-        EXPECT_LT(clocksFor(pattern, text), 5 * shortest) << pattern;
+        EXPECT_LT(timeFor(pattern, text), 5 * shortest) << pattern;
 }
 
 TEST(LikePattern, DoesNotBlowUpOnManyRuns)
