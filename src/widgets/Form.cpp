@@ -142,7 +142,6 @@ void Form::activate()
     QMdiSubWindow* window = subWindow();
     if (!window)
         return;
-    window->show();
     window->mdiArea()->setActiveSubWindow(window);
     takeFocus();
 }
