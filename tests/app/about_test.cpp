@@ -273,6 +273,20 @@ TEST_F(About, OkClosesIt)
     });
 }
 
+TEST_F(About, HasAnEdgeAllRound)
+{
+    whileAboutIsOpen([](frmStart& window) {
+        const QImage picture = window.grab().toImage();
+        const QPoint middle = picture.rect().center();
+        const QPoint last = picture.rect().bottomRight();
+        for (const QPoint edge : {QPoint(middle.x(), 0), QPoint(middle.x(), last.y()), QPoint(0, middle.y()),
+                                  QPoint(last.x(), middle.y())})
+            EXPECT_EQ(picture.pixelColor(edge), QColor(Qt::black)) << edge.x() << ' ' << edge.y();
+        EXPECT_NE(picture.pixelColor(middle.x(), 1), QColor(Qt::black));
+        window.close();
+    });
+}
+
 TEST_F(About, EscClosesItFromEveryControl)
 {
     for (int i = 0; i < 5; ++i)
