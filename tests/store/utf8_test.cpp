@@ -60,5 +60,6 @@ TEST_P(IllFormed, IsReadByteByByteAndWrittenBackAsItWas)
 
 INSTANTIATE_TEST_SUITE_P(Utf8, IllFormed,
                          testing::Values("\x80", "\xC3", "\xE2\x82", "\xF0\x9F\x90", "\xC0\xAF",
-                                         "\xE0\x80\xAF", "\xF0\x80\x80\xAF", "\xED\xA0\x80",
-                                         "\xF4\x90\x80\x80", "\xF8\x88\x80\x80\x80", "\xFF"));
+                                         "\xE0\x80\xAF", "\xF0\x80\x80\xAF", "\xC1\xBF", "\xE0\x9F\xBF",
+                                         "\xF0\x8F\xBF\xBF", "\xED\xA0\x80", "\xF4\x90\x80\x80",
+                                         "\xF8\x88\x80\x80\x80", "\xFF"));
