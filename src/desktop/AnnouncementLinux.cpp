@@ -14,7 +14,8 @@
 
 namespace {
 
-void send(QDBusConnection bus, QWidget& from, const QString& event, const QString& kind, const QString& text)
+void send(const QDBusConnection& bus, QWidget& from, const QString& event, const QString& kind,
+          const QString& text)
 {
     QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&from);
     if (!spoken)
