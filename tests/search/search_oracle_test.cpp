@@ -1,5 +1,6 @@
 // What a search lists, held against a plain scan of all verses by a slow matcher of its own.
 #include "search/SearchSession.h"
+#include <algorithm>
 #include <random>
 #include <sqlite3.h>
 #include <vector>
@@ -128,8 +129,14 @@ bool fits(const Place* place, const Place* placesEnd, const char32_t* at, const 
 bool contains(const Text& text, const std::vector<Place>& pattern)
 {
     const char32_t* const end = text.data() + text.size();
-    for (const char32_t* at = text.data(); at <= end; ++at)
-        if (fits(pattern.data(), pattern.data() + pattern.size(), at, end))
+    const char32_t* at = text.data();
+    if (pattern.empty() || pattern.front().isRun)
+        return fits(pattern.data(), pattern.data() + pattern.size(), at, end);
+    // The first place is tried without a call, since the whole Bible is walked for each of thousands of
+    // searches.
+    const Place& first = pattern.front();
+    while ((at = std::find_if(at, end, [&](char32_t c) { return first.accepts(c); })) != end)
+        if (fits(pattern.data() + 1, pattern.data() + pattern.size(), ++at, end))
             return true;
     return false;
 }
