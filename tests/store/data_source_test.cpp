@@ -60,6 +60,15 @@ TEST_F(SmallSource, ReadsColumnsByPositionAndByName)
     EXPECT_EQ(m_source.field(-1), "");
 }
 
+TEST_F(SmallSource, TakesAStatementOfLessThanAHundredThousandBytes)
+{
+    const std::string sql = "SELECT * FROM NewTestament";
+    const std::string longest = sql + std::string(99'999 - sql.size(), ' ');
+    run(longest);
+    EXPECT_EQ(m_source.recordCount(), 1);
+    EXPECT_EQ(errorOf(longest + ' ').number(), SQLITE_TOOBIG);
+}
+
 TEST_F(SmallSource, ReadsTheOtherTablesAsTheyAre)
 {
     run("SELECT * FROM ClassifiedVerses WHERE Type = 'Events'");
