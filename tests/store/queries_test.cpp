@@ -1,5 +1,6 @@
 // Queries over the whole Bible, as it is installed, and over small tables whose rows lie in any order.
 #include "store/BookCatalog.h"
+#include "store/Database.h"
 #include "store/TestDatabase.h"
 #include "support/SlowLike.h"
 #include <functional>
@@ -79,6 +80,17 @@ protected:
         return result;
     }
 };
+
+TEST_F(WholeBible, PassesOverTheRowsThatANumberLeavesOut)
+{
+    Database database(bible);
+    for (const std::string condition : {"= 5", "< 3", "<= 2", "> 31100", ">= 31101"}) {
+        const Statement rows = database.prepare("SELECT * FROM NewTestament WHERE VerseNumber " + condition);
+        while (sqlite3_step(rows.get()) == SQLITE_ROW)
+            continue;
+        EXPECT_LT(sqlite3_stmt_status(rows.get(), SQLITE_STMTSTATUS_VM_STEP, 0), 100) << condition;
+    }
+}
 
 TEST_F(WholeBible, Has31102VersesNumberedWithoutGaps)
 {
