@@ -106,11 +106,11 @@ class Desktop:
             time.sleep(0.05)
         self.run("xdotool", "mouseup", "1")
 
-    def clipboard(self):
-        """What is on the clipboard, to the byte."""
+    def clipboard(self, errors="strict"):
+        """What is on the clipboard, to the byte. A program that has no memory left for UTF-8 may give it otherwise."""
         result = subprocess.run(["xclip", "-selection", "clipboard", "-o"], env=self.environment, capture_output=True,
                                 timeout=PATIENCE)
-        return result.stdout.decode("utf-8")
+        return result.stdout.decode("utf-8", errors)
 
     def clipboard_picture(self):
         """The picture on the clipboard, as the bytes of a PNG file."""

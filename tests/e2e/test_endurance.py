@@ -220,7 +220,7 @@ def test_with_any_amount_of_memory_it_runs_or_ends(desktop, installed, tmp_path,
             desktop.key("ctrl+a")
             desktop.type(VERSE)
             desktop.key("Return", "ctrl+c")
-            while reader.process.poll() is None and not desktop.clipboard().startswith(VERSE + "\r\n "):
+            while reader.process.poll() is None and not desktop.clipboard("replace").startswith(VERSE + "\r\n "):
                 assert time.monotonic() < deadline, "no verse, no error"
         if reader.process.poll() is not None:
             assert reader.process.returncode != 0

@@ -1,8 +1,10 @@
-"""A clean Debian 12 in a folder, to install packages on."""
+"""A clean Debian in a folder, to install packages on: of the release at hand, for which they are made."""
 import os
+import platform
 import shutil
 import subprocess
 
+RELEASE = platform.freedesktop_os_release()["VERSION_CODENAME"]
 # The mounts are the command's own and go with it.
 ENTER = 'mount -t proc proc "$0/proc" && exec /usr/sbin/chroot "$0" "$@"'
 
@@ -20,7 +22,7 @@ class CleanRoot:
     def _make(self):
         shutil.rmtree(self.folder, ignore_errors=True)
         self.folder.parent.mkdir(parents=True, exist_ok=True)
-        made = subprocess.run(["debootstrap", "--variant=minbase", "bookworm", self.folder], capture_output=True,
+        made = subprocess.run(["debootstrap", "--variant=minbase", RELEASE, self.folder], capture_output=True,
                               text=True, check=False)
         assert made.returncode == 0, f"debootstrap failed; is the network there? {made.stdout[-500:]}{made.stderr}"
         self.run("apt-get", "update", "-qq")

@@ -9,7 +9,7 @@ import pytest
 TOP = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(TOP / "tests" / "e2e"))
 
-from clean_root import CleanRoot  # noqa: E402
+from clean_root import RELEASE, CleanRoot  # noqa: E402
 from desktop import PATIENCE, Desktop  # noqa: E402  the virtual desktop of the end-to-end tests
 
 
@@ -49,11 +49,11 @@ def desktop():
 
 @pytest.fixture(scope="session")
 def clean_root():
-    """A Debian 12 on which nothing was installed but the packages that the program depends on."""
+    """A Debian on which nothing was installed but the packages that the program depends on."""
     reason = CleanRoot.impossible()
     if reason:
         pytest.skip(reason)
-    return CleanRoot(TOP / "build" / "clean-root")
+    return CleanRoot(TOP / "build" / f"clean-root-{RELEASE}")
 
 
 @pytest.fixture

@@ -1,4 +1,4 @@
-"""The Debian package: what it holds, what the validators say, and its life on a clean Debian 12."""
+"""The Debian package: what it holds, what the validators say, and its life on a clean Debian."""
 import gzip
 import os
 import pathlib

@@ -7,7 +7,7 @@ import subprocess
 import time
 
 import pytest
-from tools_support import SOURCE
+from tools_support import SOURCE, as_at_a_terminal
 
 CTEST = """#!/bin/sh
 build=${2#build/}
@@ -38,7 +38,7 @@ def checkout(tmp_path):
 def start(checkout):
     environment = {**os.environ, "PATH": f"{checkout.parent}/stubs:{os.environ['PATH']}"}
     return subprocess.Popen(["./test"], cwd=checkout, env=environment, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-                            text=True, start_new_session=True)
+                            text=True, start_new_session=True, preexec_fn=as_at_a_terminal)
 
 
 def wait_until(met):

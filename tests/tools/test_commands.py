@@ -8,7 +8,7 @@ import subprocess
 import time
 
 import pytest
-from tools_support import SOURCE
+from tools_support import SOURCE, as_at_a_terminal
 
 COMMANDS = ("setup", "run", "packages", "data/topics")
 ASSEMBLED = ["KESTREL.HLP", "KESTRPT.DAT", "SEARCH.AVI", "kestrel-reader"]
@@ -109,7 +109,7 @@ def test_two_at_once_take_turns(place, environment, tmp_path):
 def test_interrupted_it_goes_on_the_next_time(place, environment, tmp_path, sign):
     folder = place(tmp_path / "checkout")
     process = subprocess.Popen(["./setup"], cwd=folder, env={**environment, "STUB_SECONDS": "60"}, start_new_session=True,
-                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, preexec_fn=as_at_a_terminal)
     while not (folder / "started").exists():
         assert process.poll() is None
         time.sleep(0.02)

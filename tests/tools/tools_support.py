@@ -5,6 +5,7 @@ import importlib.machinery
 import importlib.util
 import json
 import os
+import signal
 import subprocess
 import sys
 from pathlib import Path
@@ -19,6 +20,11 @@ def run(*command, **environment):
     clean["KESTREL_TEXT_URL"] = "file:///nowhere"
     return subprocess.run([str(part) for part in command], capture_output=True, text=True, check=False,
                           env={**clean, **environment})
+
+
+def as_at_a_terminal():
+    """For a child that is to be interrupted: whoever runs the tests in the background has made them ignore that."""
+    signal.signal(signal.SIGINT, signal.SIG_DFL)
 
 
 def sha256(path):
