@@ -78,6 +78,13 @@ TEST(AviReader, OnlyTheFirstStreamSaysHowPicturesAreKept)
     EXPECT_EQ(readAvi(bytes).frames.size(), 1);
 }
 
+TEST(AviReader, ReadsJpegPicturesWhereNoHeaderSaysHowTheyAreKept)
+{
+    const QList<QImage> frames = readAvi(file(QByteArray(), oneFrame())).frames;
+    ASSERT_EQ(frames.size(), 1);
+    EXPECT_TRUE(looksLike(frames[0], Qt::red));
+}
+
 TEST(AviReader, ReadsUncompressedPicturesOf24Bits)
 {
     // Two rows of three pixels, the bottom row first, each row filled up to twelve bytes.
