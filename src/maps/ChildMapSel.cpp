@@ -240,7 +240,6 @@ void ChildMapSel::fillTopics(const QString& type)
     Combo2->clear();
     for (; !Data1->eof(); Data1->moveNext())
         Combo2->addItem(topicEntry(toText(Data1->field(1))));
-    Combo2->setCurrentIndex(0);
     fillReferences();
 }
 
