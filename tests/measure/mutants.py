@@ -23,7 +23,7 @@ COPY = TOP / "build" / "mutants"
 DRAWING = ("src/pictures/", "src/app/FrameStyle")
 TESTS_SECONDS = 300  # a change that makes a loop endless is noticed, too
 # Long measures that judge no single line; the end-to-end tests, which need a desktop; and what looks at no code.
-NOT_RUN = "e2e|package|valgrind|rules|topics|maps_data|tools|fonts|trust|oracle"
+NOT_RUN = "e2e|package|valgrind|rules|topics|maps_data|tools|trust|oracle"
 
 
 def run(*command, seconds=None):

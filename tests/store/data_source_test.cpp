@@ -69,6 +69,18 @@ TEST_F(SmallSource, TakesAStatementOfLessThanAHundredThousandBytes)
     EXPECT_EQ(errorOf(longest + ' ').number(), SQLITE_TOOBIG);
 }
 
+TEST_F(SmallSource, AnEmptyTextIsLikeAnyRunAndNullIsLikeNothing)
+{
+    const auto rows = [this](const std::string& condition) {
+        return run("SELECT * FROM ClassifiedVerses WHERE " + condition).recordCount();
+    };
+    EXPECT_EQ(rows("'' LIKE '*'"), 1);
+    EXPECT_EQ(rows("'' NOT LIKE 'a'"), 1);
+    EXPECT_EQ(rows("NULL LIKE '*'"), 0);
+    EXPECT_EQ(rows("NULL NOT LIKE 'a'"), 0);
+    EXPECT_EQ(rows("'a' NOT LIKE NULL"), 0);
+}
+
 TEST_F(SmallSource, ReadsTheOtherTablesAsTheyAre)
 {
     run("SELECT * FROM ClassifiedVerses WHERE Type = 'Events'");

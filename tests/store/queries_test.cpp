@@ -91,10 +91,21 @@ protected:
     }
 };
 
-TEST_F(WholeBible, PassesOverTheRowsThatANumberLeavesOut)
+TEST_F(WholeBible, PassesOverTheRowsThatAConditionLeavesOut)
 {
-    for (const std::string condition : {"= 5", "< 3", "<= 2", "> 31100", ">= 31101"})
-        EXPECT_LT(stepsOf("VerseNumber " + condition), 100) << condition;
+    for (const std::string condition :
+         {"VerseNumber = 5", "VerseNumber < 3", "VerseNumber <= 2", "VerseNumber > 31100",
+          "VerseNumber >= 31101", "VerseId = 'Mt:24:43'", "VerseId LIKE 'Mt:24:43'",
+          "VerseId LIKE 'Mt:24:4?'", "KJVerseText LIKE '*chovia*'"})
+        EXPECT_LT(stepsOf(condition), 200) << condition;
+}
+
+TEST_F(WholeBible, HasItsRowsInOrderWithoutSorting)
+{
+    Database database(bible);
+    const Statement rows = database.prepare("SELECT * FROM NewTestament ORDER BY VerseNumber");
+    sqlite3_step(rows.get());
+    EXPECT_EQ(sqlite3_stmt_status(rows.get(), SQLITE_STMTSTATUS_SORT, 0), 0);
 }
 
 TEST_F(WholeBible, SearchesForEachOfTwoRareWordsInsteadOfTestingEveryVerse)
