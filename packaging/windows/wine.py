@@ -12,7 +12,7 @@ sys.path.insert(0, str(TOP / "tests" / "e2e"))
 sys.dont_write_bytecode = True
 import desktop as virtual  # noqa: E402  the virtual desktop of the end-to-end tests
 
-virtual.PATIENCE = 120  # a first start under Wine, on a busy machine
+virtual.PATIENCE = 600  # a first start under Wine, on a busy machine
 
 WORK = TOP / "build" / "windows-tests"
 WINE = shutil.which("wine64") or "/usr/lib/wine/wine64"
@@ -30,8 +30,7 @@ class Wine:
         self.zone = zone
         self.prefix = WORK / "prefixes" / name
         shutil.rmtree(self.prefix, ignore_errors=True)
-        # Linked, not copied, 700 MB each time: Wine writes its registry anew, and nobody writes to the other files.
-        shutil.copytree(fresh_prefix(), self.prefix, symlinks=True, copy_function=os.link)
+        shutil.copytree(fresh_prefix(), self.prefix, symlinks=True, copy_function=link_or_copy)
         self.environment = {**session.environment, **ENVIRONMENT, "WINEPREFIX": str(self.prefix), "TZ": zone}
         if day:
             # The day alone is another: the times of files are as they are.
@@ -65,12 +64,17 @@ class Wine:
 
     def run(self, *command):
         """Its exit code."""
-        return self.start(*command).wait(300)
+        return self.start(*command).wait(virtual.PATIENCE)
 
     def registry(self, key):
         """What the registry has under a key; nothing where there is none."""
         result = subprocess.run([WINE, "reg", "query", key, "/s"], env=self.environment, capture_output=True, text=True, check=False)
         return result.stdout if result.returncode == 0 else ""
+
+
+def link_or_copy(source, target):
+    """Linked, not copied, 700 MB each time: but a registry with two names is written in place by Wine, for both prefixes."""
+    (shutil.copy2 if source.endswith(".reg") else os.link)(source, target)
 
 
 def fresh_prefix():
