@@ -95,10 +95,11 @@ def windows_path(path):
     return "Z:" + str(path).replace("/", "\\")
 
 
-def wait_until(condition, what, patience=60):
-    deadline = time.monotonic() + patience
-    while not (found := condition()):
+def comes_about(condition):
+    """Whether it does, in the time that a busy machine needs."""
+    deadline = time.monotonic() + virtual.PATIENCE
+    while not condition():
         if time.monotonic() > deadline:
-            raise RuntimeError(f"this did not come about: {what}")
+            return False
         time.sleep(0.1)
-    return found
+    return True

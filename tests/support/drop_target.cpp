@@ -1,5 +1,6 @@
 // Another program's document: takes whatever is dropped on it and prints, as one line of JSON, the formats
-// that were offered, the action that was proposed and the plain text in its bytes.
+// that were offered, the action that was proposed and the plain text in its bytes. Its title tells of a drag
+// over it.
 #include <iostream>
 #include <QApplication>
 #include <QDropEvent>
@@ -11,21 +12,30 @@
 
 namespace {
 
+constexpr auto title = "Drop target";
+
 class Document : public QWidget
 {
 public:
     Document()
     {
-        setWindowTitle("Drop target");
+        setWindowTitle(title);
         setAcceptDrops(true);
         resize(300, 300);
     }
 
 protected:
-    void dragEnterEvent(QDragEnterEvent* event) override { event->acceptProposedAction(); }
+    void dragEnterEvent(QDragEnterEvent* event) override
+    {
+        setWindowTitle("Dragged over");
+        event->acceptProposedAction();
+    }
+
+    void dragLeaveEvent(QDragLeaveEvent* /*event*/) override { setWindowTitle(title); }
 
     void dropEvent(QDropEvent* event) override
     {
+        setWindowTitle(title);
         event->acceptProposedAction();
         const QJsonObject dropped{
             {"formats", QJsonArray::fromStringList(event->mimeData()->formats())},
