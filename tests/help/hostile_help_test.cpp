@@ -57,22 +57,23 @@ TEST_P(TooMuch, CountsAsMissingAtOnce)
 
 INSTANTIATE_TEST_SUITE_P(
     Help, TooMuch,
-    testing::Values(Hostile{"more than 4 MB", page(QString("a ").repeated(2 * 1024 * 1024))},
-                    Hostile{"3,000 nested tables", page(QString("<table><tr><td>").repeated(3000))},
-                    Hostile{"a table in a table", page("<table><tr><td><table></table></td></tr></table>")},
-                    Hostile{"nested lists", page(QString("<ul><li>").repeated(9))},
-                    Hostile{"letters in letters", page(QString("<b>").repeated(100'000))},
-                    Hostile{"5,001 cells",
-                            page("<table>" + QString("<tr><td>a</td></tr>").repeated(5001) + "</table>")},
-                    Hostile{"20,000 paragraphs", page(QString("<p>a</p>").repeated(20'000))},
-                    Hostile{"100,002 words", page(QString("a ").repeated(100'002))},
-                    Hostile{"a word of 201 letters", page(QString("w").repeated(201))},
-                    Hostile{"the same, of letters of many kinds", page(QString("ww<b>w</b>").repeated(67))},
-                    Hostile{"no blank but hard ones", page(QString("a\u00A0").repeated(101))},
-                    Hostile{"201 pages", page("a").repeated(201)},
-                    Hostile{"a page in a page", page(page("a"))},
-                    Hostile{"pages without end", QString("<section id=\"a\"><h1>").repeated(100'000)},
-                    Hostile{"ends without pages", QString("</section>").repeated(100'000)}));
+    testing::Values(
+        Hostile{"more than 4 MB", page(QString("a ").repeated(2 * 1024 * 1024))},
+        Hostile{"3,000 nested tables", page(QString("<table><tr><td>").repeated(3000))},
+        Hostile{"a table in a table", page("<table><tr><td><table></table></td></tr></table>")},
+        Hostile{"nested lists", page(QString("<ul><li>").repeated(9))},
+        Hostile{"letters in letters", page(QString("<b>").repeated(100'000))},
+        Hostile{"letters ended before they begin",
+                page(QString("</b>").repeated(100) + QString("<b>").repeated(HelpLimits::nesting + 1))},
+        Hostile{"5,001 cells", page("<table>" + QString("<tr><td>a</td></tr>").repeated(5001) + "</table>")},
+        Hostile{"20,000 paragraphs", page(QString("<p>a</p>").repeated(20'000))},
+        Hostile{"100,002 words", page(QString("a ").repeated(100'002))},
+        Hostile{"a word of 201 letters", page(QString("w").repeated(201))},
+        Hostile{"the same, of letters of many kinds", page(QString("ww<b>w</b>").repeated(67))},
+        Hostile{"no blank but hard ones", page(QString("a\u00A0").repeated(101))},
+        Hostile{"201 pages", page("a").repeated(201)}, Hostile{"a page in a page", page(page("a"))},
+        Hostile{"pages without end", QString("<section id=\"a\"><h1>").repeated(100'000)},
+        Hostile{"ends without pages", QString("</section>").repeated(100'000)}));
 
 TEST(HelpFile, HoldsAsMuchAsTheLimitsAllow)
 {
