@@ -227,6 +227,20 @@ const std::vector<Shape> shapes = {
 
 INSTANTIATE_TEST_SUITE_P(all, SearchShape, testing::ValuesIn(shapes));
 
+// Letters in brackets are no piece of text to look for: each verse is matched.
+TEST_F(WholeBible, FindsAPieceOfAnyLength)
+{
+    std::string piece;
+    std::string classes;
+    for (const char letter : std::string("porta")) {
+        piece += letter;
+        classes += std::string("[") + letter + "]";
+        const auto found = numbers("KJVerseText LIKE '*" + piece + "*'");
+        EXPECT_FALSE(found.empty()) << piece;
+        EXPECT_EQ(found, numbers("KJVerseText LIKE '*" + classes + "*'")) << piece;
+    }
+}
+
 TEST_F(WholeBible, FindsNothingForNull)
 {
     EXPECT_THAT(keys(bible, " WHERE KJVerseText LIKE NULL"), IsEmpty());
