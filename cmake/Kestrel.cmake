@@ -137,7 +137,7 @@ endfunction()
 # kestrel_pytest(NAME PATH...): the Python tests of these folders or files of tests/.
 function(kestrel_pytest name)
     list(TRANSFORM ARGN PREPEND ${CMAKE_SOURCE_DIR}/tests/ OUTPUT_VARIABLE paths)
-    add_test(NAME ${name} COMMAND ${SYSTEM_PYTHON} -m pytest -q -p no:cacheprovider --durations=10 --durations-min=1
+    add_test(NAME ${name} COMMAND ${SYSTEM_PYTHON} -m pytest -q -rs -p no:cacheprovider --durations=10 --durations-min=1
              ${paths})
     set_tests_properties(${name} PROPERTIES TIMEOUT 900 ENVIRONMENT
         "KESTREL_TOOLS_DIR=${CMAKE_BINARY_DIR}/tools;KESTREL_INSTALL_DIR=${KESTREL_TEST_DIR}")

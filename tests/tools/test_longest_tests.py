@@ -31,3 +31,16 @@ def test_the_longest_come_first_and_no_program_is_counted_beside_its_tests(tmp_p
     assert answer.stdout.splitlines()[1:] == [
         "    61.0 s  asan fuzz_like", "    41.5 s  asan e2e/test_day.py::test_a_day", "    34.6 s  asan Search.Slow",
         "     1.2 s  asan e2e/test_day.py::test_another", "     0.0 s  asan Search.Quick"]
+
+
+def test_each_test_that_was_left_out_is_told_with_its_reason(tmp_path):
+    folder = tmp_path / "release" / "Testing" / "Temporary"
+    folder.mkdir(parents=True)
+    folder.joinpath("LastTest.log").write_text(
+        "importer_test.cpp:32: Skipped\nThe published text is not here.\n[  SKIPPED ] Text.IsTheSame (0 ms)\n"
+        "[  SKIPPED ] 1 test, listed below:\n[  SKIPPED ] Text.IsTheSame\n"
+        "SKIPPED [1] tests/tools/test_make_data.py:62: The published text is not here.\n")
+    answer = run(SOURCE / "tools/longest_tests", tmp_path / "release")
+    assert answer.stdout.splitlines()[1:] == [
+        "Left out: release Text.IsTheSame: The published text is not here.",
+        "Left out: release tests/tools/test_make_data.py:62: The published text is not here."]
