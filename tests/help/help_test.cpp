@@ -632,3 +632,23 @@ TEST_F(HelpSession, ComesBackWhenItWasMinimised)
     EXPECT_FALSE(help.isMinimized());
     EXPECT_TRUE(help.isVisible());
 }
+
+TEST_F(HelpSession, ComesToTheFrontWhenItIsAskedForAgain)
+{
+    class Raised : public QObject
+    {
+    public:
+        int times = 0;
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            times += event->type() == QEvent::ZOrderChange;
+            return false;
+        }
+    } raised;
+    openHelp("Keys").installEventFilter(&raised);
+    makeActive(&frame());
+    control<SoftBttn>(frame(), "cmdNote").setFocus();
+    ASSERT_EQ(raised.times, 0);
+    EXPECT_EQ(pageOnF1(), "ChildSelect");
+    EXPECT_EQ(raised.times, 1);
+}
