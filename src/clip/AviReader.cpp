@@ -1,5 +1,6 @@
 #include "clip/AviReader.h"
 
+#include <algorithm>
 #include <optional>
 #include <QBuffer>
 #include <QImageReader>
@@ -90,6 +91,15 @@ private:
     qint64 m_bytes = AviLimits::decodedBytes;
 };
 
+/// What QImage::mirrored() gives, which Qt 6.11 calls deprecated, while flipped() is younger than Qt 6.4.
+QImage upsideDown(const QImage& image)
+{
+    QImage turned(image.size(), image.format());
+    for (int y = 0; y < turned.height(); ++y)
+        std::copy_n(image.constScanLine(image.height() - 1 - y), image.bytesPerLine(), turned.scanLine(y));
+    return turned;
+}
+
 QImage decodeUncompressed(QByteArrayView data, const PictureFormat& format, Budget& budget)
 {
     const qint64 width = format.width;
@@ -104,7 +114,7 @@ QImage decodeUncompressed(QByteArrayView data, const PictureFormat& format, Budg
                           static_cast<int>(height), stride, layout);
     // A picture that needs no change would go on borrowing the clip's bytes.
     const QImage image = borrowed.copy().convertToFormat(QImage::Format_RGB32);
-    return format.height > 0 ? image.mirrored() : image;
+    return format.height > 0 ? upsideDown(image) : image;
 }
 
 QImage decodeJpeg(QByteArrayView data, Budget& budget)

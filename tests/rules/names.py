@@ -6,6 +6,7 @@ from tree import lines, scripts, sources
 
 MAX_LINES = {"src": 450, "tools": 300, "bench": 300, "tests": 800}  # lines of a file
 DEPRECATED = {"setActiveWindow(": "makeActive() of tests/support/ActiveWindow.h stands for it",
+              ".mirrored(": "lines are copied in turn; flipped() is younger than Qt 6.4",
               '"_qs': "QString::fromUtf8() or QStringLiteral() does the same"}
 TEST = r"^TEST(?:_F|_P)?\(\s*(\w+),\s*(\w+)\)"
 

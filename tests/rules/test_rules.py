@@ -74,6 +74,7 @@ def test_a_sound_house_keeps_them(house, rule):
     (names, "tests/read/more_test.cpp", "TEST(Chapter, isGathered)\n", "Chapter.isGathered: a test is named by a sentence"),
     (names, "tests/read/more_test.cpp", "TEST(ChapterTest, IsGathered)\n", "ChapterTest.IsGathered: a test is named by a sentence"),
     (names, "tests/read/more_test.cpp", "    QApplication::setActiveWindow(nullptr);\n", "more_test.cpp:1: a later Qt deprecates"),
+    (names, "src/read/Mirror.cpp", "return image.mirrored();\n", "src/read/Mirror.cpp:1: a later Qt deprecates .mirrored("),
     (names, "tests/read/ChapterTests.cpp", "TEST(Chapter, Is)\n", "tests/read/ChapterTests.cpp: a file of tests is named after"),
     (names, "src/read/Long.h", "//\n" * 2000, "src/read/Long.h: 2000 lines, more than"),
     (systems, "src/read/Where.cpp", "#ifdef _WIN32\n", "src/read/Where.cpp:1: _WIN32 is one system's; it stands in a file named after"),
