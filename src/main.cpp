@@ -15,7 +15,7 @@ int main(int, char* argv[])
     }
     endWhenThreadsFail(); // before there is a QApplication, which starts threads and waits for them
     ignoreSenselessScaling();
-    Application::keepQuietAboutLocale();
+    Application::keepLibrariesQuiet();
     Application application(argv);
     if (!isScreenUsable()) { // no message box could be read
         std::fputs("kestrel-reader: the screen's dots to an inch (Xft.dpi) make no sense\n", stderr);

@@ -34,9 +34,11 @@ QPalette selectionColors()
 
 int Application::argumentCount = 1;
 
-void Application::keepQuietAboutLocale()
+void Application::keepLibrariesQuiet()
 {
     QLoggingCategory::setFilterRules("default.warning=false");
+    if (!qEnvironmentVariableIsSet("XKB_LOG_LEVEL"))
+        qputenv("XKB_LOG_LEVEL", "crit");
 }
 
 Application::Application(char* programName[])
@@ -46,10 +48,11 @@ Application::Application(char* programName[])
     setApplicationDisplayName(""); // captions are the windows' own
     setDesktopFileName("io.github.kestrelreader.KestrelReader");
     // Qt's warnings on standard error about what is handled: a damaged picture is left out or shown as far as
-    // it goes, a message box tells when another program took the clipboard, and an assistive program that
-    // asks for a window just closed is told that there is none.
-    QLoggingCategory::setFilterRules(
-        "qt.gui.imageio*=false\nqt.qpa.clipboard=false\nqt.accessibility.atspi*=false");
+    // it goes, a message box tells when another program took the clipboard, an assistive program that asks
+    // for a window just closed is told that there is none, and no window needs the plugin for OpenGL on
+    // Wayland, which may be missing.
+    QLoggingCategory::setFilterRules("qt.gui.imageio*=false\nqt.qpa.clipboard=false\n"
+                                     "qt.accessibility.atspi*=false\nqt.qpa.wayland.warning=false");
     QAccessible::installFactory(buttonAccess);
     QAccessible::installFactory(lineEditAccess);
     QAccessible::installFactory(scrollBarAccess);

@@ -9,9 +9,10 @@ class Application : public QApplication
     Q_OBJECT
 
 public:
-    /// Keeps Qt's lines about a locale that is not UTF-8, to which it sets it, from standard error: all texts
-    /// here are UTF-8 in any locale. To be called before there is an Application, which ends this.
-    static void keepQuietAboutLocale();
+    /// Keeps from standard error what does no harm: Qt's lines about a locale that is not UTF-8, to which it
+    /// sets it, since all texts here are UTF-8 in any locale; and libxkbcommon's about each key that a system
+    /// younger than it knows. To be called before there is an Application, which tells of other things.
+    static void keepLibrariesQuiet();
 
     /// The program takes no command-line arguments; none are looked at.
     explicit Application(char* programName[]);

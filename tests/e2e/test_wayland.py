@@ -26,9 +26,17 @@ def editor(tmp_path_factory):
 
 
 @pytest.fixture(scope="module")
-def reader(session, installed, editor):
+def sequences(tmp_path_factory):
+    """A system's list of key sequences that names a key younger than the program's libraries."""
+    path = tmp_path_factory.mktemp("sequences") / "Compose"
+    path.write_text('<dead_of_tomorrow> <a> : "a"\n')
+    return path
+
+
+@pytest.fixture(scope="module")
+def reader(session, installed, editor, sequences):
     """One program for all tests, one after another; nothing is written to standard error."""
-    program = Reader(session, installed, PATH=f"{editor}:{os.environ['PATH']}")
+    program = Reader(session, installed, PATH=f"{editor}:{os.environ['PATH']}", XCOMPOSEFILE=str(sequences))
     program.wait_for(lambda: [title for title, _ in session.windows()] == [""], "the splash, which has no title")
     program.find("frame", "Select Verse for Reading")
     session.wait_for_focus(FRAME)

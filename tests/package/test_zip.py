@@ -6,6 +6,8 @@ import subprocess
 import time
 
 import pytest
+from desktop import PATIENCE
+from wayland import WaylandDesktop
 
 FRAME = "Kestrel Reader: Portuguese Version - Freeware"
 SYSTEMS = {"ld-linux-x86-64", "libc", "libm", "libdl", "libpthread", "librt", "libresolv", "libX11", "libX11-xcb", "libxcb",
@@ -69,3 +71,13 @@ def test_unpacked_in_any_zone_it_starts_there(unpack, start, desktop, zone, monk
     assert time.localtime((folder / "KESTRPT.DAT").stat().st_mtime)[:6] == (1998, 5, 5, 5, 0, 0)
     start([folder / "kestrel-reader"], TZ=zone)
     desktop.wait_for_window(FRAME)
+
+
+def test_it_starts_on_wayland_too_and_says_nothing(unpack, start, desktop):
+    folder = unpack("UTC")
+    with WaylandDesktop(desktop) as session:
+        names = ("WAYLAND_DISPLAY", "XDG_SESSION_TYPE")
+        program = start([folder / "kestrel-reader"], TZ="UTC", DISPLAY="", **{name: session.environment[name] for name in names})
+        session.wait_for_focus(FRAME)
+        program.terminate()
+        assert program.communicate(timeout=PATIENCE)[1] == ""
