@@ -104,6 +104,19 @@ TEST_F(FrameStates, ManyIconsAreArrangedInRowsFromTheBottom)
         EXPECT_TRUE(room.contains(place));
 }
 
+TEST_F(FrameStates, AnIconWiderThanTheFrameStandsAtItsBottomAllTheSame)
+{
+    get<ChildSelect>().setState(Form::Minimized);
+    const QWidget& icon = outer(get<ChildSelect>());
+    frame().setMinimumSize(1, 1);
+    frame().resize(icon.width() / 2, 500);
+    settle();
+    const QRect room = frame().area()->viewport()->rect();
+    ASSERT_LT(room.width(), icon.width());
+    frame().arrangeIcons();
+    EXPECT_EQ(icon.pos(), QPoint(0, room.height() - icon.height()));
+}
+
 TEST_F(FrameStates, AMinimisedWindowHandsActivityAndFocusToTheOneBeforeIt)
 {
     frame().openStudyAids();
