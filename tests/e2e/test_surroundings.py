@@ -35,6 +35,11 @@ def test_a_scale_with_sense_is_kept(start, installed, desktop):
     assert "Geometry: 625x" in desktop.run("xdotool", "getactivewindow", "getwindowgeometry")
 
 
+@pytest.mark.parametrize("least_or_most", ["0.25", "8"])
+def test_it_starts_at_the_bounds_of_sense(start, installed, least_or_most):
+    assert start(installed, QT_SCALE_FACTOR=least_or_most).find("frame", starts=TITLE)
+
+
 @pytest.fixture
 def screen_of_100000_dots(desktop):
     """A desktop whose own settings make no sense; QT_FONT_DPI is one program's."""
