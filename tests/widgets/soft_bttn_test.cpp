@@ -230,6 +230,33 @@ TEST_F(PictureButton, TellsItsPropertiesByTheirNames)
     EXPECT_EQ(shot().pixelColor(12, 12), QColor(Qt::yellow));
 }
 
+TEST_F(PictureButton, IsPaintedAnewWhenItsLookIsSet)
+{
+    class Painted : public QObject
+    {
+    public:
+        bool since = false;
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            since = since || event->type() == QEvent::Paint;
+            return false;
+        }
+    } painted;
+    button.installEventFilter(&painted);
+    const auto paintedAfter = [&](const char* property, const QVariant& value) {
+        QTest::qWait(1);
+        painted.since = false;
+        button.setProperty(property, value);
+        return QTest::qWaitFor([&] { return painted.since; }, 1000);
+    };
+    QPixmap pixmap(24, 24);
+    pixmap.fill(Qt::blue);
+    EXPECT_TRUE(paintedAfter("picture", QIcon(pixmap)));
+    EXPECT_TRUE(paintedAfter("usemaskcolor", true));
+    EXPECT_TRUE(paintedAfter("maskcolor", QColor(Qt::blue)));
+    EXPECT_TRUE(paintedAfter("backcolor", QColor(Qt::yellow)));
+}
+
 TEST_F(PictureButton, AsksForTheSizeOfAToolbarsButton)
 {
     EXPECT_EQ(button.sizeHint(), QSize(24, 24));
