@@ -127,6 +127,22 @@ TEST_F(Frame, ShowsTheTitleOfAWindowHigherThanItself)
     EXPECT_EQ(outer(get<ChildMapSel>()).y(), 0);
 }
 
+TEST_F(Frame, HasScrollBarsWhileAWindowReachesBeyondIt)
+{
+    const QScrollBar& across = *frame().area()->horizontalScrollBar();
+    const QScrollBar& down = *frame().area()->verticalScrollBar();
+    outer(get<ChildSelect>()).move(0, 0);
+    settle();
+    EXPECT_FALSE(across.isVisible());
+    EXPECT_FALSE(down.isVisible());
+    outer(get<ChildSelect>()).move(frame().width(), 0);
+    settle();
+    EXPECT_TRUE(across.isVisible());
+    outer(get<ChildSelect>()).move(0, frame().height());
+    settle();
+    EXPECT_TRUE(down.isVisible());
+}
+
 TEST_F(Frame, IsNotSlidByWheelOrKeysAtTheEndOfATextOrList)
 {
     frame().readingWindow().showFirst("SELECT * FROM NewTestament WHERE VerseId = 'Est:8:9'");

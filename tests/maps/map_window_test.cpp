@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QClipboard>
 #include <QLabel>
+#include <QScrollArea>
 #include <QScrollBar>
 
 namespace {
@@ -51,6 +52,12 @@ TEST_F(MapWindow, ShowsPictureAndButtonsWhole)
     }
     for (const QScrollBar* bar : map.findChildren<QScrollBar*>())
         EXPECT_EQ(bar->maximum(), 0);
+}
+
+TEST_F(MapWindow, DrawsNoFrameAroundItsContent)
+{
+    const auto& surface = *openMap(denseMap).findChild<QScrollArea*>();
+    EXPECT_EQ(surface.frameWidth(), 0);
 }
 
 TEST_F(MapWindow, EveryMapIsFittedAnew)
