@@ -140,6 +140,14 @@ TEST(AviReader, NoTimePerFrameMeansTenFramesASecond)
     EXPECT_EQ(readAvi(file(QByteArray(), oneFrame())).frameTime, microseconds(100'000));
 }
 
+TEST(AviReader, AHeaderNeedsToHoldNoMoreThanTheTimePerFrame)
+{
+    const QByteArray time = littleEndian(20'000);
+    EXPECT_EQ(readAvi(file(list("hdrl", chunk("avih", time)), oneFrame())).frameTime, microseconds(20'000));
+    EXPECT_EQ(readAvi(file(list("hdrl", chunk("avih", time.first(3))), oneFrame())).frameTime,
+              microseconds(100'000));
+}
+
 TEST(AviReader, BytesThatAreNoClipGiveNoFrames)
 {
     EXPECT_TRUE(readAvi(QByteArrayView()).frames.isEmpty());
