@@ -121,6 +121,13 @@ TEST_F(ChapterWindow, HighlightsTheCurrentVerse)
     EXPECT_EQ(box.selStart(), box.text().indexOf("Mt:24:43 "));
 }
 
+TEST_F(ChapterWindow, HighlightsTheFirstVerseToo)
+{
+    const ChapRead& window = openChapterOf("Mt:24:1");
+    EXPECT_EQ(textOf(window).selText(), currentVerse());
+    EXPECT_EQ(textOf(window).selStart(), 0);
+}
+
 TEST_F(ChapterWindow, ASecondPressForTheSameChapterRunsNoQueryAndMovesTheHighlight)
 {
     ChapRead& window = openChapterOf("Mt:24:43");
