@@ -88,19 +88,21 @@ void MapPicture::scalePixmap()
         clear();
         return;
     }
-    const qreal ratio = devicePixelRatioF();
+    m_density = devicePixelRatioF();
     // A picture with a palette would be pressed into another palette again, its plain areas into dots.
     const QImage inAllColours = m_image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     QPixmap pixmap = QPixmap::fromImage(
-        inAllColours.scaled(size() * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-    pixmap.setDevicePixelRatio(ratio);
+        inAllColours.scaled(size() * m_density, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    pixmap.setDevicePixelRatio(m_density);
     setPixmap(pixmap);
 }
 
 void MapPicture::paintEvent(QPaintEvent* event)
 {
-    if (!m_image.isNull() && pixmap().devicePixelRatio() != devicePixelRatioF())
-        scalePixmap(); // the window moved to another screen
+    // The window has moved to another screen. QLabel::pixmap() does not tell: since Qt 6.8 it is made for the
+    // screen at hand.
+    if (!m_image.isNull() && m_density != devicePixelRatioF())
+        scalePixmap();
     QLabel::paintEvent(event);
 }
 

@@ -42,6 +42,7 @@ private:
     QImage m_image;
     QSizeF m_extent;
     bool m_stretch = false;
+    qreal m_density = 0; ///< of the screen that the pixmap is scaled for
     QPoint m_pressedAt;
 };
 

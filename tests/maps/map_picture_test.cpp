@@ -185,17 +185,6 @@ TEST(DecodedImage, SizeThatNoMapHasIsRefused)
     EXPECT_FALSE(decodedImage("P6 1 1 255\nabc").isNull());
 }
 
-TEST_F(Picture, IsScaledAnewOnAScreenOfAnotherDensity)
-{
-    picture.setImage(imageOf(40, 30, 96));
-    QPixmap dense(80, 60);
-    dense.setDevicePixelRatio(2); // as it was on the screen that the window comes from
-    picture.setPixmap(dense);
-    picture.grab();
-    EXPECT_EQ(picture.pixmap().devicePixelRatio(), 1);
-    EXPECT_EQ(picture.pixmap().toImage().pixelColor(20, 15), QColor(Qt::red));
-}
-
 TEST_F(Picture, IsNotDraggedWithoutTheLeftButton)
 {
     picture.setImage(imageOf(200, 200, 96));

@@ -1,0 +1,57 @@
+// The picture of a map on a desktop of two screens, the second of which has twice as many pixels to an inch.
+#include "maps/MapPicture.h"
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QTest>
+#include <QWindow>
+
+namespace {
+
+/// Columns that are red and blue in turns: what is scaled from fewer pixels shows neither.
+QImage columns(int width, int height)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            image.setPixelColor(x, y, x % 2 ? Qt::blue : Qt::red);
+    image.setDotsPerMeterX(qRound(192 / 0.0254));
+    image.setDotsPerMeterY(qRound(192 / 0.0254));
+    return image;
+}
+
+QScreen* screenNamed(const QString& name)
+{
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    const auto found = std::find_if(screens.begin(), screens.end(),
+                                    [&](const QScreen* screen) { return screen->name() == name; });
+    return found == screens.end() ? nullptr : *found;
+}
+
+} // namespace
+
+TEST(TwoScreens, ThePictureIsScaledAnewOnTheDenserOne)
+{
+    QScreen* const plain = screenNamed("plain");
+    QScreen* const dense = screenNamed("dense");
+    if (!plain || !dense)
+        GTEST_SKIP() << "needs QT_QPA_PLATFORM=offscreen:configfile=.../tests/maps/two_screens.json";
+    QWidget window;
+    window.setScreen(plain);
+    MapPicture picture(&window);
+    picture.setImage(columns(80, 60));
+    ASSERT_EQ(picture.size(), QSize(40, 30));
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    ASSERT_EQ(picture.devicePixelRatioF(), 1);
+    picture.grab();
+
+    window.windowHandle()->setScreen(dense);
+    window.move(dense->geometry().topLeft());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return picture.devicePixelRatioF() == 2; }));
+    const QImage shown = picture.grab().toImage();
+    ASSERT_EQ(shown.size(), QSize(80, 60));
+    EXPECT_EQ(shown.pixelColor(40, 30), QColor(Qt::red));
+    EXPECT_EQ(shown.pixelColor(41, 30), QColor(Qt::blue));
+}
