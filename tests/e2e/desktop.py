@@ -8,6 +8,9 @@ import time
 SCREEN = "1280x900x24"
 PATIENCE = 30  # seconds that anything may take on a busy machine
 
+# By their places on the keyboard: of xkeyboard-config 2.48, which names a function key for Alt, too, xdotool presses Alt with it.
+FUNCTION_KEYS = {f"F{number}": str(66 + number) for number in range(1, 11)} | {"F11": "95", "F12": "96"}
+
 
 class Desktop:
     """Starts everything on entering and ends it on leaving. `environment` is what a program of the session gets."""
@@ -90,7 +93,8 @@ class Desktop:
             time.sleep(0.05)
 
     def key(self, *keys):
-        self.run("xdotool", "key", "--clearmodifiers", *keys)
+        places = ("+".join(FUNCTION_KEYS.get(part, part) for part in key.split("+")) for key in keys)
+        self.run("xdotool", "key", "--clearmodifiers", *places)
 
     def type(self, text):
         self.run("xdotool", "type", "--delay", "15", text)
