@@ -25,6 +25,9 @@ class CleanRoot:
         made = subprocess.run(["debootstrap", "--variant=minbase", RELEASE, self.folder], capture_output=True,
                               text=True, check=False)
         assert made.returncode == 0, f"debootstrap failed; is the network there? {made.stdout[-500:]}{made.stderr}"
+        told = subprocess.run(["apt-config", "dump"], stdout=subprocess.PIPE, text=True, check=True).stdout.splitlines()
+        ours = [line for line in told if line.startswith(("Acquire::Check", "Acquire::http"))]
+        (self.folder / "etc/apt/apt.conf.d/90this-machine").write_text("".join(f"{line}\n" for line in ours))
         self.run("apt-get", "update", "-qq")
 
     @staticmethod
