@@ -5,7 +5,6 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QTest>
-#include <QWindow>
 
 namespace {
 
@@ -37,19 +36,25 @@ TEST(TwoScreens, ThePictureIsScaledAnewOnTheDenserOne)
     QScreen* const dense = screenNamed("dense");
     if (!plain || !dense)
         GTEST_SKIP() << "needs QT_QPA_PLATFORM=offscreen:configfile=.../tests/maps/two_screens.json";
-    QWidget window;
-    window.setScreen(plain);
-    MapPicture picture(&window);
+    QWidget onPlain;
+    onPlain.setScreen(plain);
+    QWidget onDense;
+    onDense.setScreen(dense);
+    onDense.move(dense->geometry().topLeft());
+    MapPicture picture(&onPlain);
     picture.setImage(columns(80, 60));
     ASSERT_EQ(picture.size(), QSize(40, 30));
-    window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    onPlain.show();
+    onDense.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&onPlain) && QTest::qWaitForWindowExposed(&onDense));
+    if (onDense.devicePixelRatioF() != 2)
+        GTEST_SKIP() << "this Qt gives windows no density without a screen";
     ASSERT_EQ(picture.devicePixelRatioF(), 1);
     picture.grab();
 
-    window.windowHandle()->setScreen(dense);
-    window.move(dense->geometry().topLeft());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return picture.devicePixelRatioF() == 2; }));
+    picture.setParent(&onDense);
+    picture.show();
+    ASSERT_EQ(picture.devicePixelRatioF(), 2);
     const QImage shown = picture.grab().toImage();
     ASSERT_EQ(shown.size(), QSize(80, 60));
     EXPECT_EQ(shown.pixelColor(40, 30), QColor(Qt::red));
