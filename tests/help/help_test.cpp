@@ -183,7 +183,7 @@ protected:
     {
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
         QFile::copy(helpSource, folder.filePath("KESTREL.HLP"));
-        QFile::link(KESTREL_INSTALL_DIR "/KESTRPT.DAT", folder.filePath("KESTRPT.DAT"));
+        QFile::copy(KESTREL_INSTALL_DIR "/KESTRPT.DAT", folder.filePath("KESTRPT.DAT"));
         program = std::make_unique<Program>(folder.path());
         program->showFrame();
         makeActive(&frame());
