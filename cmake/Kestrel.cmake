@@ -42,7 +42,8 @@ else()
     if(WIN32)
         # The protector's library is linked where this stands. Nothing in a program tells when it was linked.
         add_link_options(-static -fstack-protector-strong -Wl,--dynamicbase,--nxcompat,--high-entropy-va,--no-insert-timestamp)
-        add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
+        # packaging/windows/sysroot says why registers are not allocated across functions.
+        add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -fno-ipa-ra)
     else()
         add_link_options(-Wl,-z,relro,-z,now)
     endif()
