@@ -5,11 +5,24 @@
 #include <cstdlib>
 #include <filesystem>
 #include <QCryptographicHash>
+#include <random>
 #include <string>
 #include <vector>
 
 inline constexpr const char* publishedSum =
     "aadefc71fc4ada2b185075e701d5a308a12535f6c92c66c058fc667112476b32";
+
+/// A new folder, which no other process has: the tests of two builds run side by side. Whoever asks removes
+/// it.
+inline std::filesystem::path newFolder()
+{
+    std::random_device chance;
+    std::filesystem::path folder;
+    do
+        folder = std::filesystem::temp_directory_path() / ("kestrel-tools-" + std::to_string(chance()));
+    while (!std::filesystem::create_directory(folder));
+    return folder;
+}
 
 inline std::string sha256(const std::string& bytes)
 {

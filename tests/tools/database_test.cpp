@@ -44,9 +44,7 @@ class Database : public testing::Test
 protected:
     void SetUp() override
     {
-        folder = std::filesystem::path(testing::TempDir()) / "kestrel-database";
-        std::filesystem::remove_all(folder);
-        std::filesystem::create_directories(folder);
+        folder = newFolder();
         path = folder / "KESTRPT.DAT";
     }
     void TearDown() override { std::filesystem::remove_all(folder); }

@@ -12,12 +12,7 @@ namespace {
 class Importer : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        folder = std::filesystem::path(testing::TempDir()) / "kestrel-importer";
-        std::filesystem::remove_all(folder);
-        std::filesystem::create_directories(folder);
-    }
+    void SetUp() override { folder = newFolder(); }
     void TearDown() override { std::filesystem::remove_all(folder); }
 
     std::filesystem::path folder;
