@@ -12,6 +12,11 @@ PATIENCE = 30  # seconds that anything may take on a busy machine
 FUNCTION_KEYS = {f"F{number}": str(66 + number) for number in range(1, 11)} | {"F11": "95", "F12": "96"}
 
 
+def place_of(key):
+    """What xdotool is to press for a key that may have modifiers, such as "shift+F4"."""
+    return "+".join(FUNCTION_KEYS.get(part, part) for part in key.split("+"))
+
+
 class Desktop:
     """Starts everything on entering and ends it on leaving. `environment` is what a program of the session gets."""
 
@@ -93,8 +98,7 @@ class Desktop:
             time.sleep(0.05)
 
     def key(self, *keys):
-        places = ("+".join(FUNCTION_KEYS.get(part, part) for part in key.split("+")) for key in keys)
-        self.run("xdotool", "key", "--clearmodifiers", *places)
+        self.run("xdotool", "key", "--clearmodifiers", *map(place_of, keys))
 
     def type(self, text):
         self.run("xdotool", "type", "--delay", "15", text)

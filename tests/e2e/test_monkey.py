@@ -5,6 +5,7 @@ import random
 import re
 
 import pytest
+from desktop import place_of
 from windowtable import WINDOWS, title_of
 
 SEED = 1998
@@ -58,7 +59,7 @@ class Monkey:
         if kind < 0.35:
             return ["key", "--clearmodifiers", self.random.choice(TYPED)]
         if kind < 0.8:
-            return ["key", "--clearmodifiers", self.random.choice(KEYS)]
+            return ["key", "--clearmodifiers", place_of(self.random.choice(KEYS))]
         x, y = (str(self.random.choice(side)) for side in self.area)
         button = self.random.choice("111145")  # the wheel is buttons 4 and 5
         return ["mousemove", x, y, "click", "--repeat", self.random.choice("1112"), "--delay", "20", button]
