@@ -44,7 +44,7 @@ class PosingButton : public SoftBttn
 {
 public:
     PosingButton(PictureId id, Look look, QWidget* parent)
-        : SoftBttn(QString(), id, QString(), parent)
+        : SoftBttn(id, QString(), parent)
     {
         setDown(look == Look::Pressed);
         setEnabled(look != Look::Disabled);

@@ -9,9 +9,9 @@ class Application : public QApplication
     Q_OBJECT
 
 public:
-    /// Keeps from standard error what does no harm: Qt's lines about a locale that is not UTF-8, to which it
-    /// sets it, since all texts here are UTF-8 in any locale; and libxkbcommon's about each key that a system
-    /// younger than it knows. To be called before there is an Application, which tells of other things.
+    /// Silences two harmless warnings on standard error: Qt's that the locale is not UTF-8 (Qt then switches
+    /// to one that is), and libxkbcommon's for each key symbol newer than itself. To be called before there
+    /// is an Application, which sets a filter of its own.
     static void keepLibrariesQuiet();
 
     /// The program takes no command-line arguments; none are looked at.

@@ -5,19 +5,17 @@
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
-LinkLabel::LinkLabel(const QString& name, const QString& text, QWidget* parent)
+LinkLabel::LinkLabel(const QString& text, QWidget* parent)
     : QAbstractButton(parent)
 {
-    setObjectName(name);
     setText(text);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
 }
 
-LinkLabel::LinkLabel(const QString& name, const QIcon& picture, QWidget* parent)
+LinkLabel::LinkLabel(const QIcon& picture, QWidget* parent)
     : QAbstractButton(parent)
 {
-    setObjectName(name);
     setIcon(picture);
     setFocusPolicy(Qt::NoFocus);
     setCursor(Qt::PointingHandCursor);

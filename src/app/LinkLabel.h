@@ -10,8 +10,8 @@ class LinkLabel : public QAbstractButton
     Q_OBJECT
 
 public:
-    LinkLabel(const QString& name, const QString& text, QWidget* parent);
-    LinkLabel(const QString& name, const QIcon& picture, QWidget* parent);
+    LinkLabel(const QString& text, QWidget* parent);
+    LinkLabel(const QIcon& picture, QWidget* parent);
 
     QSize sizeHint() const override;
 

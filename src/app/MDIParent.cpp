@@ -9,6 +9,7 @@
 #include "desktop/BasePath.h"
 #include "help/Help.h"
 #include "widgets/Hourglass.h"
+#include "widgets/Layout.h"
 #include "widgets/Menus.h"
 #include "widgets/Modality.h"
 #include "widgets/SoftBttn.h"
@@ -30,11 +31,11 @@ constexpr QSize smallScreen(1280, 800);
 
 MDIParent::MDIParent(Program& program)
     : picToolbar(new QWidget(this))
-    , cmdSelect(new SoftBttn("cmdSelect", PictureId::SelectVerse, "Select Verse to read", this))
-    , cmdNote(new SoftBttn("cmdNote", PictureId::Notepad, "Notepad", this))
-    , cmdSearch(new SoftBttn("cmdSearch", PictureId::Search, "Search", this))
-    , cmdTools(new SoftBttn("cmdTools", PictureId::StudyAids, "Study Aids", this))
-    , cmdAbout(new SoftBttn("cmdAbout", PictureId::About, "About/QORV CD-ROM Offer", this))
+    , cmdSelect(new SoftBttn(PictureId::SelectVerse, "Select Verse to read", picToolbar))
+    , cmdNote(new SoftBttn(PictureId::Notepad, "Notepad", picToolbar))
+    , cmdSearch(new SoftBttn(PictureId::Search, "Search", picToolbar))
+    , cmdTools(new SoftBttn(PictureId::StudyAids, "Study Aids", picToolbar))
+    , cmdAbout(new SoftBttn(PictureId::About, "About/QORV CD-ROM Offer", picToolbar))
     , m_program(program)
     , m_area(new QMdiArea(this))
     , m_help(std::make_unique<Help>(program.basePath + helpFileName, helpPageOf))
@@ -85,12 +86,13 @@ void MDIParent::load()
 void MDIParent::makeToolbar()
 {
     picToolbar->setObjectName("picToolbar");
-    int left = 30;
-    for (SoftBttn* button : {cmdSelect, cmdNote, cmdSearch, cmdTools, cmdAbout}) {
-        button->setParent(picToolbar);
-        place(*button, left, 0, 360, 360);
-        left += 360;
-    }
+    layOut({
+        {cmdSelect, "cmdSelect", "", {30, 0, 360, 360}},
+        {cmdNote, "cmdNote", "", {390, 0, 360, 360}},
+        {cmdSearch, "cmdSearch", "", {750, 0, 360, 360}},
+        {cmdTools, "cmdTools", "", {1110, 0, 360, 360}},
+        {cmdAbout, "cmdAbout", "", {1470, 0, 360, 360}},
+    });
     picToolbar->setFixedHeight(toPixels(390));
     auto* frame = new QWidget(this);
     auto* rows = new QVBoxLayout(frame);
@@ -221,7 +223,7 @@ void MDIParent::MDIForm_Unload()
 
 bool MDIParent::event(QEvent* event)
 {
-    // The area would make that window active which was loaded last, though it was only shown behind.
+    // QMdiArea would activate the window that was loaded last, though that was only shown behind.
     if (event->type() == QEvent::WindowActivate && m_activeForm)
         m_activeForm->becomeCurrent();
     const bool handled = QMainWindow::event(event);
@@ -239,8 +241,9 @@ void MDIParent::closeEvent(QCloseEvent* event)
 
 void MDIParent::childActivated(QMdiSubWindow* window)
 {
-    // Behind a modal window the area takes the window that was loaded last for the active one, when another
-    // application was in front; meanwhile it has none. The frame keeps its own, unless that is closed.
+    // QMdiArea::subWindowActivated carries nullptr while another application is active and, when ours comes
+    // back behind a modal window, the window loaded last. Either way the frame keeps its active window,
+    // unless that was closed.
     const bool stands = m_activeForm && m_activeForm->isVisible();
     if (stands && (isBehindModalWindow(*this) || (!window && !isActiveWindow()))) {
         if (window)

@@ -27,7 +27,7 @@ void send(const QDBusConnection& bus, QWidget& from, const QString& event, const
 }
 
 /// Whether some assistive program listens for announcements, by AT-SPI's registry, whose answer lists pairs
-/// of a program and an event. A registry that fails to answer names nobody who would not.
+/// of a program and an event. Without such a list we cannot know, and count on one that does.
 bool isHeard(const QDBusMessage& registered)
 {
     if (registered.signature() != "a(ss)")

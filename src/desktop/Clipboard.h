@@ -3,7 +3,7 @@
 #include <QImage>
 #include <QString>
 
-/// Stands over the report of copyOrReport().
+/// The title of the box in which copyOrReport() reports.
 inline constexpr char clipboardErrorTitle[] = "Clipboard Error";
 
 /// Clears the clipboard and puts a text on it, as plain text alone and to the letter (CR LF stay). A desktop

@@ -28,7 +28,7 @@ private:
     T m_memory = nullptr;
 };
 
-/// A handle that is closed when it goes out of scope. Neither kind of failure is a handle to close.
+/// A handle that is closed when it goes out of scope. A failure, nullptr or INVALID_HANDLE_VALUE, is none.
 class Handle
 {
 public:
@@ -105,8 +105,9 @@ Holder holderOf(const std::wstring& name)
     return isOurs(mutex.get()) ? Holder::Ourselves : Holder::Stranger;
 }
 
-/// A mutex with us as its owner, whom only we may open: by default administrators own what is theirs, all of
-/// them together. No handle when the name is taken.
+/// A mutex that this user owns and only this user may open. Unless told otherwise, Windows lets the group of
+/// administrators own what one of them makes, and isOurs() could not tell them apart. No handle when the name
+/// is taken.
 Handle create(const std::wstring& name)
 {
     const std::wstring user = thisUserSpelt().toStdWString();

@@ -99,8 +99,8 @@ void MapPicture::scalePixmap()
 
 void MapPicture::paintEvent(QPaintEvent* event)
 {
-    // The window has moved to another screen. QLabel::pixmap() does not tell: since Qt 6.8 it is made for the
-    // screen at hand.
+    // The window has come to a screen of another density. QLabel::pixmap() does not tell: since Qt 6.8 it is
+    // made for the current screen.
     if (!m_image.isNull() && m_density != devicePixelRatioF())
         scalePixmap();
     QLabel::paintEvent(event);

@@ -38,7 +38,8 @@ ChapRead::ChapRead(Shell& shell)
     // The item has no shortcut: Ctrl+C copies what is selected in the text.
     QMenu* edit = Menus::make(*this, "mnuEdit", "&Edit");
     Menus::addItem(edit, "mnuCopy", "&Copy Chapter to Clipboard", {}, [this] { mnuCopy_Click(); });
-    makeMenus({edit}, true);
+    constexpr bool plainToolsItem = true;
+    makeMenus({edit}, plainToolsItem);
 
     connect(cmdFont, &SoftBttn::clicked, this, &ChapRead::cmdFont_Click);
     connect(cmdFntFace, &SoftBttn::clicked, this, &ChapRead::cmdFntFace_Click);

@@ -69,7 +69,8 @@ ChildRead::ChildRead(Shell& shell)
     Menus::addSeparator(view, "mnuSep2");
     Menus::addItem(view, "mnuPrev", "&Previous Verse", Qt::Key_F11, [this] { cmdPrev_Click(); });
     Menus::addItem(view, "mnuNext", "&Next Verse", Qt::Key_F12, [this] { cmdNext_Click(); });
-    makeMenus({edit, view}, true);
+    constexpr bool plainToolsItem = true;
+    makeMenus({edit, view}, plainToolsItem);
 
     DataCtl->currentRowChanged = [this] { DataCtl_Reposition(); };
     connect(cmdPrev, &SoftBttn::clicked, this, &ChildRead::cmdPrev_Click);

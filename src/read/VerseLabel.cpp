@@ -144,7 +144,8 @@ void VerseLabel::fitScrollBar()
         m_scrollBar->show();
         breakLines(textArea().width());
     }
-    // The scroll bar's signal is for what the reader does: by many sizes on the way the place would wander.
+    // QScrollBar::valueChanged() means here that the reader scrolled: at each size that a dragged border
+    // takes on its way it would move m_firstShown, and the place would drift.
     const QSignalBlocker fitting(m_scrollBar);
     m_scrollBar->setRange(0, qMax(0, m_lines.lineCount() - linesWithRoom()));
     m_scrollBar->setPageStep(qMax(1, linesWithRoom() - 1));

@@ -100,11 +100,11 @@ void ChildSelect::Combo1_Change()
 {
     const QString text = reference();
     cmdGo->setEnabled(!text.isEmpty());
-    if (text.size() <= referenceLimit)
+    if (text.size() <= maxReferenceLength)
         return;
     Platform::current().beep();
-    Combo1->setEditText(text.left(referenceLimit));
-    Combo1->lineEdit()->setCursorPosition(referenceLimit);
+    Combo1->setEditText(text.left(maxReferenceLength));
+    Combo1->lineEdit()->setCursorPosition(maxReferenceLength);
 }
 
 void ChildSelect::Combo1_Click()

@@ -5,7 +5,7 @@
 class ChildRead;
 
 /// The most characters a typed reference may have.
-constexpr int referenceLimit = 14;
+constexpr int maxReferenceLength = 14;
 
 /// Shows the first verse whose key begins with the text, in the reading window. The text is used whole, as
 /// typed, as a prefix of the verse key; it is not split and not quoted. When no verse is found, a message

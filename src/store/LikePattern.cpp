@@ -165,7 +165,7 @@ bool LikePattern::matches(std::string_view text) const
 }
 
 /// Follows all ways through the pattern at once: `reached` holds the places that the text so far leads to. A
-/// character leads on by one from each place whose next step accepts it, and leaves those where a run stands.
+/// character moves each of them whose next step accepts it on by one; a place with a run stays reached, too.
 /// So "a*b", with a run at place 1, takes "axb" from {0} by "a" to {1}, by "x" to {1}, by "b" to {1, 2}, and
 /// 2 is the end. `rare` is room for the places of a character that the table lacks.
 template <class Words>

@@ -22,7 +22,7 @@ public:
     /// Throws DataError 93, "Invalid pattern string".
     TextSearch(const VerseBlock& block, std::string_view pattern);
 
-    /// Of a row of the block.
+    /// row < VerseBlock::size().
     bool matches(std::size_t row) const { return next(row, row + 1) == row; }
 
     /// The first matching row from `row` on and before `end`; `end` if there is none. `end` is at most the

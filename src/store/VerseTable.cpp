@@ -143,9 +143,9 @@ double share(Use use)
     }
 }
 
-// What a row costs, measured, beside one that a search for a text finds. That one counts 1, because SQLite
-// may run a search for each term of an OR, and then has to sort what they find. It costs less to let SQLite
-// test a row, and least of all to pass over it in a search.
+// Measured costs of a row, in units of a row that a text search finds, which is dear because SQLite may run a
+// search for each term of an OR and must then sort: when SQLite tests the row, and when a search passes over
+// it.
 constexpr double costOfTesting = 0.3;
 constexpr double costOfSearching = 0.04;
 

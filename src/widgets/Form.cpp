@@ -259,8 +259,8 @@ void Form::setOuterSize(int widthTwips, int heightTwips)
 {
     if (!subWindow() || state() != Normal)
         return;
-    // A drag of the left or top border moves that border alone, so the other one tells that the window must
-    // go back, too.
+    // While the left border is dragged the right one stays. So a right edge where it was at the press means
+    // that the left one must be put back, too; the same with top and bottom.
     const QRect now = subWindow()->geometry();
     const int left = now.right() == m_pressedAt.right() ? m_pressedAt.left() : now.left();
     const int top = now.bottom() == m_pressedAt.bottom() ? m_pressedAt.top() : now.top();
@@ -276,12 +276,12 @@ void Form::setOuterPosition(int leftTwips, int topTwips)
 QSize Form::innerSize() const
 {
     const QMargins margins = subWindow() ? subWindow()->contentsMargins() : QMargins();
-    return (subWindow() ? subWindow()->size().shrunkBy(margins) : size()) * twipsPerPixel;
+    return toTwips(subWindow() ? subWindow()->size().shrunkBy(margins) : size());
 }
 
 QSize Form::frameInnerSize() const
 {
-    return subWindow() ? subWindow()->mdiArea()->viewport()->size() * twipsPerPixel : QSize();
+    return subWindow() ? toTwips(subWindow()->mdiArea()->viewport()->size()) : QSize();
 }
 
 bool Form::eventFilter(QObject* watched, QEvent* event)

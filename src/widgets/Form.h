@@ -13,10 +13,10 @@ class Shell;
 
 /// A child window of the main frame: the one place that knows how such a window lives in the frame's area.
 ///
-/// Its life: made with its controls, loadInto() runs Form_Load, the first activate() shows it, Form_Activate
-/// and Form_Deactivate follow the active window, Form_Resize every change of size or state, Form_Unload its
-/// closing, which deletes it. Outer sizes and positions are those of the whole window with its title bar and
-/// border, in twips.
+/// Its life: made with its controls, loadInto() runs Form_Load and shows it behind the active window,
+/// Form_Activate and Form_Deactivate follow the active window, Form_Resize every change of size or state,
+/// Form_Unload its closing, which deletes it. Outer sizes and positions are those of the whole window with
+/// its title bar and border, in twips.
 class Form : public QWidget
 {
     Q_OBJECT
@@ -80,7 +80,8 @@ Q_SIGNALS:
     void unloaded();
 
 protected:
-    /// name: the window's class name, by which tests and assistive tools know it.
+    /// name: the window's class name, by which tests and assistive tools know it. The shell must outlive the
+    /// window.
     Form(Shell& shell, const QString& name);
 
     virtual void Form_Load() {}

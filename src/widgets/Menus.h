@@ -9,7 +9,8 @@ class QMenu;
 class QWidget;
 class Shell;
 
-/// The menus that the frame and its windows share, made in one place. Each belongs to its owner.
+/// The menus that the frame and its windows share, made in one place. Each belongs to its owner; the shell
+/// must outlive it.
 namespace Menus {
 
 QMenu* file(QWidget& owner, Shell& shell);

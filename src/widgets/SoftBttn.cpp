@@ -40,12 +40,6 @@ SoftBttn::SoftBttn(PictureId id, const QString& toolTip, QWidget* parent)
     setToolTip(toolTip);
 }
 
-SoftBttn::SoftBttn(const QString& name, PictureId id, const QString& toolTip, QWidget* parent)
-    : SoftBttn(id, toolTip, parent)
-{
-    setObjectName(name);
-}
-
 void SoftBttn::setPicture(const QIcon& picture)
 {
     m_picture = picture;

@@ -18,8 +18,6 @@ public:
     explicit SoftBttn(QWidget* parent = nullptr);
     /// A screen reader speaks the tooltip.
     SoftBttn(PictureId id, const QString& toolTip, QWidget* parent);
-    /// The name is the one in the code, as in "cmdGo".
-    SoftBttn(const QString& name, PictureId id, const QString& toolTip, QWidget* parent = nullptr);
 
     QIcon picture() const { return m_picture; }
     void setPicture(const QIcon& picture);

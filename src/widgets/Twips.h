@@ -17,6 +17,11 @@ constexpr int toTwips(int pixels)
     return pixels * twipsPerPixel;
 }
 
+constexpr QSize toTwips(QSize pixels)
+{
+    return pixels * twipsPerPixel;
+}
+
 /// A wanted width or height, or the present one where the wanted one is negative: a window too small for its
 /// layout leaves that step of it out.
 constexpr int possibleLength(int wanted, int present)

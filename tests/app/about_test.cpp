@@ -550,9 +550,9 @@ TEST_F(About, LeavesTheFocusNowhereWhereItWasNowhere)
 
 TEST(LinkLabel, IsAsLargeAsItsPictureOrItsText)
 {
-    LinkLabel picture("Image2", iconOf(PictureId::About), nullptr);
+    LinkLabel picture(iconOf(PictureId::About), nullptr);
     picture.setIconSize(QSize(20, 24));
     EXPECT_EQ(picture.sizeHint(), QSize(20, 24));
-    LinkLabel text("cmdMail", "mail", nullptr);
+    LinkLabel text("mail", nullptr);
     EXPECT_GT(text.sizeHint().width(), text.fontMetrics().horizontalAdvance("mail"));
 }

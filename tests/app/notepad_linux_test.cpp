@@ -228,8 +228,9 @@ TEST_F(Notepad, FirstStandInOfTheListIsTaken)
 
 TEST_F(Notepad, FileWithoutExecutePermissionIsNoEditor)
 {
-    putFile("gedit", "", false);
-    putFile("notepad.exe", "", false);
+    constexpr bool executable = false;
+    putFile("gedit", "", executable);
+    putFile("notepad.exe", "", executable);
     EXPECT_EQ(textEditor(), QString());
 }
 

@@ -133,7 +133,8 @@ TEST_F(OneCopyAmongStrangers, IsStillTheOneWhenTheStrangerHasGone)
 
 TEST_F(OneCopyAmongStrangers, PassesANameByWhoseHolderDoesNotSayWhoHeIs)
 {
-    const Stranger silent({name}, false);
+    constexpr bool listens = false;
+    const Stranger silent({name}, listens);
     InstanceName first(name);
     EXPECT_TRUE(first.take());
     EXPECT_FALSE(InstanceName(name).take());

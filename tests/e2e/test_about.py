@@ -189,11 +189,11 @@ def test_afterwards_a_minimised_window_is_still_minimised_and_takes_no_key(reade
 # --- Esc ---
 
 @pytest.mark.parametrize("modifier", ["", "shift+", "ctrl+shift+"])
-@pytest.mark.parametrize("letter", ["DonationWare", "QORV CD-ROM Offer"])
-def test_escape_closes_a_letter_and_then_the_about_window_with_any_modifier(reader, modifier, letter):
+@pytest.mark.parametrize("button", ["DonationWare", "QORV CD-ROM Offer"])
+def test_escape_closes_a_text_window_and_then_the_about_window_with_any_modifier(reader, modifier, button):
     about = reader.open_about()
-    reader.act(letter, about)
-    title = "Your support is needed!" if letter == "DonationWare" else letter
+    reader.act(button, about)
+    title = "Your support is needed!" if button == "DonationWare" else button
     opened = reader.find("dialog", title)
     reader.wait_for_focus(opened, "text", title)
     reader.desktop.key(f"{modifier}Escape")

@@ -99,7 +99,7 @@ def test_tab_visits_every_control_in_order_and_comes_round(reader, opened, order
 
 @pytest.mark.parametrize("button, title", [("DonationWare", "Your support is needed!"),
                                            ("QORV CD-ROM Offer", "QORV CD-ROM Offer")])
-def test_the_letters_are_opened_scrolled_and_closed_by_keyboard(reader, button, title):
+def test_the_text_windows_are_opened_scrolled_and_closed_by_keyboard(reader, button, title):
     window = reader.open_about()
     while reader.focused(window) != ("push button", button):
         before = reader.focused(window)

@@ -153,7 +153,7 @@ def expect(reader, window, outline):
     reader.wait_for(lambda: shown() == outline, f"this, instead of\n{shown()}\n:\n{outline}")
 
 
-def test_the_splash(start, tmp_path, installed):
+def test_the_splash_is_told_as_a_picture_with_a_name(start, tmp_path, installed):
     splash = start(install(installed, tmp_path / "kestrel"))
     expect(splash, splash.find("dialog", "Kestrel Reader (PT)"), "dialog: Kestrel Reader (PT)\n  image: Kestrel Reader (PT)")
 
@@ -217,7 +217,7 @@ def test_every_verse_of_a_long_list_is_there(reader, desktop, verses):
         assert (results[row].getRoleName(), results[row].name) == ("list item", expected[row])
 
 
-def test_the_study_aids_and_a_map(reader):
+def test_the_study_aids_and_a_map_are_told(reader):
     window = reader.open_aids()
     expect(reader, window, VERSES)
     reader.key("alt+d")

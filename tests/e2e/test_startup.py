@@ -39,12 +39,12 @@ def test_arguments_are_not_looked_at(start, copy):
     assert reader.find("frame", "Select Verse for Reading")
 
 
-def test_without_the_clip(start, copy, desktop):
+def test_refuses_to_start_without_the_clip(start, copy, desktop):
     (copy / "SEARCH.AVI").unlink()
     assert refusal(start, desktop, copy) == "Couldn't find file 'SEARCH.AVI'. Please run Setup."
 
 
-def test_without_the_database(start, copy, desktop):
+def test_refuses_to_start_without_the_database(start, copy, desktop):
     (copy / "KESTRPT.DAT").unlink()
     assert refusal(start, desktop, copy) == "Couldn't find file 'KESTRPT.DAT'. Please run Setup."
 
@@ -55,13 +55,13 @@ def test_without_both_only_the_clip_is_named(start, copy, desktop):
     assert refusal(start, desktop, copy) == "Couldn't find file 'SEARCH.AVI'. Please run Setup."
 
 
-def test_a_database_one_second_off(start, copy, desktop):
+def test_refuses_a_database_one_second_off(start, copy, desktop):
     subprocess.run(["touch", "-m", "-d", "1998-05-05 05:00:01", copy / "KESTRPT.DAT"], check=True)
     assert refusal(start, desktop, copy) == ("Can't continue; file 'KESTRPT.DAT' has been modified. "
                                              "Please uninstall the program then run Setup again.")
 
 
-def test_a_database_one_byte_longer(start, copy, desktop):
+def test_refuses_a_database_one_byte_longer(start, copy, desktop):
     with open(copy / "KESTRPT.DAT", "ab") as database:
         database.write(b"\0")
     subprocess.run(["touch", "-m", "-d", "1998-05-05 05:00:00", copy / "KESTRPT.DAT"], check=True)
@@ -85,7 +85,7 @@ def test_after_the_first_copy_is_killed_another_starts(start, copy):
 
 
 @pytest.mark.parametrize("name", ["with blank", "é ação", "100%", "what?", "number#1", "a'b", "x" * 200])
-def test_odd_folders(start, installed, tmp_path, name):
+def test_starts_and_reads_in_odd_folders(start, installed, tmp_path, name):
     program = start(install(installed, tmp_path / name))
     program.find("frame", "Select Verse for Reading")
     program.desktop.key("Return")

@@ -263,6 +263,6 @@ def test_stop_without_its_number_is_found(copy):
     ([[15, -5], [25, 5], [15, 15], [11, 5]], False),      # turned, near
     ([[9, 0], [20, 11], [20, 20], [0, 0]], True),         # turned, into it
 ])
-def test_shapes(other, overlap):
+def test_shapes_overlap_only_where_they_share_an_area(other, overlap):
     square = [[0, 0], [10, 0], [10, 10], [0, 10]]
     assert check_maps._overlap(square, other) == overlap

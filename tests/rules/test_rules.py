@@ -21,7 +21,7 @@ SOUND = {
     "tests/CMakeLists.txt": "".join(f"kestrel_test({folder} LINK app)\n" for folder in ("store", "read", "search", "help")),
     "docs/architecture.md": "src/store/ src/read/ src/search/ src/help/\n",
     "src/store/Verses.h": "#pragma once\n",
-    "src/store/Engine.h": '#pragma once\n\n#include "store/Verses.h"\n#include <sqlite3.h>\n',
+    "src/store/Sqlite.h": '#pragma once\n\n#include "store/Verses.h"\n#include <sqlite3.h>\n',
     "src/read/Chapter.h": '#pragma once\n\n#include "store/Verses.h"\n#include <QString>\n',
     "src/search/Query.h": "#pragma once\n",
     "src/help/Help.h": '#pragma once\n\n#include "read/Chapter.h"\n#include "store/Verses.h"\n',
@@ -114,7 +114,7 @@ def test_a_document_may_name_what_is_there(house):
     ("read: step over the seam", False),
     ("read: " + "A" * 67, False),
 ])
-def test_subjects_of_commits(subject, sound):
+def test_subjects_of_commits_are_judged(subject, sound):
     assert (subjects.breach(subject) is None) == sound
 
 

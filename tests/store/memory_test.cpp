@@ -16,6 +16,10 @@ void read(DataSource& source, Answer& answer)
             answer.emplace_back(source.field(column));
 }
 
+// Which allocations fail: one, or that one and all after it.
+constexpr bool oneAlone = false;
+constexpr bool allFromThere = true;
+
 class FailingMemory : public testing::TestWithParam<const char*>
 {
 protected:
@@ -83,8 +87,8 @@ protected:
 
 TEST_P(FailingMemory, WhileAnOpenDatabaseIsAskedIsAnError)
 {
-    EXPECT_GT(failEach(false, [this] { return askKept(); }), 5);
-    EXPECT_GT(failEach(true, [this] { return askKept(); }), 5);
+    EXPECT_GT(failEach(oneAlone, [this] { return askKept(); }), 5);
+    EXPECT_GT(failEach(allFromThere, [this] { return askKept(); }), 5);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -105,8 +109,8 @@ class FailingMemoryAtTheOpening : public FailingMemory
 
 TEST_P(FailingMemoryAtTheOpening, IsAnError)
 {
-    EXPECT_GT(failEach(false, [this] { return askAnew(); }), 100);
-    EXPECT_GT(failEach(true, [this] { return askAnew(); }), 100);
+    EXPECT_GT(failEach(oneAlone, [this] { return askAnew(); }), 100);
+    EXPECT_GT(failEach(allFromThere, [this] { return askAnew(); }), 100);
 }
 
 TEST_P(FailingMemoryAtTheOpening, IsForgottenByTheSameSourcesNextUse)
@@ -118,7 +122,7 @@ TEST_P(FailingMemoryAtTheOpening, IsForgottenByTheSameSourcesNextUse)
         Answer answer;
         source.setDatabaseName(m_folder.file());
         source.setRecordSource(GetParam());
-        Allocations::failAt(number, false);
+        Allocations::failAt(number, oneAlone);
         try {
             read(source, answer);
         } catch (const std::exception&) {

@@ -9,13 +9,16 @@ import time
 import pytest
 from tools_support import SOURCE, as_at_a_terminal
 
-CTEST = """#!/bin/sh
-build=${2#build/}
-touch "$build.started"
-sleep "$(cat "$build.seconds" 2>/dev/null || echo 0)"
-echo "tests of $build"
-touch "$build.ended"
-[ ! -e "$build.fails" ]
+# In Python, which an interruption ends whatever it is at; the shell may miss one between two of its commands.
+CTEST = """#!/usr/bin/python3
+import pathlib, sys, time
+build = sys.argv[2].removeprefix("build/")
+seconds = pathlib.Path(f"{build}.seconds")
+pathlib.Path(f"{build}.started").touch()
+time.sleep(int(seconds.read_text()) if seconds.exists() else 0)
+print("tests of", build)
+pathlib.Path(f"{build}.ended").touch()
+sys.exit(pathlib.Path(f"{build}.fails").exists())
 """
 
 

@@ -128,7 +128,7 @@ def test_a_text_of_another_checksum_is_refused(find, server, books, tmp_path, st
     assert_stand_in(answer, tmp_path)
 
 
-def test_a_refused_connection(find, tmp_path, stand_in):
+def test_a_refused_connection_leads_to_the_stand_in(find, tmp_path, stand_in):
     with socket.socket() as unused:  # bound, but nobody listens
         unused.bind(("127.0.0.1", 0))
         url = f"http://127.0.0.1:{unused.getsockname()[1]}"
@@ -138,7 +138,7 @@ def test_a_refused_connection(find, tmp_path, stand_in):
     assert_stand_in(answer, tmp_path)
 
 
-def test_a_book_that_is_not_there(find, server, books, tmp_path, stand_in):
+def test_a_book_that_is_not_there_leads_to_the_stand_in(find, server, books, tmp_path, stand_in):
     (books / "Rev.json").unlink()
     answer = find(server.url)
     assert f"find_text: {server.url}/Rev.json cannot be fetched (HTTP Error 404" in answer.stderr
@@ -146,7 +146,7 @@ def test_a_book_that_is_not_there(find, server, books, tmp_path, stand_in):
 
 
 @pytest.mark.parametrize("fault", [cut_off, cut_off_in_pieces])
-def test_a_transfer_that_is_cut_off(find, server, books, tmp_path, stand_in, fault):
+def test_a_transfer_that_is_cut_off_leads_to_the_stand_in(find, server, books, tmp_path, stand_in, fault):
     server.instead["/books/Rev.json"] = fault
     answer = find(server.url)
     assert f"find_text: {server.url}/Rev.json cannot be fetched (IncompleteRead" in answer.stderr

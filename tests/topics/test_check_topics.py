@@ -105,7 +105,7 @@ def test_fault_in_a_topic_is_named_by_file_and_line(lists, text, group, line, fa
 
 
 @pytest.mark.parametrize("group", MINIMUM)
-def test_too_few_topics(lists, text, group):
+def test_too_few_topics_are_reported(lists, text, group):
     path = lists / f"{group}.txt"
     lines = path.read_text(encoding="utf-8").splitlines(keepends=True)
     path.write_text("".join(lines[:-1]), encoding="utf-8")
@@ -116,13 +116,13 @@ def test_too_few_topics(lists, text, group):
 
 
 @pytest.mark.parametrize("group", MINIMUM)
-def test_missing_list(lists, text, group):
+def test_a_missing_list_is_reported(lists, text, group):
     (lists / f"{group}.txt").unlink()
     result = run(lists, text)
     assert (result.stdout, result.returncode) == (f"{group}.txt: missing\n", 1)
 
 
-def test_list_that_is_not_utf8(lists, text):
+def test_a_list_that_is_not_utf8_is_reported(lists, text):
     (lists / "events.txt").write_bytes("Maçã\tMt:1:1\n".encode("latin-1"))
     result = run(lists, text)
     assert (result.stdout, result.returncode) == ("events.txt: not UTF-8\n", 1)
@@ -139,7 +139,7 @@ def test_every_fault_is_reported(lists, text):
     ]
 
 
-def test_usage(lists):
+def test_without_arguments_the_usage_is_told(lists):
     result = run(lists)
     assert result.returncode == 2
     assert "usage" in result.stderr

@@ -17,7 +17,7 @@ def test_the_readme_counts_the_topics(lists, text, group):
     assert run(lists, text).stdout == f"README.md: does not say how many topics {group}.txt has\n"
 
 
-def test_missing_readme(lists, text):
+def test_a_missing_readme_is_reported(lists, text):
     (lists / "README.md").unlink()
     result = run(lists, text)
     assert (result.stdout, result.returncode) == ("README.md: missing\n", 1)

@@ -24,7 +24,7 @@ from topics_support import replace_line, run
         ("The Law Fulfilled to Fulfil\tMt:1:1", "not the American spelling of today: Fulfil"),
     ],
 )
-def test_fault_in_a_title(lists, text, line, fault):
+def test_a_fault_in_a_title_is_reported(lists, text, line, fault):
     replace_line(lists / "events.txt", 3, line)
     result = run(lists, text)
     assert (result.stdout, result.returncode) == (f"events.txt:3: {fault}\n", 1)
@@ -39,7 +39,7 @@ def test_fault_in_a_title(lists, text, line, fault):
         ("The First Catch of Fish", "The First Catch of Many Fish"),
     ],
 )
-def test_titles_too_much_alike(lists, text, one, other):
+def test_titles_too_much_alike_are_reported(lists, text, one, other):
     replace_line(lists / "events.txt", 3, f"{one}\tMt:1:1")
     replace_line(lists / "miracles.txt", 3, f"{other}\tMt:1:1")
     result = run(lists, text)

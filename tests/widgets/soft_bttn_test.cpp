@@ -31,8 +31,8 @@ protected:
     }
 
     QWidget window;
-    SoftBttn button{"cmdSearch", PictureId::Search, "Search", &window};
-    SoftBttn other{"cmdHelp", PictureId::Help, "Help", &window};
+    SoftBttn button{PictureId::Search, "Search", &window};
+    SoftBttn other{PictureId::Help, "Help", &window};
     QSignalSpy clicks{&button, &QAbstractButton::clicked};
 };
 

@@ -8,14 +8,14 @@ namespace {
 
 constexpr int maxSide = 10000;
 
-/// A whole number from 1 to `limit`.
-int readNumber(std::string_view text, int limit, const std::string& what)
+/// A whole number from 1 to `maximum`.
+int readNumber(std::string_view text, int maximum, const std::string& what)
 {
     int number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc() || end != text.data() + text.size() || number < 1 || number > limit)
+    if (error != std::errc() || end != text.data() + text.size() || number < 1 || number > maximum)
         throw InputError(what + " \"" + std::string(text) + "\" is not a number from 1 to " +
-                         std::to_string(limit) + ".");
+                         std::to_string(maximum) + ".");
     return number;
 }
 
