@@ -158,3 +158,30 @@ TEST_F(Animation, WithoutAClipAsksForTheRoomOfOne)
 {
     EXPECT_EQ(player.sizeHint(), QSize(240, 60));
 }
+
+TEST_F(Animation, ShowsTheClipInTheMiddle)
+{
+    player.open(write(AviBytes::goodClip()));
+    player.resize(148, 32); // the clip has room for 48 x 32
+    const QImage image = player.grab().toImage();
+    EXPECT_GT(image.pixelColor(74, 16).red(), 240);
+    EXPECT_LT(image.pixelColor(74, 16).blue(), 20);
+    for (const int beside : {48, 100})
+        EXPECT_EQ(image.pixelColor(beside, 16), player.palette().color(QPalette::Window)) << beside;
+}
+
+TEST_F(Animation, ShowsAnotherClipOnceItIsOpen)
+{
+    show();
+    player.open(write(AviBytes::goodClip()));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return player.paints > 0; }, 1000));
+}
+
+TEST_F(Animation, OpensNoFileOfMoreThan32Megabytes)
+{
+    const QString path = write(AviBytes::goodClip());
+    EXPECT_TRUE(QFile::resize(path, qint64(32) * 1024 * 1024));
+    EXPECT_TRUE(player.open(path));
+    EXPECT_TRUE(QFile::resize(path, qint64(32) * 1024 * 1024 + 1));
+    EXPECT_FALSE(player.open(path));
+}

@@ -1,6 +1,7 @@
 #include "clip/AviBytes.h"
 #include "clip/AviReader.h"
 #include <gtest/gtest.h>
+#include <QBuffer>
 #include <QFile>
 #include <QRandomGenerator>
 #include <QtEndian>
@@ -223,4 +224,40 @@ TEST(AviReader, StopsBeforeItsFramesFillTheMemory)
 {
     const QByteArray frame = chunk("00dc", jpeg(Qt::gray, 4096, 1024)); // 16 MiB decoded
     EXPECT_EQ(readAvi(file(headers(20'000), frame.repeated(6))).frames.size(), 4);
+    EXPECT_EQ(readAvi(file(headers(20'000), frame.repeated(4) + oneFrame())).frames.size(), 4);
+}
+
+TEST(AviReader, ReadsPicturesOf4096PixelsASideAndNoLargerOnes)
+{
+    const auto framesOf = [](int width, int height) {
+        const QByteArray picture(4 * width * height, 0);
+        return readAvi(file(headers(20'000, width, height, 32), chunk("00db", picture))).frames.size();
+    };
+    EXPECT_EQ(framesOf(4096, 1), 1);
+    EXPECT_EQ(framesOf(1, 4096), 1);
+    EXPECT_EQ(framesOf(4097, 1), 0);
+    EXPECT_EQ(framesOf(1, 4097), 0);
+}
+
+TEST(AviReader, ThePictureHeaderNeedsToReachToTheCompression)
+{
+    const QByteArray picture = littleEndian(40) + littleEndian(1) + littleEndian(1) +
+                               littleEndian(1u | 32u << 16) + QByteArray(4, 0);
+    const auto framesWith = [](const QByteArray& header) {
+        const QByteArray headers = list("hdrl", list("strl", chunk("strf", header)));
+        return readAvi(file(headers, chunk("00db", QByteArray(4, 0)))).frames.size();
+    };
+    EXPECT_EQ(framesWith(picture), 1);
+    EXPECT_EQ(framesWith(picture.chopped(1)), 0) << "taken for JPEG";
+}
+
+TEST(AviReader, LeavesOutPicturesThatAreNoJpeg)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QImage image(24, 16, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    ASSERT_TRUE(image.save(&buffer, "PNG"));
+    EXPECT_EQ(readAvi(file(headers(20'000), chunk("00dc", bytes) + oneFrame())).frames.size(), 1);
 }

@@ -35,6 +35,42 @@ TEST_F(SearchWindow, HasItsCaptions)
         EXPECT_EQ(row.shown, row.caption);
     for (const QWidget* control : window().findChildren<QWidget*>())
         EXPECT_EQ(control->font().family(), "Tahoma") << control->objectName().toStdString();
+    EXPECT_EQ(window().font().pointSize(), 9);
+}
+
+TEST_F(SearchWindow, ItsControlsStandWhereTheyWereDesigned)
+{
+    const QList<std::pair<QWidget*, QRect>> designed = {
+        {&Label1(), {8, 5, 520, 16}},
+        {&Text1(), {8, 22, 520, 24}},
+        {&Combo1(), {8, 51, 150, 24}},
+        {&Text2(), {162, 51, 366, 24}},
+        {&Label3(), {8, 87, 240, 16}},
+        {&Combo2(), {8, 104, 240, 24}},
+        {&chkWholeWrd(), {8, 136, 240, 22}},
+        {&Animation1(), {288, 93, 240, 60}},
+        {&cmdOK(), {538, 5, 27, 27}},
+        {&cmdCancel(), {538, 35, 27, 27}},
+        {&cmdHelp(), {538, 65, 27, 27}},
+        {&cmdHideList(), {538, 102, 27, 27}},
+        {&cmdCopySR(), {538, 132, 27, 27}},
+        {&Label2(), {8, 164, 240, 16}},
+        {&control<QFrame>(window(), "Line1"), {8, 80, 520, 2}},
+    };
+    for (const auto& [control, place] : designed)
+        EXPECT_EQ(control->geometry(), place) << control->objectName().toStdString();
+    EXPECT_EQ(list().pos(), QPoint(8, 181));
+    EXPECT_EQ(list().width(), 557);
+    EXPECT_EQ(list().height(), list().heightOfWholeLines(142));
+    EXPECT_EQ(control<QFrame>(window(), "Line1").frameStyle(), QFrame::HLine | QFrame::Sunken);
+}
+
+TEST_F(SearchWindow, MaximisedItsListEndsAsFarFromTheEdgesAsItBegins)
+{
+    outer(window()).showMaximized();
+    search("amor");
+    EXPECT_EQ(list().geometry().right() + 1, window().width() - list().x());
+    EXPECT_EQ(list().height(), list().heightOfWholeLines(window().height() - list().y() - list().x()));
 }
 
 TEST_F(SearchWindow, NamesItsControlsForAScreenReader)
