@@ -185,3 +185,14 @@ TEST_F(Animation, OpensNoFileOfMoreThan32Megabytes)
     EXPECT_TRUE(QFile::resize(path, qint64(32) * 1024 * 1024 + 1));
     EXPECT_FALSE(player.open(path));
 }
+
+TEST_F(Animation, ShowsALargerPictureWithoutHardEdges)
+{
+    const QByteArray redAndBlue = QByteArray::fromHex("0000ff00 ff000000");
+    player.open(
+        write(AviBytes::file(AviBytes::headers(20'000, 2, 1, 32), AviBytes::chunk("00db", redAndBlue))));
+    player.resize(40, 20);
+    const QColor edge = player.grab().toImage().pixelColor(20, 10);
+    EXPECT_GT(edge.red(), 50);
+    EXPECT_GT(edge.blue(), 50);
+}

@@ -1,7 +1,6 @@
 #include "clip/AviBytes.h"
 #include "clip/AviReader.h"
 #include <gtest/gtest.h>
-#include <QBuffer>
 #include <QFile>
 #include <QRandomGenerator>
 #include <QtEndian>
@@ -249,15 +248,4 @@ TEST(AviReader, ThePictureHeaderNeedsToReachToTheCompression)
     };
     EXPECT_EQ(framesWith(picture), 1);
     EXPECT_EQ(framesWith(picture.chopped(1)), 0) << "taken for JPEG";
-}
-
-TEST(AviReader, LeavesOutPicturesThatAreNoJpeg)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QImage image(24, 16, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    ASSERT_TRUE(image.save(&buffer, "PNG"));
-    EXPECT_EQ(readAvi(file(headers(20'000), chunk("00dc", bytes) + oneFrame())).frames.size(), 1);
 }
