@@ -13,3 +13,12 @@ inline QPalette readingSurface(QPalette palette)
         palette.setColor(role, Qt::black);
     return palette;
 }
+
+/// The palette of a scroll bar on that surface: the one of the window around it. What it leaves open the
+/// scroll bar would take from the surface.
+inline QPalette besideReadingSurface(QPalette palette)
+{
+    for (QPalette::ColorRole role : {QPalette::Window, QPalette::Base, QPalette::WindowText, QPalette::Text})
+        palette.setColor(role, palette.color(role));
+    return palette;
+}

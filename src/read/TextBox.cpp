@@ -12,7 +12,7 @@ TextBox::TextBox(QWidget* parent)
 {
     TextBoxReader::install();
     setPalette(readingSurface(palette()));
-    verticalScrollBar()->setPalette(parent->palette());
+    verticalScrollBar()->setPalette(besideReadingSurface(parent->palette()));
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

@@ -23,7 +23,7 @@ VerseLabel::VerseLabel(QWidget* parent)
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     setPalette(readingSurface(palette()));
     setAutoFillBackground(true);
-    m_scrollBar->setPalette(parent->palette());
+    m_scrollBar->setPalette(besideReadingSurface(parent->palette()));
     m_scrollBar->setFocusPolicy(Qt::StrongFocus);
     m_scrollBar->setAccessibleName("Scroll the verse");
     m_scrollBar->hide();

@@ -63,6 +63,10 @@ TEST_F(Picture, CountsPixelsWhereTheResolutionIsAbsurd)
 {
     picture.setImage(imageOf(30, 20, 1));
     EXPECT_EQ(picture.size(), QSize(30, 20));
+    picture.setImage(imageOf(710, 710, 71));
+    EXPECT_EQ(picture.size(), QSize(710, 710));
+    picture.setImage(imageOf(720, 720, 72)); // the lowest that there is
+    EXPECT_EQ(picture.size(), QSize(960, 960));
 }
 
 TEST_F(Picture, EmptyPictureIsAsHighAsTheButtonsBesideItNeed)
@@ -71,6 +75,10 @@ TEST_F(Picture, EmptyPictureIsAsHighAsTheButtonsBesideItNeed)
     picture.setImage({});
     EXPECT_EQ(picture.extent(), QSizeF(735, 990));
     EXPECT_TRUE(picture.pixmap().isNull());
+    picture.setStretch(true);
+    picture.setExtent({6000, 3000});
+    picture.setImage({});
+    EXPECT_EQ(picture.extent(), QSizeF(735, 990));
 }
 
 TEST_F(Picture, StretchedPictureKeepsItsSizeForAnotherImage)
@@ -148,6 +156,20 @@ TEST_F(Picture, CanBeDraggedOutWithAllItsPixels)
     const auto* drag = picture.findChild<QDrag*>();
     ASSERT_TRUE(drag);
     EXPECT_EQ(qvariant_cast<QImage>(drag->mimeData()->imageData()).size(), QSize(400, 300));
+    EXPECT_EQ(drag->pixmap().size(), QSize(160, 120) * picture.devicePixelRatioF());
+    EXPECT_EQ(completed.count(), 1);
+}
+
+TEST_F(Picture, IsDraggedOnceTheMouseHasGoneFarEnough)
+{
+    window.show();
+    picture.setImage(imageOf(400, 300, 192));
+    QSignalSpy completed(&picture, &MapPicture::dragCompleted);
+    pressAt({50, 50});
+    moveTo({50.0 + QApplication::startDragDistance() - 1, 50});
+    EXPECT_EQ(completed.count(), 0);
+    QTimer::singleShot(50, &QDrag::cancel); // where dragging waits for the mouse
+    moveTo({50.0 + QApplication::startDragDistance(), 50});
     EXPECT_EQ(completed.count(), 1);
 }
 

@@ -58,6 +58,36 @@ TEST_F(MapWindow, DrawsNoFrameAroundItsContent)
 {
     const auto& surface = *openMap(denseMap).findChild<QScrollArea*>();
     EXPECT_EQ(surface.frameWidth(), 0);
+    EXPECT_EQ(surface.widget()->size(), QSize(cmdZoom().geometry().right() + 1, 4 + 150));
+    EXPECT_FALSE(lblMapDesc().isVisible());
+}
+
+TEST_F(MapWindow, TabGoesFromButtonToButton)
+{
+    openMap(denseMap);
+    cmdZoom().setFocus();
+    QTest::keyClick(&cmdZoom(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &cmdPicCopy());
+    QTest::keyClick(&cmdPicCopy(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &cmdZoom());
+}
+
+TEST_F(MapWindow, ArrowKeysGoFromButtonToButtonWhereNothingCanBeScrolled)
+{
+    openMap(denseMap);
+    cmdZoom().setFocus();
+    QTest::keyClick(&cmdZoom(), Qt::Key_Down);
+    EXPECT_EQ(QApplication::focusWidget(), &cmdPicCopy());
+}
+
+TEST_F(MapWindow, ArrowKeysWithAnotherKeyScrollNothing)
+{
+    ChildMapDsp& map = openMap(largeMap);
+    settle();
+    QTest::keyClick(&cmdZoom(), Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(outer(map).pos(), QPoint(0, 0));
+    QTest::keyClick(&cmdZoom(), Qt::Key_Down, Qt::KeypadModifier);
+    EXPECT_EQ(outer(map).pos(), QPoint(0, -60));
 }
 
 TEST_F(MapWindow, EveryMapIsFittedAnew)
@@ -237,6 +267,8 @@ TEST_F(MapWindow, CopyPutsAllPixelsOnTheClipboard)
     QTest::mouseClick(&cmdPicCopy(), Qt::LeftButton);
     EXPECT_EQ(QApplication::clipboard()->image().size(), QSize(400, 300));
     EXPECT_EQ(QApplication::clipboard()->text(), "");
+    EXPECT_TRUE(cmdPicCopy().isDown());
+    EXPECT_EQ(services.announced.count("Copied"), 1);
     QApplication::clipboard()->clear();
     QTest::keyClick(&frame(), Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->image().size(), QSize(400, 300));
@@ -251,6 +283,7 @@ TEST_F(MapWindow, CopyOfAnEmptyPictureClearsTheClipboardWithoutAMessage)
     EXPECT_EQ(QApplication::clipboard()->text(), "");
     EXPECT_TRUE(QApplication::clipboard()->image().isNull());
     EXPECT_TRUE(boxes.shown.isEmpty());
+    EXPECT_FALSE(services.announced.contains("Copied"));
 }
 
 TEST_F(MapWindow, ClipboardThatTakesNothingIsReported)
@@ -260,6 +293,7 @@ TEST_F(MapWindow, ClipboardThatTakesNothingIsReported)
     QTest::mouseClick(&cmdPicCopy(), Qt::LeftButton);
     ASSERT_EQ(boxes.shown.size(), 1);
     EXPECT_EQ(boxes.shown[0].title, clipboardErrorTitle);
+    EXPECT_FALSE(services.announced.contains("Copied"));
 }
 
 TEST_F(MapWindow, PictureThatCannotBeReadIsEmpty)

@@ -626,3 +626,72 @@ TEST_F(StudyAids, ATabBehindTheAboutWindowStaysAsItIs)
     pressMaps();
     EXPECT_EQ(TabStrip1().currentIndex(), 1);
 }
+
+TEST_F(StudyAids, ItsControlsStandWhereTheyWereDesigned)
+{
+    const QList<std::pair<QWidget*, QRect>> designed = {
+        {&TabStrip1(), {4, 12, 500, 440}},
+        {&Frame1(), {14, 44, 480, 90}},
+        {&optEvents(0), {9, 25, 225, 25}},
+        {&optEvents(1), {9, 55, 225, 25}},
+        {&optEvents(2), {246, 25, 225, 25}},
+        {&optEvents(3), {246, 55, 225, 25}},
+        {&Frame2(), {14, 144, 480, 298}},
+        {&Combo2(), {9, 27, 462, 25}},
+        {&List1(), {9, 58, 462, 231}},
+        {&Frame3(), {14, 44, 480, 398}},
+        {&lstMaps(), {9, 27, 462, 362}},
+        {&Frame4(), {14, 44, 480, 398}},
+        {&webPicture(), {204, 96, 72, 72}},
+        {&cmdBibWeb(), {150, 176, 180, 27}},
+        {&control<QLabel>(*aids, "Label1"), {9, 20, 462, 70}},
+    };
+    for (const auto& [control, place] : designed)
+        EXPECT_EQ(control->geometry(), place) << control->objectName().toStdString();
+}
+
+TEST_F(StudyAids, TheInvitationIsWrappedAndBeginsAtTheTop)
+{
+    const auto& label = control<QLabel>(*aids, "Label1");
+    EXPECT_TRUE(label.wordWrap());
+    EXPECT_TRUE(label.alignment().testFlag(Qt::AlignTop));
+}
+
+TEST_F(StudyAids, ThePictureOfTheSiteLooksLikeALink)
+{
+    EXPECT_FALSE(webPicture().icon().isNull());
+    EXPECT_EQ(webPicture().iconSize(), QSize(64, 64));
+    EXPECT_TRUE(webPicture().autoRaise());
+    EXPECT_EQ(webPicture().cursor().shape(), Qt::PointingHandCursor);
+    choosePage(2);
+    TabStrip1().setFocus();
+    QTest::keyClick(&TabStrip1(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &cmdBibWeb());
+}
+
+TEST_F(StudyAids, TabsAreAsWideAsTheirTexts)
+{
+    EXPECT_LT(TabStrip1().tabRect(2).right(), TabStrip1().width() - 20);
+    EXPECT_FALSE(TabStrip1().usesScrollButtons());
+    EXPECT_FALSE(TabStrip1().drawBase());
+}
+
+// Its edge runs under the other tabs, and around the pages.
+TEST_F(StudyAids, ThePaneIsOpenToTheChosenTabAlone)
+{
+    choosePage(0);
+    const QImage image = TabStrip1().grab().toImage();
+    const int top = TabStrip1().tabRect(0).bottom();
+    const auto inside = image.pixelColor(image.width() / 2, image.height() - 10);
+    const auto at = [&](int x, int y) { return image.pixelColor(x, y); };
+    EXPECT_EQ(at(TabStrip1().tabRect(0).center().x(), top), inside);
+    EXPECT_NE(at(TabStrip1().tabRect(1).center().x(), top), inside);
+    EXPECT_NE(at(image.width() - 30, top), inside);
+    EXPECT_NE(at(0, image.height() / 2), inside);
+    EXPECT_NE(at(image.width() - 1, image.height() / 2), inside);
+    EXPECT_NE(at(image.width() / 2, image.height() - 1), inside);
+    const QImage tab = image.copy(TabStrip1().tabRect(1).adjusted(8, 4, -8, -4));
+    QImage blank(tab.size(), tab.format());
+    blank.fill(tab.pixel(0, 0));
+    EXPECT_NE(tab, blank) << "its text is not drawn";
+}

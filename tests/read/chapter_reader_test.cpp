@@ -190,3 +190,11 @@ TEST_F(ChapterReader, DoesNothingBehindAMessage)
     text().setCursorPosition(5);
     EXPECT_EQ(text().cursorPosition(), 5);
 }
+
+TEST_F(ChapterReader, ScrollsBackToTheCaretThatItWasScrolledAwayFrom)
+{
+    box.verticalScrollBar()->setValue(box.verticalScrollBar()->maximum());
+    ASSERT_FALSE(isOnShow(0));
+    text().scrollToSubstring(0, 0);
+    EXPECT_TRUE(isOnShow(0));
+}

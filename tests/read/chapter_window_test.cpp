@@ -603,3 +603,21 @@ TEST_F(ChapterWindow, TabGoesFromTheTextThroughTheButtons)
         EXPECT_EQ(QApplication::focusWidget(), next);
     }
 }
+
+TEST_F(ChapterWindow, ItsButtonsStandWhereTheyWereDesigned)
+{
+    const ChapRead& window = openChapterOf("Mt:24:43");
+    int top = 4;
+    for (const char* name : {"cmdFont", "cmdFntFace", "cmdChapCopy", "cmdTip"}) {
+        EXPECT_EQ(control<SoftBttn>(window, name).geometry(), QRect(538, top, 27, 27)) << name;
+        top += 28;
+    }
+}
+
+TEST_F(ChapterWindow, ItsScrollBarHasTheColorsOfTheWindow)
+{
+    const ChapRead& window = openChapterOf("Mt:24:43");
+    const QScrollBar& bar = *textOf(window).verticalScrollBar();
+    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::WindowText, QPalette::Text})
+        EXPECT_EQ(bar.palette().color(role), window.palette().color(role));
+}

@@ -721,3 +721,69 @@ TEST_F(Reading, TheKeyIsDrawnInEightPointsOrMoreWhereThatFits)
     hand("VerseId = 'Est:8:9'");
     EXPECT_GE(control<VerseKeyLabel>(*window, "lblVerseId").drawnFont().pointSize(), 8);
 }
+
+TEST_F(Reading, ItsControlsStandWhereTheyWereDesigned)
+{
+    const QList<std::pair<QString, QRect>> designed = {
+        {"VerseText", {4, 4, 448, 284}},   {"lblSerial", {456, 224, 65, 25}},
+        {"cmdPrev", {346, 295, 53, 27}},   {"cmdNext", {399, 295, 53, 27}},
+        {"chkAuto", {4, 303, 188, 20}},    {"cboSeconds", {194, 300, 52, 23}},
+        {"Label2", {250, 304, 60, 17}},    {"cmdFont", {459, 4, 27, 27}},
+        {"cmdFntFace", {459, 32, 27, 27}}, {"cmdCopy", {459, 60, 27, 27}},
+        {"cmdChap", {459, 88, 27, 27}},
+    };
+    for (const auto& [name, place] : designed)
+        EXPECT_EQ(control<QWidget>(*window, name).geometry(), place) << name.toStdString();
+}
+
+TEST_F(Reading, TheSecondsHaveTheAccessKeyOfTheWordBehindThem)
+{
+    press(Qt::Key_D, Qt::AltModifier);
+    EXPECT_TRUE(seconds().hasFocus());
+}
+
+TEST_F(Reading, AutoJumpTakesTheSecondsThatAnAssistiveProgramChose)
+{
+    EXPECT_EQ(timer().timerType(), Qt::PreciseTimer);
+    seconds().setCurrentIndex(6); // which tells of no choice
+    autoJump().click();
+    EXPECT_EQ(timer().interval(), 12000);
+}
+
+TEST_F(Reading, TellsItsCallerWhetherThereIsSuchAVerse)
+{
+    EXPECT_TRUE(window->fetch("SELECT * FROM NewTestament WHERE VerseNumber = 1"));
+    EXPECT_FALSE(window->fetch("SELECT * FROM NewTestament WHERE VerseNumber = 0"));
+}
+
+TEST_F(Reading, TheWheelOverAVersesEndNeverMovesTheFramesArea)
+{
+    hand("VerseId = 'Est:8:9'");
+    frame().resize(600, 300);
+    settle();
+    QScrollBar& area = *frame().area()->verticalScrollBar();
+    ASSERT_GT(area.maximum(), 0);
+    const int before = area.value();
+    auto* bar = verse().findChild<QScrollBar*>();
+    bar->setValue(bar->maximum());
+    turnWheel(verse());
+    hand("VerseId = 'Jn:11:35'");
+    turnWheel(verse());
+    EXPECT_EQ(area.value(), before);
+}
+
+TEST_F(Reading, TheScrollBarOfAVerseHasTheColorsOfTheWindow)
+{
+    const auto* bar = verse().findChild<QScrollBar*>();
+    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::WindowText, QPalette::Text})
+        EXPECT_EQ(bar->palette().color(role), window->palette().color(role));
+}
+
+TEST_F(Reading, TheVerseIsSunkInAFrame)
+{
+    const QImage image = verse().grab().toImage();
+    const QPoint middle = image.rect().center();
+    for (const QPoint edge : {QPoint(0, middle.y()), QPoint(middle.x(), 0)})
+        EXPECT_NE(image.pixelColor(edge), QColor(255, 255, 224));
+    EXPECT_EQ(image.pixelColor(middle.x(), image.height() - 4), QColor(255, 255, 224));
+}

@@ -21,6 +21,7 @@ TEST(Stepping, FromAnEmptyLabelGoesToOneOrToNoVerse)
 TEST(Stepping, ReadsTheNumberAtTheStartOfAText)
 {
     EXPECT_EQ(leadingNumber("42"), 42);
+    EXPECT_EQ(leadingNumber("1234567890"), 1234567890);
     EXPECT_EQ(leadingNumber("  42 and more"), 42);
     EXPECT_EQ(leadingNumber("-3"), -3);
     EXPECT_EQ(leadingNumber("Mt:1:1"), 0);

@@ -279,3 +279,59 @@ TEST_F(Box, AlwaysHasItsVerticalScrollBar)
     EXPECT_FALSE(box->horizontalScrollBar()->isVisible());
     EXPECT_GT(box->verticalScrollBar()->maximum(), 0);
 }
+
+TEST_F(Box, IsEmptyAtFirst)
+{
+    EXPECT_EQ(box->selStart(), 0);
+    EXPECT_EQ(box->selLength(), 0);
+    box->setSelection(3, 5);
+    EXPECT_EQ(box->selText(), "");
+}
+
+TEST_F(Box, ASelectionWithoutRoomIsCenteredFromItsStart)
+{
+    const QString text = manyLines(300);
+    box->setText(text);
+    const qsizetype start = text.indexOf("line 100\r\n");
+    box->setSelection(start, text.indexOf("line 200\r\n") - start);
+    box->centerSelection();
+    EXPECT_TRUE(onShow(start));
+    EXPECT_EQ(box->selStart(), start);
+}
+
+TEST_F(Box, CentersTheMiddleOfASelection)
+{
+    box->setText(manyLines(300));
+    box->setSelection(box->text().indexOf("line 150\r\n"), 8);
+    box->centerSelection();
+    const int middle = box->viewport()->height() / 2;
+    EXPECT_NEAR(box->cursorRect().center().y(), middle, box->fontMetrics().lineSpacing());
+}
+
+TEST_F(Box, AnotherTypeDoesNotScrollToACaretWithoutSelection)
+{
+    box->setText(manyLines(300));
+    box->setSelection(box->text().indexOf("line 100\r\n"), 0);
+    const int before = box->verticalScrollBar()->value();
+    QFont larger = box->font();
+    larger.setPointSize(larger.pointSize() + 6);
+    box->setType(larger);
+    EXPECT_EQ(box->verticalScrollBar()->value(), before);
+}
+
+// As when the window cuts the last line that shows.
+TEST_F(Box, ASelectionOfWhichOnePixelShowsStaysOnShowInAnotherType)
+{
+    box->setText(manyLines(300));
+    const qsizetype below = box->text().indexOf("line 8\r\n");
+    box->setSelection(below, 6);
+    box->verticalScrollBar()->setValue(0);
+    const int hidden = box->viewport()->height() - box->cursorRect().top() - 1;
+    box->setFixedHeight(box->height() - hidden);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(box->cursorRect().top(), box->viewport()->rect().bottom());
+    QFont larger = box->font();
+    larger.setPointSize(larger.pointSize() + 6);
+    box->setType(larger);
+    EXPECT_TRUE(onShow(below));
+}

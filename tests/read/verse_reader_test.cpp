@@ -4,6 +4,7 @@
 #include "widgets/Fonts.h"
 #include <gtest/gtest.h>
 #include <QAccessible>
+#include <QPaintEvent>
 #include <QScrollBar>
 #include <QTest>
 
@@ -162,4 +163,86 @@ TEST(VerseKey, WithoutRoomForItIsTheSmallestInTwoLines)
     key.setGeometry(0, 0, 8, 8);
     EXPECT_EQ(key.drawnKey(), "1Thes:\n5:28");
     EXPECT_EQ(key.drawnFont().pointSize(), 7);
+}
+
+TEST_F(VerseReader, IsPaintedAnewWhenItIsScrolled)
+{
+    class Painted : public QObject
+    {
+    public:
+        bool since = false;
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            if (event->type() == QEvent::Paint)
+                since = since || static_cast<QPaintEvent*>(event)->region().contains(QPoint(20, 20));
+            return false;
+        }
+    } painted;
+    QTest::qWait(1);
+    label.installEventFilter(&painted);
+    bar().setValue(1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return painted.since; }, 1000));
+}
+
+TEST_F(VerseReader, TheTextStandsSixPixelsInsideTheFrameAndItsScrollBar)
+{
+    const QRect inside = label.contentsRect();
+    EXPECT_EQ(bar().geometry(), QRect(inside.right() + 1 - bar().sizeHint().width(), inside.top(),
+                                      bar().sizeHint().width(), inside.height()));
+    const QPoint first = label.mapFromGlobal(text().characterRect(0).topLeft());
+    EXPECT_EQ(first, inside.topLeft() + QPoint(6, 6));
+    label.setText(QString("i ").repeated(400)); // so that a line ends close to where the room does
+    text().textAtOffset(0, QAccessible::LineBoundary, &start, &end);
+    const int right = label.mapFromGlobal(text().characterRect(end - 2).bottomRight()).x();
+    EXPECT_LE(right, bar().x() - 6 - 1);
+}
+
+TEST_F(VerseReader, AsManyLinesShowAsHaveRoom)
+{
+    const int spacing = label.fontMetrics().lineSpacing();
+    const int edges = label.height() - label.contentsRect().height() + 2 * 6 - label.fontMetrics().leading();
+    label.resize(label.width(), 3 * spacing + edges);
+    const int lines = bar().maximum() + 3;
+    EXPECT_EQ(bar().pageStep(), 2);
+    label.resize(label.width(), 3 * spacing + edges - 1);
+    EXPECT_EQ(bar().maximum(), lines - 2);
+    EXPECT_EQ(bar().pageStep(), 1);
+    label.resize(label.width(), 5);
+    EXPECT_EQ(bar().maximum(), lines - 1) << "one always does";
+    EXPECT_EQ(bar().pageStep(), 1);
+}
+
+TEST_F(VerseReader, HasNoScrollBarWhereTheWholeVerseJustHasRoom)
+{
+    label.setText(" And");
+    const int edges = label.height() - label.contentsRect().height() + 2 * 6 - label.fontMetrics().leading();
+    label.resize(label.width(), label.fontMetrics().lineSpacing() + edges);
+    EXPECT_FALSE(bar().isVisible());
+    EXPECT_EQ(bar().maximum(), 0);
+    label.setText(longVerse);
+    EXPECT_TRUE(bar().isVisible());
+}
+
+TEST(VerseKey, IsDrawnInTheLargestTypeThatJustFits)
+{
+    QWidget column;
+    column.resize(300, 300);
+    VerseKeyLabel key("1Thes:5:28", &column);
+    const auto drawnIn = [&](QSize room) {
+        key.setGeometry(QRect(QPoint(), room));
+        return key.drawnKey() + "|" + QString::number(key.drawnFont().pointSize());
+    };
+    const auto sizeOf = [](int points, const QString& text) {
+        return QFontMetrics(Fonts::captionsOf(points)).size(0, text);
+    };
+    const QString one = "1Thes:5:28";
+    const QString two = "1Thes:\n5:28";
+    EXPECT_EQ(drawnIn(sizeOf(9, one)), one + "|9");
+    EXPECT_EQ(drawnIn(sizeOf(9, one) - QSize(1, 0)), one + "|8");
+    EXPECT_EQ(drawnIn(sizeOf(9, one) - QSize(0, 1)), one + "|8");
+    EXPECT_EQ(drawnIn(sizeOf(8, one)), one + "|8");
+    EXPECT_EQ(drawnIn({sizeOf(8, one).width() - 1, sizeOf(9, two).height()}), two + "|9");
+    EXPECT_EQ(drawnIn(sizeOf(8, two)), two + "|8");
+    EXPECT_EQ(drawnIn(sizeOf(7, one)), one + "|7");
+    EXPECT_EQ(drawnIn(sizeOf(7, two)), two + "|7");
 }
