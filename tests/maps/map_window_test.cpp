@@ -84,9 +84,9 @@ TEST_F(MapWindow, ArrowKeysWithAnotherKeyScrollNothing)
 {
     ChildMapDsp& map = openMap(largeMap);
     settle();
-    QTest::keyClick(&cmdZoom(), Qt::Key_Down, Qt::ShiftModifier);
+    press(Qt::Key_Down, Qt::ShiftModifier);
     EXPECT_EQ(outer(map).pos(), QPoint(0, 0));
-    QTest::keyClick(&cmdZoom(), Qt::Key_Down, Qt::KeypadModifier);
+    press(Qt::Key_Down, Qt::KeypadModifier);
     EXPECT_EQ(outer(map).pos(), QPoint(0, -60));
 }
 
