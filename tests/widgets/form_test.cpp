@@ -279,3 +279,28 @@ TEST_F(ChildWindow, ThatAddsNothingToItsLifeLivesAsWell)
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(quiet.isNull());
 }
+
+TEST_F(ChildWindow, IsClosedByTheKeysOfInnerWindows)
+{
+    for (const Qt::Key key : {Qt::Key_F4, Qt::Key_W}) {
+        QPointer<Quiet> quiet = new Quiet(frame());
+        quiet->loadInto(*frame().area());
+        quiet->activate();
+        press(key, Qt::ControlModifier);
+        settle();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_TRUE(quiet.isNull()) << key;
+    }
+}
+
+TEST_F(ChildWindow, GivesNoFocusToAControlThatIsDisabledOrHidden)
+{
+    for (const bool hidden : {true, false}) {
+        diary->first->setFocus();
+        frame().openSelection();
+        hidden ? diary->first->hide() : diary->first->setEnabled(false);
+        diary->activate();
+        EXPECT_TRUE(diary->second->hasFocus()) << hidden;
+        diary->first->show();
+    }
+}

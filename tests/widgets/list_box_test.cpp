@@ -240,3 +240,30 @@ TEST_F(Lines, GoesToTheLineThatIsTyped)
     EXPECT_EQ(rowOfTyped(first, "nowhere"), QModelIndexList());
     EXPECT_EQ(rowOfTyped({}, "line 3"), QModelIndexList()) << "from no line at all";
 }
+
+TEST_F(Lines, TellWhereThePointerMovesWhileNoButtonIsHeld)
+{
+    QList<QPoint> places;
+    QObject::connect(&list, &ListBox::pointerMoved, [&](const QPoint& point) { places << point; });
+    EXPECT_TRUE(list.viewport()->hasMouseTracking()) << "or Qt tells of no such move";
+    send(QEvent::MouseMove, pointOf(2), Qt::NoButton, Qt::NoButton);
+    moveTo(pointOf(3));
+    EXPECT_EQ(places, QList<QPoint>({pointOf(2)}));
+}
+
+TEST_F(Lines, AreSoughtRoundAndByTheWordAfterAnArticle)
+{
+    EXPECT_EQ(rowOfTyped(list.model()->index(3, 0), "line 1"), QModelIndexList({list.model()->index(1, 0)}));
+    ListLines lines;
+    for (const char* line : {"The Ark", "A Lamb", "An Altar", "Another", "Theft"})
+        lines.add(line, "");
+    list.setLines(std::move(lines));
+    const QModelIndex first = list.model()->index(0, 0);
+    const auto rowOf = [&](const char* typed) { return rowOfTyped(first, typed).value(0).row(); };
+    EXPECT_EQ(rowOf("ark"), 0);
+    EXPECT_EQ(rowOf("lamb"), 1);
+    EXPECT_EQ(rowOf("altar"), 2);
+    EXPECT_EQ(rowOf("other"), -1) << "which stands after no article";
+    EXPECT_EQ(rowOf("the"), 0);
+    EXPECT_EQ(rowOf("thef"), 4);
+}

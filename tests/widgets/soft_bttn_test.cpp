@@ -36,6 +36,18 @@ protected:
     QSignalSpy clicks{&button, &QAbstractButton::clicked};
 };
 
+/// Sees whether what it watches has been painted.
+class Painted : public QObject
+{
+public:
+    bool since = false;
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        since = since || event->type() == QEvent::Paint;
+        return false;
+    }
+};
+
 // How many pixels of an image have a colour.
 int count(const QImage& image, const QColor& color)
 {
@@ -232,16 +244,7 @@ TEST_F(PictureButton, TellsItsPropertiesByTheirNames)
 
 TEST_F(PictureButton, IsPaintedAnewWhenItsLookIsSet)
 {
-    class Painted : public QObject
-    {
-    public:
-        bool since = false;
-        bool eventFilter(QObject*, QEvent* event) override
-        {
-            since = since || event->type() == QEvent::Paint;
-            return false;
-        }
-    } painted;
+    Painted painted;
     button.installEventFilter(&painted);
     const auto paintedAfter = [&](const char* property, const QVariant& value) {
         QTest::qWait(1);
@@ -270,4 +273,13 @@ TEST_F(PictureButton, IsLighterUnderThePointerOnADarkDesktopToo)
     EXPECT_GT(shot().pixelColor(3, 12).lightness(), resting);
     button.setDown(true);
     EXPECT_LT(shot().pixelColor(3, 12).lightness(), resting);
+}
+
+TEST_F(PictureButton, TheFocusRingLeavesThePictureInSight)
+{
+    QPixmap pixmap(24, 24);
+    pixmap.fill(Qt::blue);
+    button.setPicture(pixmap);
+    button.setFocus();
+    EXPECT_EQ(shot().pixelColor(12, 12), QColor(Qt::blue));
 }
