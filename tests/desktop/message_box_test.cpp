@@ -119,3 +119,33 @@ TEST(MsgBox, StandsBesideWhatItAnnouncesWhereThereIsRoom)
     MsgBox::show("8 verse(s) found.", MsgIcon::Information, MsgButtons::Ok,
                  "Search Results:", screen); // no room
 }
+
+/// 12 x 40 pixels are left for the desktop's border and title bar, 34 of them above the box.
+TEST(MsgBox, StandsCloselyBesideWhatItAnnounces)
+{
+    QWidget window;
+    const QRect screen = window.screen()->availableGeometry();
+    window.setGeometry(screen);
+    window.show();
+    makeActive(&window);
+    const QPoint middle = screen.center();
+    const auto boxBeside = [](const QRect& announced) {
+        QRect place;
+        const auto looking =
+            whenShown(Qt::Key_Return, [&](QMessageBox& box) { place = QRect(box.pos(), box.size()); });
+        MsgBox::show("8 verse(s) found.", MsgIcon::Information, MsgButtons::Ok, "Search Results:", announced);
+        return place;
+    };
+    const QRect above(screen.topLeft(), QPoint(screen.right(), middle.y()));
+    EXPECT_EQ(boxBeside(above).y(), above.bottom() + 1 + 34);
+    const QRect left(screen.topLeft(), QPoint(middle.x() - 100, screen.bottom()));
+    EXPECT_EQ(boxBeside(left).x(), left.right() + 1);
+    const QRect below(QPoint(screen.left(), middle.y()), screen.bottomRight());
+    const QRect over = boxBeside(below);
+    EXPECT_EQ(over.y(), below.top() - over.height() - 40);
+    const QRect right(QPoint(middle.x() + 100, screen.top()), screen.bottomRight());
+    const QRect beside = boxBeside(right);
+    EXPECT_EQ(beside.x(), right.left() - beside.width() - 12);
+    const QRect usual = boxBeside({});
+    EXPECT_EQ(boxBeside(QRect(0, 0, 50, 50)), usual) << "which it does not cover";
+}
