@@ -11,6 +11,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTimer>
@@ -754,4 +755,41 @@ TEST_F(Selection, TheListOfBooksOpensWithoutAChoiceForAnEmptyReference)
     combo().showPopup();
     EXPECT_FALSE(combo().view()->currentIndex().isValid());
     combo().hidePopup();
+}
+
+TEST_F(Selection, ReopensAtTheLeftTopOfTheFrame)
+{
+    frame().openSearch();
+    frame().readingWindow().restoreAndActivate();
+    window->unload();
+    settle();
+    frame().openSelection();
+    EXPECT_EQ(outer(get<ChildSelect>()).pos(), QPoint(0, 0));
+}
+
+TEST_F(Selection, SpeaksOfItsBoxAndShowsNoHeadAboveTheBooks)
+{
+    EXPECT_EQ(box->accessibleName(), "Reference");
+    EXPECT_FALSE(tree().header()->isVisible());
+}
+
+TEST_F(Selection, TheListOpensWithTheBookInItsMiddle)
+{
+    combo().setEditText("Is");
+    combo().showPopup();
+    settle();
+    QAbstractItemView& list = *combo().view();
+    ASSERT_GT(list.verticalScrollBar()->maximum(), 0);
+    const int row = list.visualRect(list.currentIndex()).center().y();
+    EXPECT_NEAR(row, list.viewport()->rect().center().y(), list.visualRect(list.currentIndex()).height());
+    combo().hidePopup();
+}
+
+TEST_F(Selection, ATextPutIntoTheBoxMeanwhileIsNotSelected)
+{
+    box->setSelection(0, 2);
+    frame().menuBar()->setFocus(Qt::MenuBarFocusReason);
+    box->setText("Acts");
+    combo().setFocus(Qt::MenuBarFocusReason);
+    EXPECT_EQ(box->selectedText(), "");
 }
