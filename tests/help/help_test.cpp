@@ -4,6 +4,7 @@
 #include "help/HelpControls.h"
 #include "help/HelpFile.h"
 #include "help/ShippedHelp.h"
+#include "pictures/LinkColor.h"
 #include "store/BookCatalog.h"
 #include "support/OnceModal.h"
 #include "support/Session.h"
@@ -23,6 +24,7 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QToolBar>
 #include <QToolButton>
 #include <QWindow>
 
@@ -226,8 +228,7 @@ TEST_F(HelpSession, FitsOnASmallScreen)
 {
     pageOnF1();
     const QSize room = helpWindow()->screen()->availableSize();
-    EXPECT_LT(helpWindow()->width(), room.width());
-    EXPECT_LT(helpWindow()->height(), room.height());
+    EXPECT_EQ(helpWindow()->size(), QSize(840, 600).boundedTo(room * 0.92));
 }
 
 TEST_F(HelpSession, ToolbarBelongsToTheActiveChildWindow)
@@ -651,4 +652,101 @@ TEST_F(HelpSession, ComesToTheFrontWhenItIsAskedForAgain)
     ASSERT_EQ(raised.times, 0);
     EXPECT_EQ(pageOnF1(), "ChildSelect");
     EXPECT_EQ(raised.times, 1);
+}
+
+TEST_F(HelpSession, OpensInFrontWithTheFocusInThePage)
+{
+    pageOnF1();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(helpWindow()));
+    EXPECT_EQ(helpWindow()->focusWidget(), &browser(*helpWindow()));
+    EXPECT_FALSE(helpWindow()->windowIcon().isNull());
+}
+
+TEST_F(HelpSession, WritesItsPagesAsDesigned)
+{
+    pageOnF1();
+    const HelpBrowser& page = browser(*helpWindow());
+    EXPECT_EQ(page.font().family(), "Tahoma");
+    EXPECT_EQ(page.font().pointSize(), 10);
+    EXPECT_EQ(page.document()->documentMargin(), 12); // 180 twips
+}
+
+TEST_F(HelpSession, ItsToolbarStaysAndHasItsGroups)
+{
+    pageOnF1();
+    const auto& toolbar = control<QToolBar>(*helpWindow(), "toolbar");
+    EXPECT_FALSE(toolbar.isMovable());
+    EXPECT_EQ(toolbar.accessibleName(), "Help Toolbar");
+    EXPECT_EQ(helpWindow()->contextMenuPolicy(), Qt::NoContextMenu) << "which would hide the toolbar";
+    EXPECT_FALSE(helpWindow()->statusBar()->isSizeGripEnabled());
+    EXPECT_EQ(searchText(*helpWindow()).accessibleName(), "Find:");
+    QString groups;
+    for (const QAction* item : toolbar.actions())
+        groups += item->isSeparator() ? "| " : item->objectName().isEmpty() ? "* " : item->objectName() + ' ';
+    EXPECT_EQ(groups,
+              "back forward | * * findNext findPrevious | copy larger smaller normalSize | otherLanguage ");
+}
+
+TEST_F(HelpSession, TabGoesFromTheTextToFindToTheButtonsBesideIt)
+{
+    HelpWindow& window = openHelp("Welcome");
+    searchText(window).setFocus();
+    press(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &control<QToolButton>(window, "findNext"));
+}
+
+TEST_F(HelpSession, FindSelectsWhatWasSoughtBefore)
+{
+    HelpWindow& window = openHelp("Welcome");
+    searchText(window).setText("verse");
+    browser(window).setFocus();
+    press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::focusWidget(), &searchText(window));
+    EXPECT_EQ(searchText(window).selectedText(), "verse");
+}
+
+TEST_F(HelpSession, SaysNoLongerThatAWordIsNowhereOnceAnotherIsFoundOrAPageChosen)
+{
+    HelpWindow& window = openHelp("Credits");
+    const auto seekNothing = [&] {
+        searchText(window).setText("xyzzy");
+        action(window, "findNext").trigger();
+        EXPECT_NE(window.statusBar()->currentMessage(), "");
+    };
+    seekNothing();
+    searchText(window).setText("GSHHG");
+    action(window, "findNext").trigger();
+    EXPECT_EQ(window.statusBar()->currentMessage(), "") << "found on the same page";
+    seekNothing();
+    window.showPage("Keys");
+    EXPECT_EQ(window.statusBar()->currentMessage(), "");
+}
+
+TEST_F(HelpSession, ItsTypeHasABoundAtEachEnd)
+{
+    HelpWindow& window = openHelp("Welcome");
+    const auto sizeAfter = [&](int times, const char* command) {
+        while (times-- > 0)
+            action(window, command).trigger();
+        return browser(window).font().pointSize();
+    };
+    EXPECT_EQ(sizeAfter(21, "larger"), 30);
+    EXPECT_EQ(sizeAfter(24, "smaller"), 7);
+    EXPECT_EQ(sizeAfter(1, "normalSize"), 10);
+}
+
+TEST(HelpBrowser, WritesItsLinksInAColorThatIsReadOnADarkDesktop)
+{
+    const QPalette before = QApplication::palette();
+    QPalette dark = before;
+    dark.setColor(QPalette::Base, QColor(0x202020));
+    dark.setColor(QPalette::Text, Qt::white);
+    QApplication::setPalette(dark);
+    HelpBrowser browser(nullptr);
+    QApplication::setPalette(before);
+    browser.setPages(helpPages("<section id=\"One\"><h1>First</h1><a href=\"#One\">x</a></section>"));
+    browser.showPage("One");
+    const QTextCharFormat link = browser.document()->find("x").charFormat();
+    ASSERT_TRUE(link.isAnchor());
+    EXPECT_EQ(link.foreground().color(), linkColor(dark, QPalette::Base, QPalette::Text));
 }
