@@ -5,6 +5,7 @@
 #include "app/frmQORV.h"
 #include "app/LinkLabel.h"
 #include "desktop/MsgBox.h"
+#include "pictures/LinkColor.h"
 #include "support/OnceModal.h"
 #include "support/Session.h"
 #include "widgets/Maker.h"
@@ -555,4 +556,65 @@ TEST(LinkLabel, IsAsLargeAsItsPictureOrItsText)
     EXPECT_EQ(picture.sizeHint(), QSize(20, 24));
     LinkLabel text("mail", nullptr);
     EXPECT_GT(text.sizeHint().width(), text.fontMetrics().horizontalAdvance("mail"));
+}
+
+TEST(LinkLabel, LeavesItsRingThreePixelsBesideTheText)
+{
+    const LinkLabel text("cmdMail", "mail", nullptr);
+    EXPECT_EQ(text.sizeHint().width(), text.fontMetrics().size(Qt::TextSingleLine, "mail").width() + 6);
+}
+
+TEST(LinkLabel, ShowsItsPicture)
+{
+    QPixmap green(16, 16);
+    green.fill(Qt::green);
+    LinkLabel picture("Image2", QIcon(green), nullptr);
+    picture.resize(16, 16);
+    EXPECT_EQ(picture.grab().toImage().pixelColor(8, 8), QColor(Qt::green));
+}
+
+TEST(LinkLabel, HasAHandForItsPointer)
+{
+    EXPECT_EQ(LinkLabel("cmdMail", "mail", nullptr).cursor().shape(), Qt::PointingHandCursor);
+    EXPECT_EQ(LinkLabel("Image2", iconOf(PictureId::Mail), nullptr).cursor().shape(), Qt::PointingHandCursor);
+}
+
+TEST(LinkLabel, IsUnderlinedInTheColorOfLinksWithARingWhileItHasTheFocus)
+{
+    QWidget window;
+    LinkLabel link("cmdMail", "mail", &window);
+    link.resize(link.sizeHint());
+    window.show();
+    makeActive(&window);
+    link.clearFocus();
+    const QImage plain = link.grab().toImage();
+    const QColor color = linkColor(link.palette(), QPalette::Window, QPalette::WindowText);
+    int longest = 0;
+    for (int y = 0; y < plain.height(); ++y) {
+        int inRow = 0;
+        for (int x = 0; x < plain.width(); ++x)
+            inRow += plain.pixelColor(x, y) == color;
+        longest = qMax(longest, inRow);
+    }
+    EXPECT_GE(longest, link.fontMetrics().horizontalAdvance("mail") - 2);
+    QTest::keyClick(&window, Qt::Key_Tab);
+    ASSERT_TRUE(link.hasFocus());
+    EXPECT_NE(link.grab().toImage(), plain);
+}
+
+TEST_F(About, ALetterIsReadAndSelectedByKeys)
+{
+    whileAboutIsOpen([&](frmStart& window) {
+        whileLetterIsOpen([&] { click(button(window, "cmdDonation")); },
+                          [&](QDialog& letter) {
+                              EXPECT_EQ(letter.size(), QSize(480, 400)); // 7200 x 6000 twips
+                              QPlainTextEdit& text = textOf(letter);
+                              EXPECT_EQ(text.font().family(), "Tahoma");
+                              EXPECT_EQ(text.font().pointSize(), 10);
+                              EXPECT_FALSE(text.testAttribute(Qt::WA_InputMethodEnabled))
+                                  << "nothing is written";
+                              press(Qt::Key_Right, Qt::ShiftModifier);
+                              EXPECT_EQ(text.textCursor().selectedText(), "T");
+                          });
+    });
 }

@@ -1,12 +1,15 @@
 // The top level of the program: an error that nobody caught, lists that open where they must not.
 #include "app/Application.h"
 #include "support/Recorders.h"
+#include "widgets/Fonts.h"
 #include <cstdio>
 #include <gtest/gtest.h>
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QDialog>
 #include <QLoggingCategory>
+#include <QPalette>
+#include <QPixmapCache>
 #include <QTest>
 #include <QTimer>
 #include <stdexcept>
@@ -81,6 +84,35 @@ TEST(OpenedList, ClosesBehindAMessageAndStaysElsewhere)
     box.showPopup();
     QTest::qWait(0);
     EXPECT_FALSE(box.view()->isVisible());
+}
+
+TEST(QtsWarnings, AreLeftOutWhereTheyAreOfWhatIsHandled)
+{
+    for (const char* name :
+         {"qt.gui.imageio", "qt.qpa.clipboard", "qt.accessibility.atspi", "qt.qpa.wayland"})
+        EXPECT_FALSE(QLoggingCategory(name).isWarningEnabled()) << name;
+}
+
+TEST(TheApplication, HasItsNameAndAddsNothingToCaptions)
+{
+    EXPECT_EQ(QApplication::applicationName(), "kestrel-reader");
+    EXPECT_EQ(QApplication::applicationDisplayName(), "");
+    EXPECT_EQ(QApplication::desktopFileName(), "io.github.kestrelreader.KestrelReader");
+}
+
+TEST(TheApplication, KeepsFewPicturesOfButtonsInMemory)
+{
+    EXPECT_EQ(QPixmapCache::cacheLimit(), 512); // kB
+}
+
+TEST(TheApplication, HasOneTypeAndOneColorOfSelections)
+{
+    EXPECT_EQ(QApplication::font(), Fonts::captionsOf(9));
+    const QPalette colors = QApplication::palette();
+    EXPECT_EQ(colors.color(QPalette::Active, QPalette::Highlight), QColor(0x12559c));
+    EXPECT_EQ(colors.color(QPalette::Active, QPalette::HighlightedText), QColor(Qt::white));
+    EXPECT_EQ(colors.color(QPalette::Inactive, QPalette::Highlight), QColor(0x6391c0));
+    EXPECT_EQ(colors.color(QPalette::Inactive, QPalette::HighlightedText), QColor(Qt::black));
 }
 
 TEST(QtsWarnings, AreKeptQuietUntilThereIsAnApplication)

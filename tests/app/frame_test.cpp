@@ -290,3 +290,55 @@ TEST_F(Frame, ArrangesMinimisedWindowsAlongTheBottom)
     EXPECT_FALSE(outer(reading).geometry().intersects(outer(get<ChildSelect>()).geometry()));
     EXPECT_EQ(qMin(outer(reading).x(), outer(get<ChildSelect>()).x()), 0);
 }
+
+TEST_F(Frame, HasAnIconAndAnAreaWithAName)
+{
+    EXPECT_FALSE(frame().windowIcon().isNull());
+    EXPECT_EQ(frame().area()->accessibleName(), "Windows");
+}
+
+TEST_F(Frame, ItsAreaFillsWhatTheToolbarLeaves)
+{
+    const QWidget& toolbar = control<QWidget>(frame(), "picToolbar");
+    EXPECT_EQ(toolbar.height(), 26); // 390 twips
+    const QRect area(frame().area()->mapTo(&frame(), QPoint()), frame().area()->size());
+    EXPECT_EQ(area.topLeft(), QPoint(0, frame().menuBar()->height() + toolbar.height()));
+    EXPECT_EQ(area.bottomRight(), frame().rect().bottomRight());
+}
+
+TEST_F(Frame, TakesMostOfASmallScreenOnceItIsNoLongerMaximised)
+{
+    const QSize room = frame().screen()->availableSize();
+    frame().showNormal();
+    settle();
+    EXPECT_EQ(frame().size(), QSize(room.width() * 92 / 100, room.height() * 92 / 100));
+}
+
+TEST_F(Frame, F2ScrollsNothingWhileTheSelectionWindowShows)
+{
+    outer(frame().readingWindow()).move(frame().area()->width() * 2, frame().area()->height() * 2);
+    outer(get<ChildSelect>()).move(5, 5);
+    settle();
+    ASSERT_GT(frame().area()->verticalScrollBar()->maximum(), 0);
+    press(Qt::Key_F2);
+    settle();
+    EXPECT_EQ(outer(get<ChildSelect>()).pos(), QPoint(5, 5));
+}
+
+TEST_F(Frame, ItsMenuBarKeepsNoFocusWhereNoWindowIsOpen)
+{
+    outer(get<ChildSelect>()).close();
+    settle();
+    frame().menuBar()->setFocus(Qt::ActiveWindowFocusReason); // as it comes back with the frame
+    EXPECT_FALSE(frame().menuBar()->hasFocus());
+}
+
+TEST_F(Frame, TheWindowMenuIsMadeAnewEachTime)
+{
+    QMenu* menu = menuOf(frame(), "&Window");
+    get<ChildSelect>().setCaption("Law & Prophets");
+    QMetaObject::invokeMethod(menu, "aboutToShow");
+    QMetaObject::invokeMethod(menu, "aboutToShow");
+    ASSERT_EQ(menu->actions().size(), 3);
+    EXPECT_EQ(menu->actions().constLast()->text(), "&1 Law && Prophets");
+}

@@ -207,6 +207,22 @@ TEST_F(StartUp, EscapeOnTheSplashClosesItAndNoFrameFollows)
     EXPECT_EQ(program.frame(), nullptr);
 }
 
+TEST_F(StartUp, LetsAnotherCopyStartOnceItEnds)
+{
+    class Ending : public RecordedServices
+    {
+    public:
+        int times = 0;
+        void endInstance() override { ++times; }
+    } ending;
+    {
+        Program program(folder.path());
+        ASSERT_TRUE(program.start());
+        EXPECT_EQ(ending.times, 0);
+    }
+    EXPECT_EQ(ending.times, 1);
+}
+
 TEST(BasePath, HasOneSeparatorAtItsEnd)
 {
     const QString folder = QDir::toNativeSeparators("/opt/kestrel/");
