@@ -25,6 +25,7 @@ VerseLabel::VerseLabel(QWidget* parent)
     setAutoFillBackground(true);
     m_scrollBar->setPalette(besideReadingSurface(parent->palette()));
     m_scrollBar->setFocusPolicy(Qt::StrongFocus);
+    m_scrollBar->setObjectName("scrollBar");
     m_scrollBar->setAccessibleName("Scroll the verse");
     m_scrollBar->hide();
     connect(m_scrollBar, &QScrollBar::valueChanged, this, [this](int line) {

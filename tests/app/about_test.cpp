@@ -39,9 +39,9 @@ LinkLabel& link(const frmStart& window, const QString& name)
     return control<LinkLabel>(window, name);
 }
 
-QPlainTextEdit& textOf(const QDialog& letter)
+QPlainTextEdit& textOf(const QDialog& opened)
 {
-    return control<QPlainTextEdit>(letter, "Text1");
+    return control<QPlainTextEdit>(opened, "Text1");
 }
 
 int rightOf(const ControlPlace& place)
@@ -122,7 +122,7 @@ TEST(AboutTexts, InformationIsWrittenLineByLine)
     EXPECT_EQ(lines[19], Maker::downloads[2]);
 }
 
-TEST(AboutTexts, BothLettersBeginByTellingHowToCloseThem)
+TEST(AboutTexts, BothBeginByTellingHowToCloseThem)
 {
     for (const QString& text : {donationText(), discOfferText()}) {
         EXPECT_TRUE(text.startsWith("To close this window, press ESC.\r\n\r\n")) << text.toStdString();
@@ -168,16 +168,16 @@ protected:
 
     /// The modal window that is open over the About window when the given control is used; its class name.
     /// It is closed by a press of Esc.
-    void whileLetterIsOpen(std::function<void()> open, std::function<void(QDialog&)> use)
+    void whileTextWindowIsOpen(std::function<void()> open, std::function<void(QDialog&)> use)
     {
         bool used = false;
         const auto looking = onceModal([&](QWidget& window) {
-            auto* letter = qobject_cast<QDialog*>(&window);
-            ASSERT_NE(letter, nullptr);
-            makeActive(letter);
-            use(*letter);
+            auto* opened = qobject_cast<QDialog*>(&window);
+            ASSERT_NE(opened, nullptr);
+            makeActive(opened);
+            use(*opened);
             used = true;
-            QTest::keyClick(letter->focusWidget(), Qt::Key_Escape);
+            QTest::keyClick(opened->focusWidget(), Qt::Key_Escape);
         });
         open();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -324,15 +324,15 @@ TEST_F(About, EscClosesItWhileAButtonIsHeldDown)
     EXPECT_TRUE(boxes.shown.isEmpty());
 }
 
-TEST_F(About, EscClosesALetterWithAnyModifier)
+TEST_F(About, EscClosesATextWindowWithAnyModifier)
 {
     for (const auto modifiers : {Qt::ShiftModifier, Qt::ControlModifier})
         whileAboutIsOpen([&](frmStart& window) {
-            const auto looking = onceModal([&](QWidget& letter) {
-                makeActive(&letter);
+            const auto looking = onceModal([&](QWidget& opened) {
+                makeActive(&opened);
                 press(Qt::Key_Escape, modifiers);
-                EXPECT_FALSE(letter.isVisible());
-                letter.close();
+                EXPECT_FALSE(opened.isVisible());
+                opened.close();
             });
             click(button(window, "cmdDonation"));
             EXPECT_TRUE(window.isVisible());
@@ -402,55 +402,55 @@ TEST_F(About, TabWalksTheControlsFromLeftToRight)
 TEST_F(About, DonationWindowHasItsCaptionAndTextToReadOnly)
 {
     whileAboutIsOpen([&](frmStart& window) {
-        whileLetterIsOpen([&] { click(button(window, "cmdDonation")); },
-                          [&](QDialog& letter) {
-                              auto* donation = qobject_cast<frmDN*>(&letter);
-                              ASSERT_NE(donation, nullptr);
-                              EXPECT_EQ(donation->objectName(), "frmDN");
-                              EXPECT_EQ(donation->windowTitle(), "Your support is needed!");
-                              EXPECT_EQ(textOf(*donation).objectName(), "Text1");
-                              EXPECT_EQ(textOf(*donation).accessibleName(), "Your support is needed!");
-                              EXPECT_EQ(textOf(*donation).toPlainText(),
-                                        QString(donationText()).replace("\r\n", "\n"));
-                              EXPECT_TRUE(textOf(*donation).isReadOnly());
-                              EXPECT_EQ(donation->parentWidget(), &window);
-                              EXPECT_TRUE(donation->isModal());
-                          });
+        whileTextWindowIsOpen([&] { click(button(window, "cmdDonation")); },
+                              [&](QDialog& opened) {
+                                  auto* donation = qobject_cast<frmDN*>(&opened);
+                                  ASSERT_NE(donation, nullptr);
+                                  EXPECT_EQ(donation->objectName(), "frmDN");
+                                  EXPECT_EQ(donation->windowTitle(), "Your support is needed!");
+                                  EXPECT_EQ(textOf(*donation).objectName(), "Text1");
+                                  EXPECT_EQ(textOf(*donation).accessibleName(), "Your support is needed!");
+                                  EXPECT_EQ(textOf(*donation).toPlainText(),
+                                            QString(donationText()).replace("\r\n", "\n"));
+                                  EXPECT_TRUE(textOf(*donation).isReadOnly());
+                                  EXPECT_EQ(donation->parentWidget(), &window);
+                                  EXPECT_TRUE(donation->isModal());
+                              });
     });
 }
 
-TEST_F(About, TheWheelWithCtrlLeavesTheLettersTypeAsItIs)
+TEST_F(About, TheWheelWithCtrlLeavesATextWindowsTypeAsItIs)
 {
     whileAboutIsOpen([&](frmStart& window) {
-        whileLetterIsOpen([&] { click(button(window, "cmdDonation")); },
-                          [&](QDialog& letter) {
-                              QWidget* text = textOf(letter).viewport();
-                              const QFont before = text->font();
-                              QWheelEvent turn(QPointF(20, 20), text->mapToGlobal(QPointF(20, 20)), {},
-                                               QPoint(0, 120), Qt::NoButton, Qt::ControlModifier,
-                                               Qt::NoScrollPhase, false);
-                              QCoreApplication::sendEvent(text, &turn);
-                              EXPECT_EQ(text->font(), before);
-                              EXPECT_EQ(textOf(letter).font(), before);
-                          });
+        whileTextWindowIsOpen([&] { click(button(window, "cmdDonation")); },
+                              [&](QDialog& opened) {
+                                  QWidget* text = textOf(opened).viewport();
+                                  const QFont before = text->font();
+                                  QWheelEvent turn(QPointF(20, 20), text->mapToGlobal(QPointF(20, 20)), {},
+                                                   QPoint(0, 120), Qt::NoButton, Qt::ControlModifier,
+                                                   Qt::NoScrollPhase, false);
+                                  QCoreApplication::sendEvent(text, &turn);
+                                  EXPECT_EQ(text->font(), before);
+                                  EXPECT_EQ(textOf(opened).font(), before);
+                              });
     });
 }
 
 TEST_F(About, OfferWindowHasItsCaptionAndTextToReadOnly)
 {
     whileAboutIsOpen([&](frmStart& window) {
-        whileLetterIsOpen([&] { click(button(window, "cmdQORV")); },
-                          [&](QDialog& letter) {
-                              auto* offer = qobject_cast<frmQORV*>(&letter);
-                              ASSERT_NE(offer, nullptr);
-                              EXPECT_EQ(offer->objectName(), "frmQORV");
-                              EXPECT_EQ(offer->windowTitle(), "QORV CD-ROM Offer");
-                              EXPECT_EQ(textOf(*offer).toPlainText(),
-                                        QString(discOfferText()).replace("\r\n", "\n"));
-                              EXPECT_TRUE(textOf(*offer).isReadOnly());
-                              EXPECT_EQ(offer->parentWidget(), &window);
-                              EXPECT_TRUE(offer->isModal());
-                          });
+        whileTextWindowIsOpen([&] { click(button(window, "cmdQORV")); },
+                              [&](QDialog& opened) {
+                                  auto* offer = qobject_cast<frmQORV*>(&opened);
+                                  ASSERT_NE(offer, nullptr);
+                                  EXPECT_EQ(offer->objectName(), "frmQORV");
+                                  EXPECT_EQ(offer->windowTitle(), "QORV CD-ROM Offer");
+                                  EXPECT_EQ(textOf(*offer).toPlainText(),
+                                            QString(discOfferText()).replace("\r\n", "\n"));
+                                  EXPECT_TRUE(textOf(*offer).isReadOnly());
+                                  EXPECT_EQ(offer->parentWidget(), &window);
+                                  EXPECT_TRUE(offer->isModal());
+                              });
     });
 }
 
@@ -458,8 +458,8 @@ TEST_F(About, EscClosesOnlyTheDonationWindowAndThenTheAboutWindow)
 {
     whileAboutIsOpen([&](frmStart& window) {
         QPointer<QDialog> donation;
-        whileLetterIsOpen([&] { click(button(window, "cmdDonation")); },
-                          [&](QDialog& letter) { donation = &letter; });
+        whileTextWindowIsOpen([&] { click(button(window, "cmdDonation")); },
+                              [&](QDialog& opened) { donation = &opened; });
         EXPECT_TRUE(donation.isNull()) << "the donation window stays loaded";
         EXPECT_TRUE(window.isVisible());
         QTest::keyClick(&window, Qt::Key_Escape);
@@ -467,16 +467,16 @@ TEST_F(About, EscClosesOnlyTheDonationWindowAndThenTheAboutWindow)
     });
 }
 
-TEST_F(About, LettersAreLoadedAfreshEachTime)
+TEST_F(About, TextWindowsAreMadeAfreshEachTime)
 {
     whileAboutIsOpen([&](frmStart& window) {
         for (int i = 0; i < 2; ++i)
-            whileLetterIsOpen([&] { click(button(window, "cmdQORV")); },
-                              [&](QDialog& letter) {
-                                  auto* text = letter.findChild<QPlainTextEdit*>("Text1");
-                                  EXPECT_FALSE(text->textCursor().hasSelection());
-                                  text->selectAll();
-                              });
+            whileTextWindowIsOpen([&] { click(button(window, "cmdQORV")); },
+                                  [&](QDialog& opened) {
+                                      auto* text = opened.findChild<QPlainTextEdit*>("Text1");
+                                      EXPECT_FALSE(text->textCursor().hasSelection());
+                                      text->selectAll();
+                                  });
     });
 }
 
@@ -560,7 +560,7 @@ TEST(LinkLabel, IsAsLargeAsItsPictureOrItsText)
 
 TEST(LinkLabel, LeavesItsRingThreePixelsBesideTheText)
 {
-    const LinkLabel text("cmdMail", "mail", nullptr);
+    const LinkLabel text("mail", nullptr);
     EXPECT_EQ(text.sizeHint().width(), text.fontMetrics().size(Qt::TextSingleLine, "mail").width() + 6);
 }
 
@@ -568,21 +568,21 @@ TEST(LinkLabel, ShowsItsPicture)
 {
     QPixmap green(16, 16);
     green.fill(Qt::green);
-    LinkLabel picture("Image2", QIcon(green), nullptr);
+    LinkLabel picture(QIcon(green), nullptr);
     picture.resize(16, 16);
     EXPECT_EQ(picture.grab().toImage().pixelColor(8, 8), QColor(Qt::green));
 }
 
 TEST(LinkLabel, HasAHandForItsPointer)
 {
-    EXPECT_EQ(LinkLabel("cmdMail", "mail", nullptr).cursor().shape(), Qt::PointingHandCursor);
-    EXPECT_EQ(LinkLabel("Image2", iconOf(PictureId::Mail), nullptr).cursor().shape(), Qt::PointingHandCursor);
+    EXPECT_EQ(LinkLabel("mail", nullptr).cursor().shape(), Qt::PointingHandCursor);
+    EXPECT_EQ(LinkLabel(iconOf(PictureId::Mail), nullptr).cursor().shape(), Qt::PointingHandCursor);
 }
 
 TEST(LinkLabel, IsUnderlinedInTheColorOfLinksWithARingWhileItHasTheFocus)
 {
     QWidget window;
-    LinkLabel link("cmdMail", "mail", &window);
+    LinkLabel link("mail", &window);
     link.resize(link.sizeHint());
     window.show();
     makeActive(&window);
@@ -605,16 +605,16 @@ TEST(LinkLabel, IsUnderlinedInTheColorOfLinksWithARingWhileItHasTheFocus)
 TEST_F(About, ALetterIsReadAndSelectedByKeys)
 {
     whileAboutIsOpen([&](frmStart& window) {
-        whileLetterIsOpen([&] { click(button(window, "cmdDonation")); },
-                          [&](QDialog& letter) {
-                              EXPECT_EQ(letter.size(), QSize(480, 400)); // 7200 x 6000 twips
-                              QPlainTextEdit& text = textOf(letter);
-                              EXPECT_EQ(text.font().family(), "Tahoma");
-                              EXPECT_EQ(text.font().pointSize(), 10);
-                              EXPECT_FALSE(text.testAttribute(Qt::WA_InputMethodEnabled))
-                                  << "nothing is written";
-                              press(Qt::Key_Right, Qt::ShiftModifier);
-                              EXPECT_EQ(text.textCursor().selectedText(), "T");
-                          });
+        whileTextWindowIsOpen([&] { click(button(window, "cmdDonation")); },
+                              [&](QDialog& opened) {
+                                  EXPECT_EQ(opened.size(), QSize(480, 400)); // 7200 x 6000 twips
+                                  QPlainTextEdit& text = textOf(opened);
+                                  EXPECT_EQ(text.font().family(), "Tahoma");
+                                  EXPECT_EQ(text.font().pointSize(), 10);
+                                  EXPECT_FALSE(text.testAttribute(Qt::WA_InputMethodEnabled))
+                                      << "nothing is written";
+                                  press(Qt::Key_Right, Qt::ShiftModifier);
+                                  EXPECT_EQ(text.textCursor().selectedText(), "T");
+                              });
     });
 }

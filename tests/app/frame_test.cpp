@@ -169,7 +169,7 @@ TEST_F(Frame, IsNotSlidByWheelOrKeysAtTheEndOfATextOrList)
             EXPECT_EQ(area.value(), 0) << "a key in " << view->objectName().toStdString();
         }
     }
-    auto& bar = *verse.findChild<QScrollBar*>();
+    auto& bar = control<QScrollBar>(verse, "scrollBar");
     bar.setValue(bar.maximum());
     turnWheel(verse);
     turnWheel(bar);

@@ -264,7 +264,7 @@ TEST_F(HelpSession, OpensAtTheAboutWindowsPageWhileThatIsOpen)
     EXPECT_EQ(page, "frmStart");
 }
 
-TEST_F(HelpSession, OpensAtThePageOfBothLetters)
+TEST_F(HelpSession, OpensAtThePageOfBothTextWindows)
 {
     QStringList pages;
     const auto looking = onceModal([&](QWidget&) {

@@ -223,6 +223,23 @@ TEST_F(ChapterWindow, PageKeysOnAButtonScrollTheTextAndNeverTheFramesArea)
     EXPECT_EQ(area.value(), before);
 }
 
+TEST_F(ChapterWindow, APageKeyOnAButtonLeavesOneLineOnShow)
+{
+    const ChapRead& window = openChapterOf("Ps:119:1");
+    const QScrollBar& bar = *textOf(window).verticalScrollBar();
+    control<SoftBttn>(window, "cmdTip").setFocus();
+    settle(); // what is painted is laid out, and counts with all its lines
+    const int page = bar.pageStep();
+    press(Qt::Key_PageDown);
+    EXPECT_EQ(bar.value(), page - 1);
+    settle();
+    press(Qt::Key_PageDown);
+    EXPECT_EQ(bar.value(), 2 * (page - 1));
+    settle();
+    press(Qt::Key_PageUp);
+    EXPECT_EQ(bar.value(), page - 1);
+}
+
 TEST_F(ChapterWindow, LeavesTheSelectionAloneWhenTheVerseIsNotInIt)
 {
     ChapRead& window = openChapterOf("Mt:24:43");

@@ -366,7 +366,7 @@ TEST_F(Reading, AScreenReaderReadsALongVerseLineByLine)
         EXPECT_EQ(text->characterRect(start).top(), text->characterRect(end - 2).top()) << line.toStdString();
     }
     EXPECT_EQ(all, verse().text());
-    auto* bar = verse().findChild<QScrollBar*>();
+    auto* bar = &control<QScrollBar>(verse(), "scrollBar");
     EXPECT_EQ(lines, bar->maximum() + bar->pageStep() + 1);
     const QPoint before = text->characterRect(text->characterCount() - 1).center();
     EXPECT_FALSE(verse().rect().contains(verse().mapFromGlobal(before)));
@@ -387,7 +387,7 @@ TEST_F(Reading, AScreenReaderScrollsNoVerseBehindAMessage)
     settle();
     text->scrollToSubstring(text->characterCount() - 1, text->characterCount());
     text->setCursorPosition(text->characterCount() - 1);
-    auto* bar = verse().findChild<QScrollBar*>();
+    auto* bar = &control<QScrollBar>(verse(), "scrollBar");
     EXPECT_GT(bar->maximum(), 0);
     EXPECT_EQ(bar->value(), 0);
     message.close();
@@ -401,7 +401,7 @@ TEST_F(Reading, FirstFocusIsOnNextAlsoBesideALongVerse)
     settle();
     window = &frame().readingWindow();
     window->showFirst("SELECT * FROM NewTestament WHERE VerseId = 'Est:8:9'");
-    auto* bar = verse().findChild<QScrollBar*>();
+    auto* bar = &control<QScrollBar>(verse(), "scrollBar");
     ASSERT_TRUE(bar->isVisible());
     EXPECT_TRUE(button("cmdNext").hasFocus());
     for (int presses = 0; presses < 20 && !bar->hasFocus(); ++presses)
@@ -513,7 +513,7 @@ TEST_F(Reading, NothingIsCutOffAtTheDesignedSize)
 TEST_F(Reading, AVerseLongerThanTheWindowCanBeScrolledToItsEnd)
 {
     hand("VerseId = 'Est:8:9'");
-    auto* bar = verse().findChild<QScrollBar*>();
+    auto* bar = &control<QScrollBar>(verse(), "scrollBar");
     ASSERT_NE(bar, nullptr);
     EXPECT_TRUE(bar->isVisible());
     EXPECT_GT(bar->maximum(), 0);
@@ -574,7 +574,7 @@ TEST_F(Reading, PageKeysNeverSlideTheFramesAreaBehindALongVerse)
 TEST_F(Reading, TheScrollBarOfAVerseSaysWhatItIsAndShowsItsFocus)
 {
     hand("VerseId = 'Est:8:9'");
-    auto* bar = verse().findChild<QScrollBar*>();
+    auto* bar = &control<QScrollBar>(verse(), "scrollBar");
     EXPECT_EQ(QAccessible::queryAccessibleInterface(bar)->text(QAccessible::Name), "Scroll the verse");
     button("cmdNext").setFocus();
     const QImage without = bar->grab().toImage();
@@ -590,7 +590,7 @@ TEST_F(Reading, AnotherTypeKeepsThePlaceInALongVerse)
 {
     hand("VerseId = 'Est:8:9'");
     click(button("cmdFont"));
-    auto* bar = verse().findChild<QScrollBar*>();
+    auto* bar = &control<QScrollBar>(verse(), "scrollBar");
     press(Qt::Key_PageDown);
     const int lines = bar->value();
     ASSERT_GT(lines, 0);
@@ -609,7 +609,7 @@ TEST_F(Reading, AnotherSizeOfTheWindowKeepsThePlaceInALongVerse)
     const auto top = [&](int character) {
         return verse().mapFromGlobal(text->characterRect(character).center()).y();
     };
-    auto* bar = verse().findChild<QScrollBar*>();
+    auto* bar = &control<QScrollBar>(verse(), "scrollBar");
     const int lines = bar->value();
     const int first = text->offsetAtPoint(verse().mapToGlobal(QPoint(20, 20)));
     ASSERT_GT(first, 0);
@@ -626,7 +626,7 @@ TEST_F(Reading, AnotherSizeOfTheWindowKeepsThePlaceInALongVerse)
 TEST_F(Reading, TheWheelScrollsALongVerse)
 {
     hand("VerseId = 'Est:8:9'");
-    auto* bar = verse().findChild<QScrollBar*>();
+    auto* bar = &control<QScrollBar>(verse(), "scrollBar");
     turnWheel(verse());
     EXPECT_GT(bar->value(), 0);
     hand("VerseId = 'Jn:11:35'");
@@ -764,7 +764,7 @@ TEST_F(Reading, TheWheelOverAVersesEndNeverMovesTheFramesArea)
     QScrollBar& area = *frame().area()->verticalScrollBar();
     ASSERT_GT(area.maximum(), 0);
     const int before = area.value();
-    auto* bar = verse().findChild<QScrollBar*>();
+    auto* bar = &control<QScrollBar>(verse(), "scrollBar");
     bar->setValue(bar->maximum());
     turnWheel(verse());
     hand("VerseId = 'Jn:11:35'");
@@ -774,7 +774,7 @@ TEST_F(Reading, TheWheelOverAVersesEndNeverMovesTheFramesArea)
 
 TEST_F(Reading, TheScrollBarOfAVerseHasTheColorsOfTheWindow)
 {
-    const auto* bar = verse().findChild<QScrollBar*>();
+    const auto* bar = &control<QScrollBar>(verse(), "scrollBar");
     for (const auto role : {QPalette::Window, QPalette::Base, QPalette::WindowText, QPalette::Text})
         EXPECT_EQ(bar->palette().color(role), window->palette().color(role));
 }

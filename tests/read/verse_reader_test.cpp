@@ -1,6 +1,7 @@
 // What a screen reader is told of the large verse, and what it can do with it.
 #include "read/VerseKeyLabel.h"
 #include "read/VerseLabel.h"
+#include "support/Controls.h"
 #include "widgets/Fonts.h"
 #include <gtest/gtest.h>
 #include <QAccessible>
@@ -30,7 +31,7 @@ protected:
 
     QAccessibleInterface& spoken() { return *QAccessible::queryAccessibleInterface(&label); }
     QAccessibleTextInterface& text() { return *spoken().textInterface(); }
-    QScrollBar& bar() { return *label.findChild<QScrollBar*>(); }
+    QScrollBar& bar() { return control<QScrollBar>(label, "scrollBar"); }
     int last() { return text().characterCount() - 1; }
 
     QWidget window;
