@@ -2,9 +2,10 @@
 import os
 import re
 
-from tree import lines, scripts, sources
+from tree import lines, modules, scripts, sources
 
-MAX_LINES = {"src": 450, "tools": 300, "bench": 300, "tests": 800}  # lines of a file
+MAX_LINES = {"src": 450, "tools": 300, "bench": 300, "tests": 800}  # of a C++ file
+MAX_SCRIPT_LINES = 450  # and of one in Python or the shell
 DEPRECATED = {"setActiveWindow(": "makeActive() of tests/support/ActiveWindow.h stands for it",
               ".mirrored(": "lines are copied in turn; flipped() is younger than Qt 6.4",
               '"_qs': "QString::fromUtf8() or QStringLiteral() does the same"}
@@ -33,12 +34,13 @@ def test_names(top):
 
 
 def lengths(top):
+    limits = [(path, maximum) for folder, maximum in MAX_LINES.items() for path in sources(top, folder)]
+    limits += [(path, MAX_SCRIPT_LINES) for path in {*scripts(top), *modules(top)}]
     found = []
-    for folder, maximum in MAX_LINES.items():
-        for path in sources(top, folder):
-            count = sum(1 for _ in lines(path))
-            if count > maximum:
-                found.append(f"{path}: {count} lines, more than {maximum}: part it by what it is about")
+    for path, maximum in limits:
+        count = sum(1 for _ in lines(path))
+        if count > maximum:
+            found.append(f"{path}: {count} lines, more than {maximum}: part it by what it is about")
     return found
 
 

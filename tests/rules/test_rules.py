@@ -77,6 +77,8 @@ def test_a_sound_house_keeps_them(house, rule):
     (names, "src/read/Mirror.cpp", "return image.mirrored();\n", "src/read/Mirror.cpp:1: a later Qt deprecates .mirrored("),
     (names, "tests/read/ChapterTests.cpp", "TEST(Chapter, Is)\n", "tests/read/ChapterTests.cpp: a file of tests is named after"),
     (names, "src/read/Long.h", "//\n" * 2000, "src/read/Long.h: 2000 lines, more than"),
+    (names, "tests/e2e/test_long.py", "#\n" * 451, "tests/e2e/test_long.py: 451 lines, more than 450"),
+    (names, "tools/make_data", "#!/bin/sh\n" + "#\n" * 450, "tools/make_data: 451 lines, more than 450"),
     (systems, "src/read/Where.cpp", "#ifdef _WIN32\n", "src/read/Where.cpp:1: _WIN32 is one system's; it stands in a file named after"),
     (systems, "src/read/Where.cpp", "#include <unistd.h>\n", "unistd is one system's; it stands in a file named after that, WhereLinux.cpp"),
     (systems, "src/read/Where.h", "#if defined(Q_OS_LINUX)\n", "src/read/Where.h:1: Q_OS_LINUX is one system's"),

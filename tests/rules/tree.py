@@ -15,6 +15,11 @@ def lines(path):
     return enumerate(path.read_text(encoding="utf-8").splitlines(), 1)
 
 
+def modules(top):
+    """Files in Python that others import, and tests."""
+    return [path for folder in ("tools", "bench", "tests", "data", "packaging") for path in sorted((top / folder).rglob("*.py"))]
+
+
 def scripts(top):
     """Files that say by their first line what runs them."""
     found = []
