@@ -61,6 +61,8 @@ INSTANTIATE_TEST_SUITE_P(
         Hostile{"more than 4 MB", page(QString("a ").repeated(2 * 1024 * 1024))},
         Hostile{"3,000 nested tables", page(QString("<table><tr><td>").repeated(3000))},
         Hostile{"a table in a table", page("<table><tr><td><table></table></td></tr></table>")},
+        Hostile{"a table in a table's second row",
+                page("<table><tr><td>a</td></tr><tr><td><table></table></td></tr></table>")},
         Hostile{"nested lists", page(QString("<ul><li>").repeated(9))},
         Hostile{"letters in letters", page(QString("<b>").repeated(100'000))},
         Hostile{"letters ended before they begin",
