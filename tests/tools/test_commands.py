@@ -12,15 +12,20 @@ from tools_support import SOURCE, as_at_a_terminal
 
 COMMANDS = ("setup", "run", "packages", "data/topics")
 ASSEMBLED = ["KESTREL.HLP", "KESTRPT.DAT", "SEARCH.AVI", "kestrel-reader"]
-CMAKE = """#!/bin/sh
-[ "$1" = --build ] || exit 0
-echo "[1/2] one"
-touch started
-sleep "${STUB_SECONDS:-0}"
-echo "[2/2] two"
-mkdir -p build/release/tools
-cp "$KESTREL_TOOLS_DIR"/import_text "$KESTREL_TOOLS_DIR"/build_database "$KESTREL_TOOLS_DIR"/make_clip build/release/tools
-cp "$KESTREL_PROGRAM" build/release/kestrel-reader
+# In Python, which an interruption ends whatever it is at; the shell may miss one between two of its commands.
+CMAKE = """#!/usr/bin/python3
+import os, pathlib, shutil, sys, time
+if sys.argv[1] != "--build":
+    sys.exit()
+print("[1/2] one", flush=True)
+pathlib.Path("started").touch()
+time.sleep(int(os.environ.get("STUB_SECONDS", "0")))
+print("[2/2] two", flush=True)
+tools = pathlib.Path("build/release/tools")
+tools.mkdir(parents=True, exist_ok=True)
+for name in ("import_text", "build_database", "make_clip"):
+    shutil.copy(f"{os.environ['KESTREL_TOOLS_DIR']}/{name}", tools)
+shutil.copy(os.environ["KESTREL_PROGRAM"], "build/release/kestrel-reader")
 """
 
 
