@@ -24,7 +24,13 @@ protected:
     QString key(int line) { return list().text(line).section(' ', 0, 0); }
     QString shownVerse() { return open<ChildRead>() ? get<ChildRead>().currentKey() : "none"; }
     void back() { window().activate(), list().setFocus(); }
-    void pointAt(const QPoint& point) { QTest::mouseMove(list().viewport(), point); }
+    /// Sent, since a system may tell of its own pointer later.
+    void pointAt(const QPoint& point)
+    {
+        QMouseEvent move(QEvent::MouseMove, point, list().viewport()->mapToGlobal(point), Qt::NoButton, {},
+                         {});
+        QApplication::sendEvent(list().viewport(), &move);
+    }
     /// The second click of a double click, which Qt gives another name.
     void clickOnceMore(int place)
     {

@@ -302,6 +302,7 @@ TEST_F(Searching, LeavesTheQueryAsItWasForNoConnective)
 TEST_F(Searching, PlaysItsClipWhileTheQueryRuns)
 {
     ASSERT_GT(Animation1().frameCount(), 1);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&frame())); // before that Qt paints nothing
     Text1().setText("*");
     Combo2().setCurrentIndex(NoRange);
     class Playing : public QObject
