@@ -12,6 +12,9 @@ LEFT_OUT = {
     "store: SmallSource.GoesOnAfterTheFileIsRemovedOrReplaced": "Windows lets nobody remove a file that is open",
     "desktop: ClipboardContents.IsEmptiedBeforeTextIsPutOnIt": "Windows tells of a change later, when the next has been made",
     "desktop: ClipboardContents.IsEmptiedBeforeAPictureIsPutOnIt": "the same",
+    "app: StartUp.ReadsTheTimeInLocalTimeInEveryZone": "a zone is no variable there; the tests of the zones have five",
+    "app: Frame.OpensMaximisedWhereTheScreenIsSmall": "the session's screen is higher than 800 dots",
+    "app: Frame.TakesMostOfASmallScreenOnceItIsNoLongerMaximised": "the same",
 }
 
 
