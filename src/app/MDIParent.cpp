@@ -45,7 +45,6 @@ MDIParent::MDIParent(Program& program)
     setWindowTitle("Kestrel Reader: Portuguese Version - Freeware");
     setWindowIcon(iconOf(PictureId::Application));
     m_area->setAccessibleName("Windows");
-    m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder);
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded); // a map can be larger than the frame
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     makeToolbar();

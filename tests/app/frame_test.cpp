@@ -95,6 +95,16 @@ TEST_F(Frame, F2BringsTheOneSelectionWindowForward)
     EXPECT_TRUE(select->isAncestorOf(QApplication::focusWidget()));
 }
 
+TEST_F(Frame, CtrlTabGoesBackToTheWindowUsedBefore)
+{
+    frame().readingWindow().activate();
+    frame().chapterWindow().activate();
+    frame().readingWindow().activate(); // made after the selection window
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+    QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Control);
+    EXPECT_EQ(activeForm(), open<ChapRead>());
+}
+
 TEST_F(Frame, F2RestoresAMinimisedSelectionWindow)
 {
     get<ChildSelect>().setState(Form::Minimized);

@@ -240,7 +240,7 @@ class Reader:
         words = " ".join([f"{role}: {node.name}", *(f"({mark})" for mark in marks)])
         lines = ["  " * depth + words] if has_words else []
         if role not in WITH_ENTRIES:
-            for child in node:
+            for child in filter(None, node):  # one may go away meanwhile
                 lines += self.lines(child, showing, depth + has_words)
         return lines
 
