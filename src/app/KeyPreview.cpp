@@ -20,6 +20,13 @@ bool keepFromShortcuts(QKeyEvent& key)
     return key.type() == QEvent::ShortcutOverride;
 }
 
+/// While an assistive program listens, Qt keeps each key until AT-SPI has answered, and then sends a copy.
+/// That of Alt, after the letter of an access key, would make QMenuBar take Alt for pressed alone.
+bool isCopyOfAlt(const QKeyEvent& key)
+{
+    return key.type() == QEvent::ShortcutOverride && key.key() == Qt::Key_Alt && !key.spontaneous();
+}
+
 void tellOfClick(QObject* watched, const QFocusEvent& event)
 {
     auto* control = qobject_cast<QWidget*>(watched);
@@ -46,7 +53,7 @@ bool KeyPreview::eventFilter(QObject* watched, QEvent* event)
         return false;
     auto& key = static_cast<QKeyEvent&>(*event);
     Form* form = Form::of(activeWidget());
-    if (form && form->isMoved())
+    if (isCopyOfAlt(key) || (form && form->isMoved()))
         return keepFromShortcuts(key);
     if (isHelpKey(key)) // the control sees it all the same, and first
         QMetaObject::invokeMethod(&m_help, &Help::open, Qt::QueuedConnection);
