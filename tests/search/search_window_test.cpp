@@ -473,8 +473,8 @@ TEST_F(SearchWindow, LeavesTheMenusReachable)
             edit = entry->menu();
     ASSERT_NE(edit, nullptr);
     Text1().setFocus();
-    QTest::keyPress(QApplication::focusWidget(), Qt::Key_Alt);
-    QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Alt, Qt::AltModifier);
+    QTest::keyPress(frame().windowHandle(), Qt::Key_Alt); // as a keyboard does
+    QTest::keyRelease(frame().windowHandle(), Qt::Key_Alt, Qt::AltModifier);
     ASSERT_TRUE(frame().menuBar()->hasFocus());
     press(Qt::Key_E);
     EXPECT_TRUE(edit->isVisible());
