@@ -18,6 +18,7 @@ VIAddVersionKey "FileDescription" "Installs Kestrel Reader (PT)"
 VIAddVersionKey "FileVersion" "${VERSION}"
 VIAddVersionKey "LegalCopyright" "The Kestrel Reader developers. MIT licence."
 
+!include LogicLib.nsh
 !include MUI2.nsh
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
@@ -32,14 +33,27 @@ VIAddVersionKey "LegalCopyright" "The Kestrel Reader developers. MIT licence."
 !insertmacro MUI_LANGUAGE "Portuguese"
 !insertmacro MUI_LANGUAGE "PortugueseBR"
 
+; Windows lets nobody replace or remove a program that runs: half of it would be another version, or be left alone.
+!macro RefuseWhileItRuns
+    ${If} ${FileExists} "$INSTDIR\kestrel-reader.exe"
+        ClearErrors
+        FileOpen $0 "$INSTDIR\kestrel-reader.exe" a
+        ${If} ${Errors}
+            MessageBox MB_OK|MB_ICONSTOP "Kestrel Reader is running, or may not be changed. Please close it, and try again." /SD IDOK
+            SetErrorLevel 2
+            Abort
+        ${EndIf}
+        FileClose $0
+    ${EndIf}
+!macroend
+
 Section
+    !insertmacro RefuseWhileItRuns
     SetOutPath "$INSTDIR"
+    ClearErrors
     File /r "${FOLDER}\*"
-    ; Only here the computer's zone is known.
-    ExecWait '"$INSTDIR\kestrel-stamp.exe" /quiet' $0
-    ${If} $0 <> 0
-        MessageBox MB_OK|MB_ICONSTOP "The time of the text could not be set; the program would refuse it. \
-            Please run this Setup again." /SD IDOK
+    ${If} ${Errors}
+        MessageBox MB_OK|MB_ICONSTOP "Not all files could be written. Please run this Setup again." /SD IDOK
         SetErrorLevel 2
         Abort
     ${EndIf}
@@ -54,10 +68,21 @@ Section
     WriteRegStr HKCU "${UNINSTALL}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
     WriteRegDWORD HKCU "${UNINSTALL}" "NoModify" 1
     WriteRegDWORD HKCU "${UNINSTALL}" "NoRepair" 1
+    ; Only here the computer's zone is known.
+    ClearErrors
+    ExecWait '"$INSTDIR\kestrel-stamp.exe" /quiet' $0
+    ${If} ${Errors}
+    ${OrIf} $0 <> 0
+        MessageBox MB_OK|MB_ICONSTOP "The time of the text could not be set; the program would refuse it. \
+            Please run this Setup again." /SD IDOK
+        SetErrorLevel 2
+        Abort
+    ${EndIf}
 SectionEnd
 
 ; Only what was installed: the reader may have put files of his own beside it.
 Section "Uninstall"
+    !insertmacro RefuseWhileItRuns
     !include "${OUTPUT}.files.nsh"
     Delete "$INSTDIR\uninstall.exe"
     RMDir "$INSTDIR"

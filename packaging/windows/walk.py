@@ -231,12 +231,28 @@ def other_windows(walk):
     walk.focus(FRAME)
 
 
-def nothing_is_left(walk):
+def files_below(*folders):
+    """Each file, and when it was last written."""
+    return {path: path.stat().st_mtime for folder in folders for path in folder.rglob("*") if path.is_file()}
+
+
+def setup_while_it_runs(walk):
+    before = files_below(walk.folder)
+    walk.check(walk.wine.run(windows_path(installer()), "/S", r"/D=C:\Leitor_é_Ж") == 2, "the installer refuses to replace it while it runs")
+    walk.check(walk.wine.run(windows_path(walk.folder / "uninstall.exe"), "/S", r"_?=C:\Leitor_é_Ж") == 2,
+               "the uninstaller refuses to remove it while it runs")
+    walk.check(before == files_below(walk.folder), "and nothing has been changed")
+
+
+def nothing_is_left(walk, before):
     # It goes on from a copy of itself, after this has ended.
     walk.check(walk.wine.run(windows_path(walk.folder / "uninstall.exe"), "/S") == 0, "it is uninstalled")
     walk.check(comes_about(lambda: not walk.folder.exists()), f"its folder is gone: {[path.name for path in walk.folder.rglob('*')]}")
     walk.check(not list((walk.wine.prefix / "drive_c/users").rglob("Kestrel*.lnk")), "nor in the start menu")
     walk.check(not walk.wine.registry(KEY), "nor in the registry")
+    # Windows takes the uninstaller's copy of itself away when it starts again.
+    left = [str(path) for path in files_below(walk.wine.prefix / "drive_c/users") if path not in before and "~nsu" not in str(path)]
+    walk.check(not left, f"nor elsewhere among the user's files: {left}")
 
 
 def run():
@@ -245,19 +261,23 @@ def run():
     programs.build("drop_target")
     with virtual.Desktop() as session, Wine(session, "walk") as wine:
         folder = wine.prefix / "drive_c" / "Leitor_é_Ж"
+        users = wine.prefix / "drive_c" / "users"
+        empty = files_below(users)
         code = wine.run(windows_path(installer()), "/S", r"/D=C:\Leitor_é_Ж")
         walk = Walk(session, wine, folder)
         walk.check(code == 0 and folder.exists(), f"it is installed in {folder.name}")
         refusals(walk)
+        installed = files_below(folder, users)
         process = reading(walk)
+        setup_while_it_runs(walk)
         searching(walk)
         studying(walk)
         dragging(walk)
         about(walk)
         other_windows(walk)
-        before = {path: path.stat().st_mtime for path in folder.rglob("*")}
         walk.keys("alt+f", "x")
         walk.check(process.wait(virtual.PATIENCE) == 0, "it ends with 0 by its menu")
-        walk.check(before == {path: path.stat().st_mtime for path in folder.rglob("*")}, "it has written nothing in its folder")
-        nothing_is_left(walk)
+        written = dict(files_below(folder, users).items() - installed.items())
+        walk.check(not written, f"nothing has been written in its folder or among the user's files: {[str(path) for path in written]}")
+        nothing_is_left(walk, empty)
         return walk.failures
